@@ -1,0 +1,71 @@
+#pragma once
+
+#include <vector>
+
+#include "platform/types.h"
+
+namespace tamber {
+
+enum class MessageIcon { None, Information, Warning, Error };
+enum class Choices { YesNo, YesNoCancel };
+enum class Answer { Yes, No, Cancel };
+
+struct FileFilter {
+    String Text;     ///< as in "SWFファイル (*.swf)"
+    String Pattern;  ///< as in "*.swf", several separated by ";"
+};
+
+struct FileDialog {
+    String Title;
+    std::vector<FileFilter> Filters;
+    String Folder;
+    String FileName;
+    std::size_t FilterIndex = 0;
+};
+
+/// All that the program says to and asks of a person. A window, a run without one and a test each
+/// have their own.
+class UserInterface {
+public:
+    virtual ~UserInterface() = default;
+
+    /// Shows a text and waits until it is read. Lines are separated by CR LF.
+    virtual void Message(StringView text, StringView title, MessageIcon icon) = 0;
+    /// Asks. Without a person the safe answer comes back: Cancel where there is one, else No.
+    virtual Answer Ask(StringView text, StringView title, Choices choices) = 0;
+    /// Path to open or to write, empty when cancelled.
+    virtual String OpenFileDialog(const FileDialog& dialog) = 0;
+    virtual String SaveFileDialog(const FileDialog& dialog) = 0;
+    /// Folder chosen, empty when cancelled.
+    virtual String SelectFolderDialog(StringView title) = 0;
+    /// Long work: `done` of `total` items; `done` = `total` ends the display.
+    virtual void Progress(Long done, Long total) = 0;
+    /// One line into the status area.
+    virtual void Status(StringView text) = 0;
+};
+
+/// Title of messages that have none of their own.
+inline constexpr StringView ProgramTitle = u"Tamber";
+
+/// The interface of the calling thread: that of the innermost UserInterfaceScope, else the one that
+/// prints to standard error.
+UserInterface& CurrentUserInterface();
+
+/// Makes `interface` the calling thread's own for the life of the scope.
+class UserInterfaceScope {
+public:
+    explicit UserInterfaceScope(UserInterface& interface);
+    ~UserInterfaceScope();
+    UserInterfaceScope(const UserInterfaceScope&) = delete;
+    UserInterfaceScope& operator=(const UserInterfaceScope&) = delete;
+
+private:
+    UserInterface* previous_;
+};
+
+inline void ShowMessage(StringView text, StringView title = ProgramTitle,
+                        MessageIcon icon = MessageIcon::None) {
+    CurrentUserInterface().Message(text, title, icon);
+}
+
+}  // namespace tamber

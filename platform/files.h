@@ -1,0 +1,27 @@
+#pragma once
+
+#include <functional>
+
+#include "platform/types.h"
+
+namespace tamber {
+
+/// Reads a whole file, or `count` bytes from `offset`. False when it cannot be opened or read; a
+/// folder is no file.
+bool ReadFileBytes(StringView path, Bytes& bytes, std::uint64_t offset = 0,
+                   std::uint64_t count = UINT64_MAX);
+/// Fills a prepared array from the file's start and returns the bytes read.
+std::size_t ReadFileHead(std::span<Byte> bytes, StringView path);
+
+/// Puts a whole new file at `path`: the bytes go into a file beside it, are flushed, and take the
+/// name in one step. False leaves an earlier file as it was and nothing beside it. With `replace`
+/// false an existing file is left and the result is false.
+bool WriteFileBytes(ByteView bytes, StringView path, bool replace = true);
+
+/// The steps of a write, each of which a test can make fail. A step returns false on failure.
+struct FileSteps {
+    std::function<bool()> BeforeStep;  ///< called before each step when set; false fails the step
+};
+FileSteps& WriteSteps();
+
+}  // namespace tamber
