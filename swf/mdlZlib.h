@@ -1,0 +1,16 @@
+#pragma once
+
+#include <optional>
+
+#include "platform/types.h"
+
+namespace tamber::mdlZlib {
+
+/// The zlib stream of `bytes` at the default level.
+Bytes ZlibCompress(ByteView bytes);
+
+/// What a zlib stream holds; nothing when it is damaged, ends early, or would give more than
+/// `limit` bytes. Memory grows with the output, not with what the stream claims.
+std::optional<Bytes> ZlibUncompress(ByteView stream, std::size_t limit);
+
+}  // namespace tamber::mdlZlib
