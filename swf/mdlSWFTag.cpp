@@ -70,14 +70,22 @@ void SetOptionalPair(bool present, Long a, Long b) {
     if (present) SetPair(a, b);
 }
 
-bool UsesUtf8(Long version, bool blAllowUTF8) { return version >= 6 && blAllowUTF8; }
+bool UsesUtf8(Long version, bool blAllowUTF8) {
+    return version >= 6 && blAllowUTF8;
+}
 
 }  // namespace
 
-Long swfVersion() { return stream.version; }
-void swfVersion(Long version) { stream.version = version; }
+Long swfVersion() {
+    return stream.version;
+}
+void swfVersion(Long version) {
+    stream.version = version;
+}
 
-void InitBuffer() { LoadBuffer(Bytes(BufferStep + 1)); }
+void InitBuffer() {
+    LoadBuffer(Bytes(BufferStep + 1));
+}
 
 Bytes TakeBuffer() {
     SetAlign();
@@ -94,14 +102,18 @@ void LoadBuffer(Bytes bytes) {
     stream.pendingCount = 0;
 }
 
-std::size_t swfBytePos() { return stream.bytePos; }
+std::size_t swfBytePos() {
+    return stream.bytePos;
+}
 
 void swfBytePos(std::size_t position) {
     stream.bytePos = position;
     stream.pendingCount = 0;
 }
 
-Long swfBitPos() { return 7 - stream.pendingCount; }
+Long swfBitPos() {
+    return 7 - stream.pendingCount;
+}
 
 void SetAlign() {
     Stream& s = stream;
@@ -139,7 +151,9 @@ void SetBits(Long bitCount, Long value) {
     }
 }
 
-void SetFloat(Single value) { SetBytes(4, std::bit_cast<Long>(value)); }
+void SetFloat(Single value) {
+    SetBytes(4, std::bit_cast<Long>(value));
+}
 
 Bytes StringBytes(StringView text, bool blTerminate, bool blAllowUTF8) {
     Bytes bytes = UsesUtf8(stream.version, blAllowUTF8) ? EncodeUtf8(text) : EncodeAnsi(text);
@@ -160,7 +174,9 @@ void SetTagHeader(Long tagCode, Long length, bool blLong) {
     SetBytes(4, length);
 }
 
-void SetEndTag() { SetBytes(2, 0); }
+void SetEndTag() {
+    SetBytes(2, 0);
+}
 
 void SetRect(Long xMin, Long xMax, Long yMin, Long yMax) {
     SetAlign();
@@ -208,8 +224,8 @@ void SetMatrixTransform(Single scaleX, Single scaleY, Single angle, SwfPoint tra
         px = xa + yc;
         py = xb + yd;
     }
-    const Long translateX = RoundToLong(px + static_cast<Single>(translate.X));
-    const Long translateY = RoundToLong(py + static_cast<Single>(translate.Y));
+    const Long translateX = RoundToLong(static_cast<double>(px) + translate.X);
+    const Long translateY = RoundToLong(static_cast<double>(py) + translate.Y);
     SetOptionalPair(a != 1.0f || d != 1.0f, ToFixed(a), ToFixed(d));
     SetOptionalPair(b != 0 || cc != 0, ToFixed(b), ToFixed(cc));
     SetPair(translateX, translateY);
@@ -282,7 +298,9 @@ Byte NextByte(StringView source) {
 }
 
 /// Drops the rest of a byte that was begun by GetBits.
-void AlignReader() { stream.pendingCount = 0; }
+void AlignReader() {
+    stream.pendingCount = 0;
+}
 
 }  // namespace
 
