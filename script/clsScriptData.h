@@ -1,0 +1,52 @@
+#pragma once
+
+#include "document/clsCSV.h"
+#include "platform/types.h"
+
+namespace tamber {
+
+/// One script: free text, or a simple action that composes its own.
+class clsScriptData {
+public:
+    static constexpr Long ModeFree = -1;
+    static constexpr Long ModePlay = 0;
+    static constexpr Long ModeStop = 1;
+    static constexpr Long ModeJump = 2;
+    static constexpr Long ModePrevious = 3;
+    static constexpr Long ModeNext = 4;
+    static constexpr Long ModeUrl = 5;
+
+    /// The free text.
+    String ScriptText;
+    /// Jump: 0 the target is a number or expression, 1 a frame label.
+    Long nPrm1 = 0;
+    /// Jump: 0 goes on playing, 1 stops.
+    Long nPrm2 = 0;
+    /// Jump: frame or label. URL: the address.
+    String strPrm1;
+    /// URL: the window, may be empty.
+    String strPrm2;
+    /// Timeline that a simple action is aimed at, may be empty.
+    String TargetPath;
+
+    Long eScriptMode() const { return mode_; }
+    void eScriptMode(Long mode);
+
+    /// The text to compile, for a movie of this version.
+    String Script(Long swfVersion) const;
+    /// Caption of a simple action.
+    String Comment() const;
+    /// The script cut to `length` characters for a tool tip.
+    String PrevScript(Long length, Long swfVersion) const;
+    /// Target paths don't count.
+    bool Compare(const clsScriptData& other) const;
+    clsScriptData Copy() const { return *this; }
+    void CopyTo(clsScriptData& target) const { target = *this; }
+    void Load(clsCSV& csv);
+    void Save(clsCSV& csv) const;
+
+private:
+    Long mode_ = ModeFree;
+};
+
+}  // namespace tamber
