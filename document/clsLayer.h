@@ -67,8 +67,8 @@ public:
     /// Frame under a pixel of the timeline.
     Long CheckFrame(Long x) const;
 
-    /// Adds a key frame at a frame, or behind the last one when `frame` is below 1. `index` is where
-    /// it stands, -1 when the frame is taken. Null makes a new one.
+    /// Adds a key frame at a frame, or behind the last one when `frame` is below 1. `index` is
+    /// where it stands, -1 when the frame is taken. Null makes a new one.
     void Add(Long frame, std::shared_ptr<clsLayerObject> object, Long& index);
     /// The last key frame left stays.
     void Remove(Long index);

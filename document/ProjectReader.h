@@ -1,0 +1,32 @@
+#pragma once
+
+#include "document/Project.h"
+#include "platform/types.h"
+
+namespace tamber {
+
+/// What reads the files that a project refers to. Each reader is given a symbol whose file exists
+/// and fills its record; false when the file cannot be read.
+class ProjectAssets {
+public:
+    virtual ~ProjectAssets() = default;
+
+    virtual bool LoadBitmap(clsSymbolData& symbol) const = 0;
+    virtual bool LoadVector(clsSymbolData& symbol) const = 0;
+    virtual bool LoadSound(clsSymbolData& symbol) const = 0;
+    virtual bool LoadMovie(clsSymbolData& symbol) const = 0;
+    virtual bool FontAvailable(StringView name) const = 0;
+    /// Font for texts whose own is not available.
+    virtual String DefaultFont() const = 0;
+    /// Works out the box of a text whose record is complete.
+    virtual void SetTextSize(clsSymbolData& symbol) const = 0;
+};
+
+/// Reads a project file, plain or compressed. On failure the user was told, the result is false and
+/// `out` is as before.
+bool LoadProject(StringView path, Project& out, const ProjectAssets& assets);
+
+/// As `LoadProject`, from the bytes of a file. `path` tells the folder that paths are relative to.
+bool LoadProjectBytes(ByteView bytes, StringView path, Project& out, const ProjectAssets& assets);
+
+}  // namespace tamber

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <memory>
+
+#include "document/clsPropertyData.h"
+#include "platform/Collection.h"
+
+namespace tamber {
+
+class clsLayer;
+
+/// A class of ActionScript; each layer holds a part of its text.
+class clsPropertyClass : public clsPropertyData {
+public:
+    String className;
+    String Extends;
+    std::shared_ptr<Collection<clsLayer>> colLayer = std::make_shared<Collection<clsLayer>>();
+
+    Long eType() const override { return KindClass; }
+    void Load(clsCSV& csv) override;
+    void Save(clsCSV& csv) const override;
+    void CopyTo(clsPropertyData& target) const override { CopyRecord(*this, target); }
+};
+
+}  // namespace tamber

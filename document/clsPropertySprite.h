@@ -1,0 +1,40 @@
+#pragma once
+
+#include <memory>
+
+#include "document/clsPropertyData.h"
+#include "platform/Collection.h"
+
+namespace tamber {
+
+class clsLayer;
+class clsSymbolData;
+
+/// A sprite: a timeline of its own.
+class clsPropertySprite : public clsPropertyData {
+public:
+    String SpriteName;
+    Long Width = 0;
+    Long height = 0;
+    Long baseX = 0;
+    Long baseY = 0;
+    /// Nine-slice scaling by the grid, in pixels.
+    bool bl9Scale = false;
+    Long GridLeft = 0;
+    Long GridTop = 0;
+    Long GridRight = 0;
+    Long GridBottom = 0;
+    std::shared_ptr<Collection<clsLayer>> colLayer = std::make_shared<Collection<clsLayer>>();
+
+    /// True when the timeline, and all that it shows, reaches `symbol`.
+    bool CkHasLoop(const clsSymbolData& symbol) const;
+
+    Long eType() const override { return KindSprite; }
+    Long PixelWidth() const override { return Width; }
+    Long PixelHeight() const override { return height; }
+    void Load(clsCSV& csv) override;
+    void Save(clsCSV& csv) const override;
+    void CopyTo(clsPropertyData& target) const override { CopyRecord(*this, target); }
+};
+
+}  // namespace tamber
