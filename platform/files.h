@@ -15,13 +15,11 @@ std::size_t ReadFileHead(std::span<Byte> bytes, StringView path);
 
 /// Puts a whole new file at `path`: the bytes go into a file beside it, are flushed, and take the
 /// name in one step. False leaves an earlier file as it was and nothing beside it. With `replace`
-/// false an existing file is left and the result is false.
+/// false an existing file is left and the result is false. A link is followed.
 bool WriteFileBytes(ByteView bytes, StringView path, bool replace = true);
 
-/// The steps of a write, each of which a test can make fail. A step returns false on failure.
-struct FileSteps {
-    std::function<bool()> BeforeStep;  ///< called before each step when set; false fails the step
-};
-FileSteps& WriteSteps();
+/// Called before each step of a write (create, write, flush, close, rename) when it is set; false
+/// fails the step. Lets a test stop a save anywhere.
+std::function<bool()>& BeforeWriteStep();
 
 }  // namespace tamber

@@ -1,0 +1,22 @@
+#include "platform/UserInterface.h"
+
+#include "platform/ConsoleUserInterface.h"
+
+namespace tamber {
+
+namespace {
+thread_local UserInterface* current = nullptr;
+}
+
+UserInterface& CurrentUserInterface() {
+    static ConsoleUserInterface console;
+    return current != nullptr ? *current : console;
+}
+
+UserInterfaceScope::UserInterfaceScope(UserInterface& interface) : previous_(current) {
+    current = &interface;
+}
+
+UserInterfaceScope::~UserInterfaceScope() { current = previous_; }
+
+}  // namespace tamber

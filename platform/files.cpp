@@ -1,0 +1,143 @@
+#include "platform/files.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+#include "platform/codepage.h"
+#include "platform/paths.h"
+
+namespace tamber {
+
+namespace {
+
+constexpr std::size_t BlockSize = 0x40000;
+
+/// An open file descriptor, closed at the end of its life.
+class FileHandle {
+public:
+    explicit FileHandle(int descriptor) : descriptor_(descriptor) {}
+    ~FileHandle() {
+        if (descriptor_ >= 0) close(descriptor_);
+    }
+    FileHandle(const FileHandle&) = delete;
+    FileHandle& operator=(const FileHandle&) = delete;
+
+    bool Ok() const { return descriptor_ >= 0; }
+    int Descriptor() const { return descriptor_; }
+    bool Close() {
+        const int descriptor = descriptor_;
+        descriptor_ = -1;
+        return close(descriptor) == 0;
+    }
+
+private:
+    int descriptor_;
+};
+
+bool StepAllowed() { return !BeforeWriteStep() || BeforeWriteStep()(); }
+
+bool WriteAll(int descriptor, ByteView bytes) {
+    while (!bytes.empty()) {
+        if (!StepAllowed()) return false;
+        const ssize_t done = write(descriptor, bytes.data(), std::min(bytes.size(), BlockSize));
+        if (done <= 0) return false;
+        bytes = bytes.subspan(static_cast<std::size_t>(done));
+    }
+    return true;
+}
+
+/// Permissions for the new file: those of the one it replaces, else what the system gives.
+void KeepPermissions(int descriptor, const std::string& target) {
+    struct stat info {};
+    if (stat(target.c_str(), &info) == 0) {
+        (void)fchmod(descriptor, info.st_mode & 07777);
+        return;
+    }
+    const mode_t mask = umask(0);
+    umask(mask);
+    (void)fchmod(descriptor, 0666 & ~mask);
+}
+
+bool FillFile(int descriptor, ByteView bytes, const std::string& target) {
+    KeepPermissions(descriptor, target);
+    return WriteAll(descriptor, bytes) && StepAllowed() && fsync(descriptor) == 0;
+}
+
+void FlushFolder(const std::string& path) {
+    const std::string folder = std::filesystem::path(path).parent_path().string();
+    const FileHandle handle(open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY));
+    if (handle.Ok()) (void)fsync(handle.Descriptor());
+}
+
+/// The file that a path stands for once its links are followed.
+std::string FollowLinks(const std::string& path) {
+    std::error_code error;
+    const auto target = std::filesystem::canonical(path, error);
+    return error ? path : target.string();
+}
+
+}  // namespace
+
+std::function<bool()>& BeforeWriteStep() {
+    thread_local std::function<bool()> step;
+    return step;
+}
+
+bool ReadFileBytes(StringView path, Bytes& bytes, std::uint64_t offset, std::uint64_t count) {
+    const FileHandle file(open(ToNarrow(path).c_str(), O_RDONLY | O_CLOEXEC));
+    struct stat info {};
+    if (!file.Ok() || fstat(file.Descriptor(), &info) != 0 || S_ISDIR(info.st_mode)) return false;
+    if (offset != 0 && lseek(file.Descriptor(), static_cast<off_t>(offset), SEEK_SET) < 0)
+        return false;
+    Bytes result;
+    if (S_ISREG(info.st_mode)) {
+        const auto size = static_cast<std::uint64_t>(info.st_size);
+        result.reserve(std::min(count, size > offset ? size - offset : 0));
+    }
+    while (result.size() < count) {
+        const std::size_t done = result.size();
+        const std::size_t room = std::max(BlockSize, result.capacity() - done);
+        const auto wanted = static_cast<std::size_t>(std::min<std::uint64_t>(count - done, room));
+        result.resize(done + wanted);
+        const ssize_t got = read(file.Descriptor(), result.data() + done, wanted);
+        if (got < 0) return false;
+        result.resize(done + static_cast<std::size_t>(got));
+        if (got == 0) break;
+    }
+    bytes = std::move(result);
+    return true;
+}
+
+std::size_t ReadFileHead(std::span<Byte> bytes, StringView path) {
+    Bytes head;
+    if (!ReadFileBytes(path, head, 0, bytes.size())) return 0;
+    std::copy(head.begin(), head.end(), bytes.begin());
+    return head.size();
+}
+
+bool WriteFileBytes(ByteView bytes, StringView path, bool replace) {
+    if (path.empty() || (!replace && FileExists(path))) return false;
+    const std::string target = FollowLinks(ToNarrow(path));
+    std::string beside = target + ".XXXXXX";
+    if (!StepAllowed()) return false;
+    FileHandle file(mkostemp(beside.data(), O_CLOEXEC));
+    if (!file.Ok()) return false;
+    const bool written = FillFile(file.Descriptor(), bytes, target) && StepAllowed() &&
+                         file.Close() && StepAllowed() &&
+                         std::rename(beside.c_str(), target.c_str()) == 0;
+    if (!written) {
+        (void)unlink(beside.c_str());
+        return false;
+    }
+    FlushFolder(target);
+    return true;
+}
+
+}  // namespace tamber

@@ -1,0 +1,162 @@
+#include "platform/paths.h"
+
+#include <filesystem>
+#include <vector>
+
+#include "platform/codepage.h"
+#include "platform/text.h"
+
+namespace tamber {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path Native(StringView path) { return fs::path(ToNarrow(path)); }
+
+bool IsDrivePath(StringView path) {
+    const bool letter = !path.empty() && ((path[0] >= u'a' && path[0] <= u'z') ||
+                                          (path[0] >= u'A' && path[0] <= u'Z'));
+    return path.size() >= 3 && letter && path[1] == u':' && path[2] == u'\\';
+}
+
+std::vector<StringView> Segments(StringView path) {
+    std::vector<StringView> segments;
+    while (!path.empty()) {
+        const std::size_t end = path.find(PathSeparator);
+        const StringView segment = path.substr(0, end);
+        if (!segment.empty()) segments.push_back(segment);
+        if (end == StringView::npos) break;
+        path.remove_prefix(end + 1);
+    }
+    return segments;
+}
+
+String& ProgramFolderText() {
+    static String folder;
+    return folder;
+}
+
+}  // namespace
+
+bool FileExists(StringView path) {
+    std::error_code error;
+    return fs::is_regular_file(Native(path), error);
+}
+
+bool FolderExists(StringView path) {
+    std::error_code error;
+    return fs::is_directory(Native(path), error);
+}
+
+String GetFileFolder(StringView path) {
+    const std::size_t last = path.rfind(PathSeparator);
+    return last == StringView::npos ? String() : String(path.substr(0, last));
+}
+
+String GetFileName(StringView path) {
+    const std::size_t last = path.rfind(PathSeparator);
+    return String(last == StringView::npos ? path : path.substr(last + 1));
+}
+
+String GetFileBase(StringView path) {
+    const String name = GetFileName(path);
+    return name.substr(0, name.rfind(u'.'));
+}
+
+String GetFileExt(StringView path) {
+    const String name = GetFileName(path);
+    const std::size_t point = name.rfind(u'.');
+    return point == String::npos ? String() : name.substr(point + 1);
+}
+
+String JoinPath(StringView folder, StringView name) {
+    if (folder.empty()) return String(name);
+    String joined(folder);
+    if (joined.back() != PathSeparator) joined += PathSeparator;
+    return joined.append(name);
+}
+
+bool MakeFolders(StringView path) {
+    if (path.empty()) return true;
+    std::error_code error;
+    fs::create_directories(Native(path), error);
+    return !error && FolderExists(path);
+}
+
+String MakeRelativePath(StringView base, StringView path) {
+    const bool rooted = !base.empty() && !path.empty() && base.front() == PathSeparator &&
+                        path.front() == PathSeparator;
+    if (!rooted) return String(path);
+    const std::vector<StringView> from = Segments(base);
+    const std::vector<StringView> to = Segments(path);
+    std::size_t common = 0;
+    while (common < from.size() && common + 1 < to.size() && from[common] == to[common]) ++common;
+    String relative;
+    for (std::size_t i = common; i < from.size(); ++i)
+        relative.append(u"..").append(1, PathSeparator);
+    for (std::size_t i = common; i < to.size(); ++i) {
+        if (i > common) relative += PathSeparator;
+        relative.append(to[i]);
+    }
+    return relative;
+}
+
+String NormalizePath(StringView path) {
+    const String up = String(1, PathSeparator) + u".." + PathSeparator;
+    const String here = String(1, PathSeparator) + u"." + PathSeparator;
+    if (path.find(up) == StringView::npos && path.find(here) == StringView::npos)
+        return String(path);
+    const bool rooted = path.front() == PathSeparator;
+    std::vector<StringView> kept;
+    for (const StringView segment : Segments(path)) {
+        if (segment == u".") continue;
+        const bool climbs = segment == u"..";
+        if (climbs && !kept.empty() && kept.back() != u"..")
+            kept.pop_back();
+        else if (!climbs || !rooted)
+            kept.push_back(segment);
+    }
+    String result = rooted ? String(1, PathSeparator) : String();
+    for (std::size_t i = 0; i < kept.size(); ++i) {
+        if (i > 0) result += PathSeparator;
+        result.append(kept[i]);
+    }
+    return result;
+}
+
+String AbsolutePath(StringView path) {
+    std::error_code error;
+    const fs::path absolute = fs::absolute(Native(path), error);
+    return error ? String(path) : FromNarrow(absolute.lexically_normal().string());
+}
+
+String PathToCell(StringView path) {
+    if (IsDrivePath(path)) return String(path);
+    String cell(path);
+    for (char16_t& c : cell)
+        if (c == PathSeparator) c = u'\\';
+    return cell;
+}
+
+String PathFromCell(StringView cell) {
+    if (IsDrivePath(cell)) return String(cell);
+    String path(cell);
+    for (char16_t& c : path)
+        if (c == u'\\') c = PathSeparator;
+    return path;
+}
+
+String ProgramFolder() { return ProgramFolderText(); }
+void ProgramFolder(StringView folder) { ProgramFolderText() = folder; }
+
+String ReplaceAppDirToken(StringView path) {
+    String result = ReplaceAll(path, u"$(TAMBERDIR)", ProgramFolder());
+    if (result.size() != path.size() || path.find(u"$(TAMBERDIR)") != StringView::npos)
+        result = PathFromCell(result);
+    while (result.size() > 1 && (result.back() == PathSeparator || result.back() == u'\\'))
+        result.pop_back();
+    return result;
+}
+
+}  // namespace tamber
