@@ -5,6 +5,7 @@
 
 #include "media/JpegWriter.h"
 #include "media/LosslessPixels.h"
+#include "swf/mdlZlib.h"
 
 namespace tamber {
 
@@ -96,13 +97,13 @@ bool MakeJpeg(clsDib& dib, const BitmapOptions& options, BitmapBuffers& buffers)
         buffers.bufBmp = std::move(dib.JpegStream);
     else if (!CompressTreated(dib, options, buffers.bufBmp))
         return false;
-    if (dib.blBlend) buffers.bufAlpha = std::move(dib.ADib);
+    if (dib.blBlend()) buffers.bufAlpha = std::move(dib.ADib);
     return true;
 }
 
 /// Palette images stay so as long as the palette can tell the transparency, and five bits a
 /// channel as long as there is none.
-bool MakeLossless(clsDib& dib, const BitmapOptions& options, BitmapBuffers& buffers) {
+void MakeLossless(clsDib& dib, const BitmapOptions& options, BitmapBuffers& buffers) {
     dib.ChangePaletteTo8();
     const bool fiveBits = dib.BitCount() == 16 && dib.dib.bmiHeader.biCompression == DibRgb;
     if (dib.BitCount() == 8 && !IsBlurred(options)) {
@@ -114,8 +115,7 @@ bool MakeLossless(clsDib& dib, const BitmapOptions& options, BitmapBuffers& buff
         dib.ChangeTo32();
     }
     buffers.BitCount = dib.BitCount();
-    buffers.bufBmp = CompressPixels(LosslessPixels(std::move(dib)));
-    return !buffers.bufBmp.empty();
+    buffers.bufBmp = mdlZlib::ZlibCompress(LosslessPixels(std::move(dib)));
 }
 
 }  // namespace
@@ -124,12 +124,9 @@ void TreatAlpha(clsDib& dib, const BitmapOptions& options) {
     dib.MkAlphaTable();
     if (!options.blToumei) return;
     KeyOutPixels(dib, options);
-    if (IsBlurred(options)) {
-        dib.BlendAlpha(options.ShadingNum);
-        KeepHidden(dib);
-    }
-    dib.blBlend =
-        std::any_of(dib.ADib.begin(), dib.ADib.end(), [](Byte alpha) { return alpha < 255; });
+    if (!IsBlurred(options)) return;
+    dib.BlendAlpha(options.ShadingNum);
+    KeepHidden(dib);
 }
 
 bool PrepareBitmap(clsDib dib, const BitmapOptions& options, BitmapBuffers& buffers) {
@@ -138,8 +135,10 @@ bool PrepareBitmap(clsDib dib, const BitmapOptions& options, BitmapBuffers& buff
     made.Width = dib.Width();
     made.height = dib.Height();
     made.BitCount = dib.BitCount();
-    const bool jpeg = options.blJpegComp || dib.eType == PictureKind::Jpeg;
-    if (!(jpeg ? MakeJpeg(dib, options, made) : MakeLossless(dib, options, made))) return false;
+    if (!options.blJpegComp && dib.eType != PictureKind::Jpeg)
+        MakeLossless(dib, options, made);
+    else if (!MakeJpeg(dib, options, made))
+        return false;
     buffers = std::move(made);
     return true;
 }

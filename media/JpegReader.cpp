@@ -68,19 +68,21 @@ private:
     }
 
     bool ChooseColours() {
-        dib_.blPlayerJpeg = !jpeg_.arith_code;
         switch (jpeg_.jpeg_color_space) {
             case JCS_GRAYSCALE:
+                dib_.blPlayerJpeg = !jpeg_.arith_code;
                 jpeg_.out_color_space = JCS_GRAYSCALE;
                 return true;
-            case JCS_RGB:
             case JCS_YCbCr:
+                dib_.blPlayerJpeg = !jpeg_.arith_code;
+                jpeg_.out_color_space = JCS_EXT_BGR;
+                return true;
+            case JCS_RGB:
                 jpeg_.out_color_space = JCS_EXT_BGR;
                 return true;
             case JCS_CMYK:
             case JCS_YCCK:
                 jpeg_.out_color_space = JCS_CMYK;
-                dib_.blPlayerJpeg = false;
                 return true;
             default:
                 return false;

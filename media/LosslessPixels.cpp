@@ -1,7 +1,5 @@
 #include "media/LosslessPixels.h"
 
-#include <zlib.h>
-
 #include <algorithm>
 #include <utility>
 
@@ -66,15 +64,6 @@ Bytes LosslessPixels(clsDib dib) {
             SwapPixels32(dib.Bits);
     }
     return std::move(dib.Bits);
-}
-
-Bytes CompressPixels(ByteView bytes) {
-    uLongf size = compressBound(bytes.size());
-    Bytes stream(size);
-    if (compress(stream.data(), &size, bytes.data(), bytes.size()) != Z_OK) return {};
-    stream.resize(size);
-    stream.shrink_to_fit();
-    return stream;
 }
 
 }  // namespace tamber

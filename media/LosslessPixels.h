@@ -13,9 +13,6 @@ namespace tamber {
 /// used up by it.
 Bytes LosslessPixels(clsDib dib);
 
-/// zlib stream of `bytes` at the default level. Empty when memory runs out.
-Bytes CompressPixels(ByteView bytes);
-
 /// Multiplies the colours of a 32-bit image by their alpha, value * alpha / 255 cut to whole
 /// numbers.
 void PremultiplyColours(clsDib& dib);

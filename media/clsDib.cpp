@@ -111,6 +111,10 @@ Long clsDib::Height() const {
     return blBottomUp() ? dib.bmiHeader.biHeight : -dib.bmiHeader.biHeight;
 }
 
+bool clsDib::blBlend() const {
+    return std::any_of(ADib.begin(), ADib.end(), [](Byte alpha) { return alpha < 255; });
+}
+
 std::size_t clsDib::StrideOf(Long width, Long bits) {
     const auto rowBits = static_cast<std::size_t>(width) * static_cast<std::size_t>(bits);
     return (rowBits + 31) / 32 * 4;
@@ -145,7 +149,6 @@ void clsDib::MkAlphaTable() {
         const Byte* row = Row(y);
         for (std::size_t x = 0; x < width; ++x) *alpha++ = row[x * 4 + 3];
     }
-    blBlend = std::any_of(ADib.begin(), ADib.end(), [](Byte value) { return value < 255; });
 }
 
 void clsDib::StoreAlpha() {

@@ -19,8 +19,6 @@ class clsDib {
 public:
     PictureKind eType = PictureKind::None;
     String FileName;
-    /// Alpha is in use at display: `ADib` has a value below 255.
-    bool blBlend = false;
     /// The fourth byte of a 32-bit pixel is an alpha of the file's own.
     bool blHasBlend = false;
     /// An entry of the palette is transparent, wholly or in part.
@@ -36,7 +34,7 @@ public:
     Long PalTransCount = 0;
     /// The whole file, for a JPEG only: a movie takes it as it stands.
     Bytes JpegStream;
-    /// Every player shows `JpegStream`: grey or three colours, 8 bits, Huffman coded.
+    /// Every player shows `JpegStream`: grey, or brightness and colour apart, and Huffman coded.
     bool blPlayerJpeg = false;
 
     /// Reads a picture file. Its extension must be bmp, png, gif, jpg or jpeg in any letter case;
@@ -56,6 +54,8 @@ public:
     Long BitCount() const { return dib.bmiHeader.biBitCount; }
     bool blBottomUp() const { return dib.bmiHeader.biHeight > 0; }
     bool Empty() const { return Bits.empty(); }
+    /// Alpha is in use: `ADib` has a value below 255.
+    bool blBlend() const;
     /// Bytes from a row to the next.
     std::size_t Stride() const { return StrideOf(Width(), BitCount()); }
     static std::size_t StrideOf(Long width, Long bits);
