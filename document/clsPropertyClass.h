@@ -19,7 +19,7 @@ public:
     Long eType() const override { return KindClass; }
     void Load(clsCSV& csv) override;
     void Save(clsCSV& csv) const override;
-    void CopyTo(clsPropertyData& target) const override { CopyRecord(*this, target); }
+    void CopyTo(clsPropertyData& target) const override;
 };
 
 }  // namespace tamber

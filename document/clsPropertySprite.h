@@ -34,7 +34,7 @@ public:
     Long PixelHeight() const override { return height; }
     void Load(clsCSV& csv) override;
     void Save(clsCSV& csv) const override;
-    void CopyTo(clsPropertyData& target) const override { CopyRecord(*this, target); }
+    void CopyTo(clsPropertyData& target) const override;
 };
 
 }  // namespace tamber
