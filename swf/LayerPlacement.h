@@ -1,0 +1,49 @@
+#pragma once
+
+#include <memory>
+
+#include "document/clsLayer.h"
+#include "swf/KomaTable.h"
+#include "swf/PlaceObjectFactory.h"
+#include "swf/clsSWFAdmin.h"
+
+namespace tamber {
+
+/// Puts the key frames of one layer into a timeline: placements, tweens, moves and removals.
+class LayerPlacement {
+public:
+    /// What stands on the layer, and where.
+    struct Character {
+        Long Identifier = 0;
+        Long Depth = 0;
+        Long PlaceCount = 1;     ///< depths that it takes
+        Long ClippingDepth = 0;  ///< depths that it masks
+        TimelineOrigin Origin;
+        KomaTable* Koma = nullptr;
+    };
+
+    LayerPlacement(clsSWFAdmin& admin, const clsLayer& layer, Character character)
+        : admin_(admin), layer_(layer), character_(character) {}
+
+    void Run();
+
+private:
+    void PlaceKeyFrame(Long index);
+    std::shared_ptr<clsSWFTagPlaceObject> MakeTag(const clsLayerObjElement& element);
+    void ExpandTween(const std::shared_ptr<clsSWFTagPlaceObject>& start, const clsLayerObject& end);
+    void PlaceStatic(const clsLayerObject& object);
+    void EndSpan(Long index);
+    void Remove(Long frame);
+
+    clsSWFAdmin& admin_;
+    const clsLayer& layer_;
+    Character character_;
+    std::shared_ptr<clsSWFTagPlaceObject> tag_;
+    /// The key frame before, when its placement is part of the present chain.
+    const clsLayerObject* previous_ = nullptr;
+    bool placed_ = false;   ///< a tag of the present chain exists
+    bool onStage_ = false;  ///< a character stands at the depth
+    bool inTween_ = false;  ///< the key frame before opened a tween
+};
+
+}  // namespace tamber

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <memory>
+
+#include "swf/KomaTable.h"
+#include "swf/TweenPath.h"
+#include "swf/clsSWFAdmin.h"
+
+namespace tamber {
+
+/// A tween from one key frame to the next.
+struct Tween {
+    Long Frame = 1;  ///< first frame
+    Long Span = 1;   ///< frames up to the next key frame
+    std::shared_ptr<clsSWFTagPlaceObject> StartTag;
+    std::shared_ptr<clsSWFTagPlaceObject> EndTag;
+    const clsLayerObjElement* Element = nullptr;  ///< of the start
+    bool blVector = false;                        ///< its placements carry a ratio
+    KomaTable* Koma = nullptr;                    ///< of a koma symbol
+};
+
+/// Puts one placement on each of the tween's `Span` frames. The end tag is left to the caller.
+void AddTween(clsSWFAdmin& admin, const Tween& tween, const TweenPath& path);
+
+/// Puts the koma's next picture on a frame, when its turn has come: the old one goes, a copy of
+/// `tag` with the new one comes.
+void PlaceKoma(clsSWFAdmin& admin, Long frame, const clsSWFTagPlaceObject& tag, KomaTable& koma);
+
+}  // namespace tamber

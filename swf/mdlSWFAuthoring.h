@@ -1,0 +1,46 @@
+#pragma once
+
+#include "document/clsLayer.h"
+#include "document/clsSymbolData.h"
+#include "platform/Collection.h"
+
+namespace tamber {
+
+/// What a movie is built from.
+struct MovieRequest {
+    Long Width = 0;  ///< twips
+    Long Height = 0;
+    Single FrameRate = 12;
+    Long Version = 6;
+    const Collection<clsSymbolData>* Library = nullptr;
+    const Collection<clsLayer>* Layers = nullptr;
+    String Path;
+    bool blProgress = false;
+    bool blCompress = true;
+    /// The first layer of the table is the topmost one.
+    bool blTopToBottom = true;
+    Long BackColor = 0xFFFFFF;  ///< blue in the low byte
+    /// Gets a tab and the name of each named anchor, when given.
+    String* AnchorLabels = nullptr;
+    bool blExports = true;
+    bool blExportsInFrameTwo = false;
+};
+
+namespace mdlSWFAuthoring {
+
+/// Most frames that a movie's header can tell.
+inline constexpr Long MaxFrames = 65535;
+
+/// Builds and writes a movie. What cannot go into it is left out with a message. False when nothing
+/// was written.
+bool BuildMovie(const MovieRequest& request);
+
+/// Last frame on which a visible layer shows anything, 0 when there is none.
+Long LastShownFrame(const Collection<clsLayer>& layers);
+
+/// Depths that a mask on this layer clips: those of the layers listed just before it.
+Long ClipDepthOf(const Collection<clsLayer>& layers, Long layerIndex, Long clippingDepth);
+
+}  // namespace mdlSWFAuthoring
+
+}  // namespace tamber
