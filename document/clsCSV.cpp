@@ -190,10 +190,9 @@ void clsCSV::Clear() {
 
 void clsCSV::Put(Long value) {
     char digits[12];
-    const char* end = std::to_chars(digits, digits + sizeof digits, value).ptr;
+    char* const end = std::to_chars(digits, digits + sizeof digits, value).ptr;
     char16_t wide[12];
-    const auto length =
-        static_cast<std::size_t>(std::copy(digits, const_cast<char*>(end), wide) - wide);
+    const auto length = static_cast<std::size_t>(std::copy(digits, end, wide) - wide);
     Put(StringView(wide, length));
 }
 

@@ -19,12 +19,14 @@ public:
     static constexpr Long EventPress = 1024;
     static constexpr Long EventRelease = 2048;
     static constexpr Long MaxClippingDepth = 999;
+    static constexpr Long NoScript = 2048;
 
     /// User's name of the layer, empty for the default.
     String LayerName;
     String InstanceName;
     /// 0: no mask. n: masks the n layers below.
     Long ClippingDepth = 0;
+    /// A mode that is no script's own (`NoScript`) stands for a layer without script.
     clsScriptData inScript;
     Collection<clsLayerObject> colObject;
     /// Key frame selected in the table, from 1.
@@ -34,6 +36,8 @@ public:
     /// Scroll position and pixels a frame of the timeline.
     Long FirstFrame = 1;
     Long FrameWidth = 8;
+
+    clsLayer();
 
     const std::shared_ptr<clsSymbolData>& SymbolData() const { return symbol_; }
     /// A symbol of another kind rebuilds the key frames; what both kinds share stays.
