@@ -152,6 +152,7 @@ void clsDib::MkAlphaTable() {
 }
 
 void clsDib::StoreAlpha() {
+    if (ADib.empty()) return;
     const auto width = static_cast<std::size_t>(Width());
     const Byte* alpha = ADib.data();
     for (Long y = 0; y < Height(); ++y) {
@@ -162,6 +163,7 @@ void clsDib::StoreAlpha() {
 
 clsDib clsDib::BlendedCopy() const {
     clsDib copy;
+    if (ADib.empty()) return copy;
     copy.Create(Width(), Height(), 24);
     const auto width = static_cast<std::size_t>(Width());
     const Byte* alpha = ADib.data();

@@ -88,7 +88,7 @@ public:
 
     /// Makes the image 32 bits deep and `ADib` from the transparency that the file tells.
     void MkAlphaTable();
-    /// Puts `ADib` into the pixels' alpha.
+    /// Puts `ADib`, where there is one, into the pixels' alpha.
     void StoreAlpha();
     /// Weights of the blur along one axis, n + 1 - |d| for d from -n to n. The weight of a pixel at
     /// (x, y) is the product of both axes', and the sum of all is the square of this table's.
@@ -98,8 +98,7 @@ public:
     void BlendAlpha(Long n);
     static constexpr Long MaxBlur = 1000;
 
-    /// A 24-bit copy for display, laid over `BlendColor` by `ADib`. The image must have been
-    /// through `MkAlphaTable`.
+    /// A 24-bit copy for display, laid over `BlendColor` by `ADib`; empty before `MkAlphaTable`.
     clsDib BlendedCopy() const;
     /// Kind, header fields and transparency, a line each, for a property dialog.
     String InfoText() const;
