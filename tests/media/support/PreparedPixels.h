@@ -9,7 +9,8 @@
 namespace tamber::test {
 
 /// A finished lossless buffer read back as a player does: colours multiplied by alpha, top row
-/// first. Empty when the stream is damaged or of the wrong length.
+/// first. Empty when the stream is damaged or of the wrong length. A pixel of 16 bits whose highest
+/// bit is not clear has alpha 0.
 class PreparedPixels {
 public:
     explicit PreparedPixels(const BitmapBuffers& buffers)
@@ -43,7 +44,8 @@ private:
         }
         if (bitCount == 16) {
             const int word = data[0] << 8 | data[1];
-            return RgbQuad{FiveBits(word), FiveBits(word >> 5), FiveBits(word >> 10), 255};
+            const Byte clear = word < 0x8000 ? 255 : 0;
+            return RgbQuad{FiveBits(word), FiveBits(word >> 5), FiveBits(word >> 10), clear};
         }
         return RgbQuad{data[3], data[2], data[1], data[0]};
     }
