@@ -1,0 +1,185 @@
+#include "app/CommandLine.h"
+
+#include <cstdio>
+#include <optional>
+
+#include "app/Main.h"
+#include "app/ProjectInfo.h"
+#include "app/mdlPrivateProfile.h"
+#include "document/ProjectWriter.h"
+#include "platform/ConsoleUserInterface.h"
+#include "platform/codepage.h"
+#include "platform/paths.h"
+#include "platform/text.h"
+
+namespace tamber {
+
+namespace {
+
+constexpr int Done = 0;
+constexpr int CouldNot = 1;
+constexpr int WrongUsage = 2;
+constexpr int DoneWithMessages = 3;
+
+constexpr const char* Usage =
+    "Tamber [PROJECT]                      the window (where built with one)\n"
+    "Tamber generate PROJECT [-o OUT.swf] [--strict] [--set KEY=VALUE ...]\n"
+    "Tamber convert IN.kvf OUT.kvfz        load and save again\n"
+    "Tamber info PROJECT [--json]          stage, symbols, layers, key frames, as read\n"
+    "Tamber --version | --help\n"
+    "\n"
+    "--home DIR   the program's folder, with its settings and data\n"
+    "--yes        answers questions with yes\n";
+
+/// The arguments, sorted into options and the rest.
+struct Options {
+    std::vector<std::string> Words;
+    std::string Output;
+    std::string Home;
+    std::vector<std::string> Settings;
+    bool Strict = false;
+    bool Json = false;
+    bool Yes = false;
+    bool Help = false;
+    bool Version = false;
+    std::string Error;
+};
+
+bool TakesValue(const std::string& name) {
+    return name == "-o" || name == "--set" || name == "--home";
+}
+
+void TakeValue(Options& options, const std::string& name, const std::string& value) {
+    if (name == "-o") options.Output = value;
+    if (name == "--set") options.Settings.push_back(value);
+    if (name == "--home") options.Home = value;
+}
+
+bool TakeFlag(Options& options, const std::string& name) {
+    if (name == "--strict") return options.Strict = true;
+    if (name == "--json") return options.Json = true;
+    if (name == "--yes") return options.Yes = true;
+    if (name == "--help" || name == "-h") return options.Help = true;
+    if (name == "--version") return options.Version = true;
+    return false;
+}
+
+Options Parse(const std::vector<std::string>& arguments) {
+    Options options;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const std::string& word = arguments[i];
+        if (TakesValue(word)) {
+            if (i + 1 == arguments.size()) {
+                options.Error = word + " needs a value";
+                return options;
+            }
+            TakeValue(options, word, arguments[++i]);
+        } else if (word.size() > 1 && word[0] == '-') {
+            if (!TakeFlag(options, word)) options.Error = "unknown option " + word;
+        } else {
+            options.Words.push_back(word);
+        }
+    }
+    return options;
+}
+
+int RefuseUsage(const std::string& why) {
+    std::fprintf(stderr, "Tamber: %s\n%s", why.c_str(), Usage);
+    return WrongUsage;
+}
+
+void Print(const std::string& text) {
+    std::fwrite(text.data(), 1, text.size(), stdout);
+}
+
+String PathOf(const std::string& word) {
+    return AbsolutePath(FromNarrow(word));
+}
+
+/// A path that no file has: its message, as opening a project tells it.
+bool CheckExists(const String& path) {
+    if (FileExists(path)) return true;
+    ShowMessage(path + u"\r\n\r\nファイルが見つかりません。");
+    return false;
+}
+
+bool LoadFor(frmMain& controller, const std::string& word) {
+    const String path = PathOf(word);
+    return CheckExists(path) && controller.OpenProject(path);
+}
+
+int Generate(const Options& options, const ConsoleUserInterface& console) {
+    frmMain controller;
+    if (!LoadFor(controller, options.Words[1])) return CouldNot;
+    const String project = controller.ProjectFileName;
+    const String output = options.Output.empty()
+                              ? JoinPath(GetFileFolder(project), GetFileBase(project) + u".swf")
+                              : PathOf(options.Output);
+    if (!controller.mnuAuthoring(output)) return CouldNot;
+    return options.Strict && console.MessagesShown() > 0 ? DoneWithMessages : Done;
+}
+
+int Convert(const Options& options) {
+    frmMain controller;
+    if (!LoadFor(controller, options.Words[1])) return CouldNot;
+    RuntimeError why(0, u"", u"");
+    if (SaveProject(PathOf(options.Words[2]), controller.inProject, &why)) return Done;
+    ShowMessage(u"保存できませんでした。\r\n\r\n「Number： " + ToText(why.Number) + u"\r\n" +
+                why.Description + u"」");
+    return CouldNot;
+}
+
+int Info(const Options& options) {
+    frmMain controller;
+    if (!LoadFor(controller, options.Words[1])) return CouldNot;
+    Print(options.Json ? ProjectInfoJson(controller.inProject)
+                       : ProjectInfoText(controller.inProject));
+    return Done;
+}
+
+int RunWithoutWindow(const Options& options) {
+    OwnEnvironment environment;
+    Application application(environment);
+    const std::string path = options.Words.empty() ? "" : "\"" + options.Words[0] + "\"";
+    if (!application.Main(FromNarrow(path))) return CouldNot;
+    application.Stop();
+    std::fprintf(stderr, "Tamber: this build has no window; Tamber --help tells its commands\n");
+    return Done;
+}
+
+int Dispatch(const Options& options, const ConsoleUserInterface& console) {
+    const std::string command = options.Words.empty() ? "" : options.Words[0];
+    const std::size_t count = options.Words.size();
+    if (command == "generate")
+        return count == 2 ? Generate(options, console) : RefuseUsage("generate needs one project");
+    if (command == "convert")
+        return count == 3 ? Convert(options) : RefuseUsage("convert needs two paths");
+    if (command == "info")
+        return count == 2 ? Info(options) : RefuseUsage("info needs one project");
+    if (count > 1) return RefuseUsage("unknown command " + command);
+    return RunWithoutWindow(options);
+}
+
+}  // namespace
+
+int RunCommandLine(const std::vector<std::string>& arguments, const std::string& programPath) {
+    const Options options = Parse(arguments);
+    if (!options.Error.empty()) return RefuseUsage(options.Error);
+    if (options.Help) {
+        Print(Usage);
+        return Done;
+    }
+    if (options.Version) {
+        Print("Tamber " TAMBER_VERSION "\n");
+        return Done;
+    }
+    ConsoleUserInterface console(options.Yes);
+    const UserInterfaceScope scope(console);
+    ProgramFolder(options.Home.empty() ? GetFileFolder(PathOf(programPath)) : PathOf(options.Home));
+    for (const std::string& setting : options.Settings)
+        if (!mdlPrivateProfile::SettingsOverride(FromNarrow(setting)))
+            return RefuseUsage("unknown setting " + setting);
+    return Dispatch(options, console);
+}
+
+}  // namespace tamber
