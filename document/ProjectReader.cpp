@@ -1,0 +1,386 @@
+#include "document/ProjectReader.h"
+
+#include <zlib.h>
+
+#include <algorithm>
+#include <new>
+#include <stdexcept>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+#include "document/ProjectFileVersion.h"
+#include "document/clsCSV.h"
+#include "document/clsPropertyButton.h"
+#include "document/clsPropertyKoma.h"
+#include "document/clsPropertySprite.h"
+#include "document/clsPropertyText.h"
+#include "document/clsPropertyVector.h"
+#include "platform/RuntimeError.h"
+#include "platform/UserInterface.h"
+#include "platform/codepage.h"
+#include "platform/files.h"
+#include "platform/paths.h"
+#include "platform/text.h"
+
+namespace tamber {
+
+namespace {
+
+constexpr Long VersionWithFitShape = 0x60300;
+/// Grown cells make rows that are only read cheap.
+constexpr Long readingGrowth = 128;
+constexpr std::size_t magicSize = 4;
+constexpr std::size_t compressedHead = 8;
+/// Text of a compressed project; far above any real one, and within the memory at hand.
+constexpr std::size_t largestText = std::size_t{512} << 20;
+/// Symbols shown within symbols. What walks a movie goes as deep.
+constexpr Long deepestNesting = 500;
+
+/// An asset could not be had; the user was told why.
+struct LoadStopped {};
+
+[[noreturn]] void Damaged() {
+    throw RuntimeError(ErrorOutOfRange, u"LoadProject", u"範囲外の数値が設定されました。");
+}
+
+bool Inflate(ByteView packed, Bytes& out) {
+    z_stream stream{};
+    if (inflateInit(&stream) != Z_OK) return false;
+    stream.next_in = const_cast<Byte*>(packed.data());
+    stream.avail_in = static_cast<uInt>(packed.size());
+    Byte block[65536];
+    int state = Z_OK;
+    while (state == Z_OK) {
+        stream.next_out = block;
+        stream.avail_out = sizeof block;
+        state = inflate(&stream, Z_NO_FLUSH);
+        const std::size_t made = sizeof block - stream.avail_out;
+        if (made == 0 && state == Z_OK) break;
+        if (out.size() + made > largestText) state = Z_MEM_ERROR;
+        if (state == Z_OK || state == Z_STREAM_END) out.insert(out.end(), block, block + made);
+    }
+    inflateEnd(&stream);
+    return state == Z_STREAM_END;
+}
+
+/// Major as its own hexadecimal text, then two digits each of minor, revision and zero; the build
+/// is added.
+Long ReadVersion(clsCSV& csv) {
+    const String major = csv.TakeText();
+    if (major.empty() || major.size() > 2) Damaged();
+    Long version = 0;
+    for (const char16_t c : major) {
+        const char16_t lower = static_cast<char16_t>(c | 0x20);
+        const bool digit = c >= u'0' && c <= u'9';
+        if (!digit && (lower < u'a' || lower > u'f')) Damaged();
+        version = version * 16 + (digit ? c - u'0' : lower - u'a' + 10);
+    }
+    if (version > 0x7F) Damaged();
+    version = version << 8 | csv.TakeByte();
+    version = version << 8 | csv.TakeByte();
+    version <<= 8;
+    if (!csv.Value().empty()) version += csv.TakeByte();
+    return version;
+}
+
+FileFilter FilterOf(Long kind) {
+    switch (kind) {
+        case KindBitmap:
+            return {u"画像ファイル (*.bmp;*.jpg;*.jpeg;*.png;*.gif)",
+                    u"*.bmp;*.jpg;*.jpeg;*.png;*.gif"};
+        case KindVector:
+            return {u"ベクタ画像ファイル (*.swf;*.pdr;*.svg;*.svgz)", u"*.swf;*.pdr;*.svg;*.svgz"};
+        case KindSound:
+            return {u"サウンドファイル (*.mp3;*.wav;*.rmp;*.mid;*.mld;*.mmf)",
+                    u"*.mp3;*.wav;*.rmp;*.mid;*.mld;*.mmf"};
+        default:
+            return {u"動画ファイル (*.flv)", u"*.flv"};
+    }
+}
+
+class Reader {
+public:
+    Reader(clsCSV& csv, String baseDir, const ProjectAssets& assets)
+        : csv_(csv), baseDir_(std::move(baseDir)), assets_(assets) {}
+
+    Project Read();
+    /// Undoes references among the symbols of a load that failed, which may go round in circles.
+    void Release();
+
+private:
+    void ReadHtml();
+    void ReadSymbols();
+    void FitFont(clsSymbolData& symbol) const;
+    void LoadAsset(clsSymbolData& symbol) const;
+    void ReadReferences();
+    std::shared_ptr<clsSymbolData> TakeReference();
+    void ReadLayers(Collection<clsLayer>& layers);
+    void CheckNesting() const;
+
+    clsCSV& csv_;
+    String baseDir_;
+    const ProjectAssets& assets_;
+    Project project_;
+    std::unordered_map<Long, std::shared_ptr<clsSymbolData>> byId_;
+};
+
+Project Reader::Read() {
+    project_.MainWidth = csv_.TakeLong();
+    project_.MainHeight = csv_.TakeLong();
+    project_.FrameRate = csv_.TakeSingle();
+    project_.SWFVersion = csv_.TakeLong();
+    csv_.CrLf();
+    ReadHtml();
+    ReadSymbols();
+    NestSymbols(*project_.colSymbol);
+    ReadReferences();
+    for (const auto& symbol : *project_.colSymbol)
+        if (auto* sprite = symbol->Property<clsPropertySprite>()) ReadLayers(*sprite->colLayer);
+    ReadLayers(*project_.colMainLayer);
+    CheckNesting();
+    return std::move(project_);
+}
+
+void Reader::Release() {
+    if (!project_.colSymbol) return;
+    for (const auto& symbol : *project_.colSymbol) {
+        if (auto* sprite = symbol->Property<clsPropertySprite>()) sprite->colLayer->Clear();
+        if (auto* koma = symbol->Property<clsPropertyKoma>()) koma->colKomas->Clear();
+    }
+}
+
+void Reader::ReadHtml() {
+    if (!EqualsNoCase(csv_.Value(), u"html")) return;
+    csv_.Right();
+    HtmlSettings html;
+    html.SizeUnit = csv_.TakeText();
+    html.WIDTH = csv_.TakeText();
+    html.HEIGHT = csv_.TakeText();
+    html.align = csv_.TakeText();
+    html.salign = csv_.TakeText();
+    html.play = csv_.TakeBoolean();
+    html.loop = csv_.TakeBoolean();
+    html.menu = csv_.TakeBoolean();
+    html.quality = csv_.TakeText();
+    html.wmode = csv_.TakeText();
+    html.scale = csv_.TakeText();
+    html.NamedAnchors = csv_.TakeBoolean();
+    project_.Html = std::move(html);
+    csv_.CrLf();
+}
+
+void Reader::ReadSymbols() {
+    const Long count = csv_.TakeLong();
+    csv_.CrLf();
+    for (Long i = 1; i <= count; ++i) {
+        auto symbol = std::make_shared<clsSymbolData>();
+        symbol->Index = i;
+        symbol->Load(csv_, baseDir_);
+        csv_.CrLf();
+        switch (symbol->eType()) {
+            case KindText:
+                FitFont(*symbol);
+                if (ProjectFileVersion < VersionWithFitShape) assets_.SetTextSize(*symbol);
+                break;
+            case KindBitmap:
+            case KindSound:
+            case KindVector:
+            case KindMovie:
+                LoadAsset(*symbol);
+                break;
+            default:
+                break;
+        }
+        if (symbol->ID > 0) byId_.emplace(symbol->ID, symbol);
+        project_.colSymbol->Add(std::move(symbol));
+    }
+}
+
+void Reader::FitFont(clsSymbolData& symbol) const {
+    auto& text = *symbol.Property<clsPropertyText>();
+    if (text.FontName.starts_with(u'_') || assets_.FontAvailable(text.FontName)) return;
+    const String other = assets_.DefaultFont();
+    ShowMessage(u"「" + text.FontName + u"」が見つかりません。\r\n「" + other +
+                u"」へ変更します。");
+    text.FontName = other;
+}
+
+void Reader::LoadAsset(clsSymbolData& symbol) const {
+    if (!FileExists(symbol.FilePathName)) {
+        ShowMessage(symbol.FilePathName + u"\r\n\r\nファイルが見つかりません。");
+        FileDialog dialog;
+        dialog.Title = u"ファイル選択";
+        dialog.Filters.push_back(FilterOf(symbol.eType()));
+        const String chosen = CurrentUserInterface().OpenFileDialog(dialog);
+        if (chosen.empty()) throw LoadStopped();
+        symbol.FilePathName = chosen;
+    }
+    const bool loaded = symbol.eType() == KindBitmap   ? assets_.LoadBitmap(symbol)
+                        : symbol.eType() == KindVector ? assets_.LoadVector(symbol)
+                        : symbol.eType() == KindSound  ? assets_.LoadSound(symbol)
+                                                       : assets_.LoadMovie(symbol);
+    if (loaded) return;
+    ShowMessage(u"ファイルの読み込みに失敗しました。", u"読み込みエラー", MessageIcon::Error);
+    throw LoadStopped();
+}
+
+/// The symbol whose position stands in the cell, null for 0.
+std::shared_ptr<clsSymbolData> Reader::TakeReference() {
+    const Long index = csv_.TakeLong();
+    return index == 0 ? nullptr : project_.colSymbol->Item(index);
+}
+
+void Reader::ReadReferences() {
+    for (const auto& symbol : *project_.colSymbol) {
+        if (auto* text = symbol->Property<clsPropertyText>()) {
+            if (ProjectFileVersion < VersionWithFitShape) continue;
+            text->FitShapeSymbol(TakeReference());
+            assets_.SetTextSize(*symbol);
+        } else if (auto* vector = symbol->Property<clsPropertyVector>()) {
+            vector->MorphSymbol(TakeReference());
+        } else if (auto* button = symbol->Property<clsPropertyButton>()) {
+            button->HitTestSymbol(TakeReference());
+            button->DownSymbol(TakeReference());
+            button->OverSymbol(TakeReference());
+            button->UpSymbol(TakeReference());
+        } else if (auto* koma = symbol->Property<clsPropertyKoma>()) {
+            while (!csv_.Value().empty())
+                if (auto picture = TakeReference()) koma->colKomas->Add(std::move(picture));
+            koma->SetSize();
+        } else {
+            continue;
+        }
+        csv_.CrLf();
+    }
+}
+
+void Reader::ReadLayers(Collection<clsLayer>& layers) {
+    const Long count = csv_.TakeLong();
+    csv_.CrLf();
+    for (Long i = 0; i < count; ++i) {
+        const Long id = csv_.TakeLong();
+        auto layer = std::make_shared<clsLayer>();
+        if (id > 0) {
+            const auto found = byId_.find(id);
+            if (found == byId_.end()) Damaged();
+            layer->SymbolData(found->second);
+        } else {
+            layer->SymbolData(std::make_shared<clsSymbolData>(id == -4   ? KindLayerFolder
+                                                              : id == -3 ? KindFrameAction
+                                                              : id == -2 ? KindFrameLabel
+                                                                         : KindBackGround));
+        }
+        layer->Load(csv_);
+        layers.Add(std::move(layer));
+    }
+    NestLayers(layers);
+}
+
+/// Refuses symbols that show themselves, at first or at last hand, and bottomless nesting.
+void Reader::CheckNesting() const {
+    const std::size_t count = static_cast<std::size_t>(project_.colSymbol->Count()) + 1;
+    std::vector<std::vector<Long>> shown(count);
+    for (const auto& symbol : *project_.colSymbol) {
+        std::vector<Long>& list = shown[static_cast<std::size_t>(symbol->Index)];
+        const auto add = [&list](const std::shared_ptr<clsSymbolData>& other) {
+            if (other && other->Index > 0) list.push_back(other->Index);
+        };
+        if (const auto* sprite = symbol->Property<clsPropertySprite>()) {
+            for (const auto& layer : *sprite->colLayer) add(layer->SymbolData());
+        } else if (const auto* button = symbol->Property<clsPropertyButton>()) {
+            for (const auto& state : {button->UpSymbol(), button->DownSymbol(),
+                                      button->OverSymbol(), button->HitTestSymbol()})
+                add(state);
+        } else if (const auto* koma = symbol->Property<clsPropertyKoma>()) {
+            for (const auto& picture : *koma->colKomas) add(picture);
+        }
+    }
+    // Height of what a symbol shows; -1 while it is being worked out.
+    std::vector<Long> height(count, 0);
+    struct Step {
+        std::size_t Symbol;
+        std::size_t Next;
+    };
+    std::vector<Step> open;
+    for (std::size_t start = 1; start < count; ++start) {
+        if (height[start] != 0) continue;
+        height[start] = -1;
+        open.push_back({start, 0});
+        while (!open.empty()) {
+            auto& [symbol, next] = open.back();
+            if (next < shown[symbol].size()) {
+                const auto inner = static_cast<std::size_t>(shown[symbol][next++]);
+                if (height[inner] == -1) Damaged();
+                if (height[inner] == 0) {
+                    height[inner] = -1;
+                    open.push_back({inner, 0});
+                }
+                continue;
+            }
+            Long deepest = 0;
+            for (const Long inner : shown[symbol])
+                deepest = std::max(deepest, height[static_cast<std::size_t>(inner)]);
+            if (deepest >= deepestNesting) Damaged();
+            height[symbol] = deepest + 1;
+            open.pop_back();
+        }
+    }
+}
+
+bool DecodeProject(ByteView bytes, String& text) {
+    if (bytes.size() < magicSize) return false;
+    const std::string_view magic(reinterpret_cast<const char*>(bytes.data()), magicSize);
+    if (!EqualsNoCase(FromNarrow(magic), u"KVFZ")) {
+        text = DecodeAnsi(bytes);
+        return true;
+    }
+    // The size told in the file is not relied on.
+    Bytes unpacked;
+    if (bytes.size() < compressedHead || !Inflate(bytes.subspan(compressedHead), unpacked))
+        return false;
+    text = DecodeAnsi(unpacked);
+    return true;
+}
+
+bool TellDamaged() {
+    ShowMessage(u"読込できませんでした。\r\nファイルは本ソフト用ではない可能性があります。",
+                u"ファイルが不正です", MessageIcon::Error);
+    return false;
+}
+
+}  // namespace
+
+bool LoadProject(StringView path, Project& out, const ProjectAssets& assets) {
+    Bytes bytes;
+    if (!ReadFileBytes(path, bytes)) return TellDamaged();
+    return LoadProjectBytes(bytes, path, out, assets);
+}
+
+bool LoadProjectBytes(ByteView bytes, StringView path, Project& out, const ProjectAssets& assets) {
+    const ProjectFileVersionScope version(NewestProjectFileVersion);
+    clsCSV csv;
+    csv.DefColSize(readingGrowth);
+    Reader reader(csv, GetFileFolder(AbsolutePath(path)), assets);
+    try {
+        String text;
+        if (!DecodeProject(bytes, text)) return TellDamaged();
+        csv.Text(std::move(text));
+        if (csv.TakeText() != u"KVF") return TellDamaged();
+        ProjectFileVersion = ReadVersion(csv);
+        csv.CrLf();
+        out = reader.Read();
+        return true;
+    } catch (const LoadStopped&) {
+        reader.Release();
+        ShowMessage(u"プロジェクトを開けませんでした。");
+        return false;
+    } catch (const RuntimeError&) {
+    } catch (const std::bad_alloc&) {
+    } catch (const std::length_error&) {
+    }
+    reader.Release();
+    return TellDamaged();
+}
+
+}  // namespace tamber

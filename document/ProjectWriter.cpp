@@ -1,0 +1,116 @@
+#include "document/ProjectWriter.h"
+
+#include <zlib.h>
+
+#include <algorithm>
+#include <vector>
+
+#include "document/AppVersion.h"
+#include "document/clsCSV.h"
+#include "document/clsPropertyButton.h"
+#include "document/clsPropertyKoma.h"
+#include "document/clsPropertySprite.h"
+#include "document/clsPropertyText.h"
+#include "document/clsPropertyVector.h"
+#include "platform/codepage.h"
+#include "platform/files.h"
+#include "platform/paths.h"
+#include "platform/text.h"
+
+namespace tamber {
+
+namespace {
+
+constexpr Long ErrorPathFileAccess = 75;
+
+void SaveHtml(clsCSV& csv, const HtmlSettings& html) {
+    csv.Put(u"HTML");
+    for (const String& value : {html.SizeUnit, html.WIDTH, html.HEIGHT, html.align, html.salign})
+        csv.Put(value);
+    for (const bool flag : {html.play, html.loop, html.menu}) csv.Put(flag);
+    for (const String& value : {html.quality, html.wmode, html.scale}) csv.Put(value);
+    csv.Put(html.NamedAnchors);
+    csv.CrLf();
+}
+
+/// One row of a symbol's references to others, for the kinds that have any.
+void SaveReferences(clsCSV& csv, const clsSymbolData& symbol) {
+    if (const auto* text = symbol.Property<clsPropertyText>()) {
+        csv.Put(text->FitShapeIndex());
+    } else if (const auto* vector = symbol.Property<clsPropertyVector>()) {
+        csv.Put(vector->MorphIndex());
+    } else if (const auto* button = symbol.Property<clsPropertyButton>()) {
+        csv.Put(button->HitTestIndex());
+        csv.Put(button->DownIndex());
+        csv.Put(button->OverIndex());
+        csv.Put(button->UpIndex());
+    } else if (const auto* koma = symbol.Property<clsPropertyKoma>()) {
+        for (const auto& picture : *koma->colKomas) csv.Put(picture->Index);
+    } else {
+        return;
+    }
+    csv.CrLf();
+}
+
+void SaveLayers(clsCSV& csv, const Collection<clsLayer>& layers) {
+    csv.Put(layers.Count());
+    csv.CrLf();
+    for (const auto& layer : layers) layer->Save(csv);
+}
+
+Bytes Compressed(const Bytes& text) {
+    uLongf size = static_cast<uLongf>(text.size() + text.size() / 100 + 12);
+    Bytes out{'K', 'V', 'F', 'Z'};
+    for (const int shift : {0, 8, 16, 24})
+        out.push_back(static_cast<Byte>(text.size() >> shift & 255));
+    const std::size_t head = out.size();
+    size = std::max(size, compressBound(static_cast<uLong>(text.size())));
+    out.resize(head + size);
+    if (compress(out.data() + head, &size, text.data(), static_cast<uLong>(text.size())) != Z_OK)
+        throw RuntimeError(ErrorOverflow, u"SaveProject", u"");
+    out.resize(head + size);
+    return out;
+}
+
+}  // namespace
+
+void SaveProjectCells(clsCSV& csv, const Project& project, StringView baseDir) {
+    std::vector<String> head{u"KVF", ToText(AppVersion.Major), ToText(AppVersion.Minor),
+                             ToText(AppVersion.Revision)};
+    if (AppVersion.Build != 0) head.push_back(ToText(AppVersion.Build));
+    csv.Clip(head);
+    csv.Down();
+    csv.Put(project.MainWidth);
+    csv.Put(project.MainHeight);
+    csv.Put(project.FrameRate);
+    csv.Put(project.SWFVersion);
+    csv.CrLf();
+    if (project.Html) SaveHtml(csv, *project.Html);
+    csv.Put(project.colSymbol->Count());
+    csv.CrLf();
+    for (const auto& symbol : *project.colSymbol) symbol->Save(csv, baseDir);
+    for (const auto& symbol : *project.colSymbol) SaveReferences(csv, *symbol);
+    for (const auto& symbol : *project.colSymbol)
+        if (const auto* sprite = symbol->Property<clsPropertySprite>())
+            SaveLayers(csv, *sprite->colLayer);
+    SaveLayers(csv, *project.colMainLayer);
+}
+
+bool SaveProject(StringView path, const Project& project, RuntimeError* why) {
+    try {
+        const String folder = GetFileFolder(AbsolutePath(path));
+        clsCSV csv;
+        SaveProjectCells(csv, project, folder);
+        Bytes bytes = EncodeAnsi(csv.Text());
+        if (EqualsNoCase(GetFileExt(path), u"kvfz")) bytes = Compressed(bytes);
+        if ((!folder.empty() && !FolderExists(folder) && !MakeFolders(folder)) ||
+            !WriteFileBytes(bytes, path))
+            throw RuntimeError(ErrorPathFileAccess, u"SaveProject", String(path));
+        return true;
+    } catch (const RuntimeError& error) {
+        if (why != nullptr) *why = error;
+        return false;
+    }
+}
+
+}  // namespace tamber
