@@ -16,6 +16,8 @@ namespace tamber {
 
 namespace {
 constexpr Long TwipsPerPixel = 20;
+/// Frames a second when the settings hold no number.
+constexpr Single DefaultFrameRate = 24;
 }
 
 std::shared_ptr<clsLayer> frmMain::EditLayer() const {
@@ -31,7 +33,8 @@ void frmMain::Form_Load() {
     LogStep(u"DLLの読み込み：");
     inProject.MainWidth = mdlPrivateProfile::CanvasWidth();
     inProject.MainHeight = mdlPrivateProfile::CanvasHeight();
-    inProject.FrameRate = mdlPrivateProfile::FPS();
+    const String rate = mdlPrivateProfile::FPS();
+    inProject.FrameRate = IsNumeric(rate) ? ToSingle(rate) : DefaultFrameRate;
     inProject.SWFVersion = mdlPrivateProfile::SWFVersion();
     LogStep(u"ini読み込み：");
     view_->RefreshFgrdSymbol();
