@@ -1,0 +1,486 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "document/ProjectFileVersion.h"
+#include "document/ProjectReader.h"
+#include "document/ProjectWriter.h"
+#include "document/clsLayerFolder.h"
+#include "document/clsObjText.h"
+#include "document/clsPropertyBmp.h"
+#include "document/clsPropertyButton.h"
+#include "document/clsPropertyClass.h"
+#include "document/clsPropertyKoma.h"
+#include "document/clsPropertySprite.h"
+#include "document/clsPropertySymbolFolder.h"
+#include "document/clsPropertyText.h"
+#include "document/clsPropertyVector.h"
+#include "platform/UserInterface.h"
+#include "platform/codepage.h"
+#include "platform/files.h"
+#include "platform/paths.h"
+#include "platform/text.h"
+
+namespace tamber {
+namespace {
+
+constexpr StringView damagedTitle = u"ファイルが不正です";
+constexpr StringView damagedText =
+    u"読込できませんでした。\r\nファイルは本ソフト用ではない可能性があります。";
+
+class Listener : public UserInterface {
+public:
+    std::vector<std::pair<String, String>> Messages;
+    String Choice;
+    String DialogTitle;
+
+    void Message(StringView text, StringView title, MessageIcon) override {
+        Messages.emplace_back(text, title);
+    }
+    Answer Ask(StringView, StringView, Choices) override { return Answer::Cancel; }
+    String OpenFileDialog(const FileDialog& dialog) override {
+        DialogTitle = dialog.Title;
+        return Choice;
+    }
+    String SaveFileDialog(const FileDialog&) override { return {}; }
+    String SelectFolderDialog(StringView) override { return {}; }
+    void Progress(Long, Long) override {}
+    void Status(StringView) override {}
+};
+
+class FakeAssets : public ProjectAssets {
+public:
+    bool Readable = true;
+    bool HasFonts = true;
+
+    bool LoadBitmap(clsSymbolData& symbol) const override {
+        auto& picture = *symbol.Property<clsPropertyBmp>();
+        picture.Width = 30;
+        picture.height = 20;
+        return Readable;
+    }
+    bool LoadVector(clsSymbolData&) const override { return Readable; }
+    bool LoadSound(clsSymbolData&) const override { return Readable; }
+    bool LoadMovie(clsSymbolData&) const override { return Readable; }
+    bool FontAvailable(StringView) const override { return HasFonts; }
+    String DefaultFont() const override { return u"ＭＳ ゴシック"; }
+    void SetTextSize(clsSymbolData&) const override {}
+};
+
+/// All values away from their defaults.
+const String filterCells =
+    u"True,90,80,70,60,1,2,3,4,"
+    u"True,1,2,3,50,4,5,30,6,2.5,True,True,False,3,"
+    u"True,7,8,1,"
+    u"True,9,8,7,40,3,4,1.5,True,False,False,2,"
+    u"True,1,2,3,10,4,5,6,20,7,8,60,9,2,True,False,False,True,1,"
+    u"True,3,3,2,1,1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19,20,21,22,23,24,25,"
+    u"5,6,7,30,True,True,"
+    u"True,1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19,20";
+
+const String placementHead = u"12.5,-3.2,1,2,False,15000,-20000,-10,90,450000,10000,-20000,128,";
+/// Two curves, then the filters, then a path of two points: the tail goes on behind them.
+const String placement = placementHead + u"NON,True,2\r\n0,0,0.5,0.25,1\r\n0,0\r\n8," +
+                         filterCells + u",2\r\nOn,1.5,2,Off,3,4";
+/// Straight curves and no path: the tail goes on in the same row.
+const String plainPlacement =
+    placementHead + u"PRM,False,1\r\n0,0,1\r\n0,0\r\n8," + filterCells + u",0";
+
+/// A layer's first row and its one key frame.
+String LayerRows(StringView id, StringView element, StringView event = u"") {
+    return String(id) + u",層,inst,2,," + String(event) +
+           u"\"trace(\"\"1\"\");\",-1,1,0,p1,p2,_root,False,1\r\n3,4,True,True,False" +
+           (element.empty() ? u"" : u",") + String(element) + u"\r\n";
+}
+
+/// A project with each kind of symbol and of element.
+String WholeProject() {
+    return u"KVF,0,9,0\r\n"
+           u"320,240,12.5,8\r\n"
+           u"HTML,pixels,320,240,l,t,True,False,True,high,window,showall,True\r\n"
+           u"14\r\n"
+           u"1,絵\\表.bmp,画像,pic,,Export,True,1,2,3,True,BL,50,True,80\r\n"
+           u"2,,ﾃｷｽﾄ,,,ExportTop,初め,def,Font,100,20,12,1.5,2,True,False,10,20,30,1,False,True,"
+           u"True,False,True,False,True,False,True,var,True,3,4,2,3,False,True,True,2\r\n"
+           u"3,,ﾃｷｽﾄ,,,,a,b,_sans,1,2,3,0,0,False,True,1,2,3,0,True,False,False,0,0,1,1,True,"
+           u"False,False,1\r\n"
+           u"4,s.mp3,ｻｳﾝﾄﾞ,,,,False\r\n"
+           u"5,v.svg,ﾍﾞｸﾀ,,,,True,True,1,2,3,4,5,6,7,8,True,True,True,1,2,512\r\n"
+           u"6,v.svg,ﾍﾞｸﾀ,,,,False,False,0,0,0,0,0,0,0,0,False,False,False,0,0,1024\r\n"
+           u"7,,ｽﾌﾟﾗｲﾄ,obj,MyClass,Export,スプライト1,10,20,1,2,True,1,3,2,4\r\n"
+           u"8,m.flv,動画,,,,2,False,True\r\n"
+           u"9,,空動画,,,,空1,30,40\r\n"
+           u"10,,ﾎﾞﾀﾝ,,,,ボタン1,True,True,1,3,2,4,True,5,6,90,80,70,60,1,2,3,4,False\r\n"
+           u"11,,ｺﾏ動画,,,,コマ1,3\r\n"
+           u"-1,,Sﾌｫﾙﾀﾞ,,,,フォルダ1,1,False\r\n"
+           u"-5,,ｸﾗｽ,,,,MyClass,Base,2\r\nc1,x=1;\r\nc2,\"a(\"\"b\"\");\"\r\n"
+           u"14,,ﾘﾝｸ,,,,lib,other.swf,10,20,画像,True,1,2,3,True,BL,50,True,80\r\n"
+           u"5\r\n0\r\n6\r\n0\r\n1,0,1,1\r\n1,1\r\n"
+           u"1\r\n" +
+           LayerRows(u"1", placement) + u"14\r\n" + LayerRows(u"-1", u"10,20,30") +
+           LayerRows(u"-2", u"label,True") + LayerRows(u"1", plainPlacement) +
+           LayerRows(u"2", placement + u",True,out,True,5,Right,True,30,fade,speed,3,") +
+           LayerRows(u"4", u"2,3,50,60,100,200,10,20") +
+           LayerRows(u"5", placement + u",True,1,2,3,4,5,6,7,8,True") +
+           LayerRows(u"7", plainPlacement + u",True,loop,False,5,Random,False,12,spin,") +
+           LayerRows(u"8", placement) + LayerRows(u"9", placement) +
+           LayerRows(u"-3", u"note,stop();,2,1,1,end,w,_parent") +
+           LayerRows(u"10", placement, u"rollout,") + LayerRows(u"11", plainPlacement) +
+           LayerRows(u"-4", u"棚,1,1,False,memo") + LayerRows(u"14", placement);
+}
+
+class ProjectFile : public testing::Test {
+protected:
+    ProjectFile() : scope_(ui_) {
+        const std::string name = testing::UnitTest::GetInstance()->current_test_info()->name();
+        root_ = std::filesystem::temp_directory_path() / ("tamber_project_" + name);
+        std::filesystem::remove_all(root_);
+        folder_ = FromNarrow(root_.string());
+        path_ = JoinPath(folder_, u"案件.kvf");
+        MakeFolders(JoinPath(folder_, u"絵"));
+        for (const char16_t* file : {u"絵/表.bmp", u"s.mp3", u"v.svg", u"m.flv"})
+            WriteFileBytes(Bytes{1}, JoinPath(folder_, file));
+    }
+    ~ProjectFile() override { std::filesystem::remove_all(root_); }
+
+    bool Load(const String& text, Project& project) {
+        ui_.Messages.clear();
+        return LoadProjectBytes(EncodeAnsi(text), path_, project, assets_);
+    }
+    String Cells(const Project& project) const {
+        clsCSV csv;
+        SaveProjectCells(csv, project, folder_);
+        return csv.Text();
+    }
+    void ExpectDamaged(const String& text, const char* name) {
+        Project project;
+        project.MainWidth = 77;
+        EXPECT_FALSE(Load(text, project)) << name;
+        ASSERT_EQ(ui_.Messages.size(), 1U) << name;
+        EXPECT_EQ(ui_.Messages[0].first, damagedText) << name;
+        EXPECT_EQ(ui_.Messages[0].second, damagedTitle) << name;
+        EXPECT_EQ(project.MainWidth, 77) << name;
+    }
+
+    Listener ui_;
+    FakeAssets assets_;
+    String folder_;
+    String path_;
+
+private:
+    UserInterfaceScope scope_;
+    std::filesystem::path root_;
+};
+
+TEST_F(ProjectFile, ComesBackCellForCellWithEachKind) {
+    Project project;
+    ASSERT_TRUE(Load(WholeProject(), project));
+    EXPECT_TRUE(ui_.Messages.empty());
+    EXPECT_EQ(Cells(project), WholeProject());
+}
+
+TEST_F(ProjectFile, FillsTheRecords) {
+    Project project;
+    ASSERT_TRUE(Load(WholeProject(), project));
+    const auto& symbols = *project.colSymbol;
+    EXPECT_EQ(symbols(1)->FilePathName, JoinPath(JoinPath(folder_, u"絵"), u"表.bmp"));
+    EXPECT_TRUE(symbols(1)->blExport);
+    EXPECT_FALSE(symbols(1)->blExportTop);
+    EXPECT_EQ(symbols(2)->Property<clsPropertyText>()->FitShapeSymbol(), symbols(5));
+    EXPECT_EQ(symbols(5)->Property<clsPropertyVector>()->MorphSymbol(), symbols(6));
+    EXPECT_EQ(symbols(10)->Property<clsPropertyButton>()->DownSymbol(), nullptr);
+    EXPECT_EQ(symbols(10)->Property<clsPropertyButton>()->UpSymbol(), symbols(1));
+    EXPECT_EQ(symbols(10)->Property<clsPropertyButton>()->matrixDown.TranslatePosY, 6);
+    EXPECT_EQ(symbols(11)->Property<clsPropertyKoma>()->Width, 30);
+    EXPECT_EQ(symbols(13)->ParentFolder(), symbols(12));
+    EXPECT_EQ(symbols(14)->ParentFolder(), nullptr);
+    EXPECT_EQ(symbols(14)->eTypeEx(), KindBitmap);
+    EXPECT_EQ(symbols(14)->TypeTextEx(), u"L:画像");
+    EXPECT_EQ(symbols(13)->Value(), u"MyClass：Base");
+    EXPECT_EQ(symbols(13)->ExportName(), u"__Packages.MyClass");
+    const auto& layers = *project.colMainLayer;
+    EXPECT_EQ(layers(14)->ParentFolder(), layers(13));
+    EXPECT_EQ(layers(11)->OnEventName(), u"rollout");
+    EXPECT_EQ(layers(4)->SymbolData(), symbols(2));
+    const clsLayerObjElement& element = *layers(4)->Object(1)->Placement();
+    EXPECT_EQ(element.ScaleX(), 1.5F);
+    EXPECT_EQ(element.EdgingTblXY.Points,
+              (std::vector<EdgingPoint>{{0, 0}, {0.5F, 0.25F}, {1, 1}}));
+    EXPECT_EQ(element.tpCount(), 2);
+    EXPECT_EQ(element.TweenPoint(2)->PointType, 1);
+    EXPECT_EQ(element.inFilter->fltBevel.HighlightColorRed, 6);
+    EXPECT_EQ(layers(4)
+                  ->Object(1)
+                  ->ObjectAs<clsObjText>()
+                  ->inEfElement.colEffectPrm->Item(u"speed")
+                  ->Value,
+              u"3");
+    EXPECT_EQ(project.Html->quality, u"high");
+}
+
+TEST_F(ProjectFile, SavesPlainAndCompressedAndReadsByContent) {
+    Project project;
+    ASSERT_TRUE(Load(WholeProject(), project));
+    ASSERT_TRUE(SaveProject(path_, project, nullptr));
+    Bytes plain;
+    ASSERT_TRUE(ReadFileBytes(path_, plain));
+    EXPECT_EQ(plain, EncodeAnsi(WholeProject()));
+    const String packed = JoinPath(folder_, u"packed.KVFZ");
+    ASSERT_TRUE(SaveProject(packed, project, nullptr));
+    Bytes bytes;
+    ASSERT_TRUE(ReadFileBytes(packed, bytes));
+    EXPECT_EQ(std::string(bytes.begin(), bytes.begin() + 4), "KVFZ");
+    EXPECT_EQ(static_cast<std::size_t>(bytes[4] | bytes[5] << 8 | bytes[6] << 16), plain.size());
+    // Neither the letter case nor the told size nor the extension matters.
+    bytes[1] = 'v';
+    bytes[7] = 255;
+    ASSERT_TRUE(WriteFileBytes(bytes, path_));
+    Project again;
+    ASSERT_TRUE(LoadProject(path_, again, assets_));
+    EXPECT_EQ(Cells(again), WholeProject());
+    ui_.Messages.clear();
+    bytes.resize(bytes.size() / 2);
+    EXPECT_FALSE(LoadProjectBytes(bytes, path_, again, assets_));
+    EXPECT_EQ(ui_.Messages.size(), 1U);
+    EXPECT_EQ(again.colSymbol->Count(), 14);
+}
+
+TEST_F(ProjectFile, ReadsAnEmptyProject) {
+    const String text = u"KVF,0,9,0\r\n550,400,12,7\r\n0\r\n0\r\n";
+    Project project;
+    ASSERT_TRUE(Load(text, project));
+    EXPECT_FALSE(project.Html.has_value());
+    EXPECT_EQ(Cells(project), text);
+}
+
+TEST_F(ProjectFile, RemarksAndButtonLinkageDoNotSurvive) {
+    const String button =
+        u"1,,ﾎﾞﾀﾝ,name,cls,Export,B,False,False,0,0,0,0,False,False\r\n0,0,0,0\r\n";
+    const String text = u"KVF,0,9,0\r\n1,1,1,8\r\n1\r\n" + button +
+                        u"1\r\n1,,,0,remark,release,,2048,0,0,,,,True,0\r\n";
+    Project project;
+    ASSERT_TRUE(Load(text, project));
+    EXPECT_EQ((*project.colSymbol)(1)->ObjectName, u"");
+    EXPECT_FALSE((*project.colSymbol)(1)->blExport);
+    EXPECT_EQ((*project.colMainLayer)(1)->ExpText(), u"1");
+    (*project.colSymbol)(1)->ObjectName = u"name";
+    EXPECT_NE(Cells(project).find(u"ﾎﾞﾀﾝ,name,"), String::npos);
+}
+
+TEST_F(ProjectFile, ReadsOlderLayouts) {
+    // Version 0.5.5: no class, event, target, visibility or skew cells, no curves, no matrices.
+    const String filters =
+        u"False,100,100,100,100,0,0,0,0,False,0,0,0,100,2,2,45,5,1,False,False,True,2,False,4,4,2,"
+        u"False,255,255,0,100,10,10,1,False,False,True,2,False,0,0,0,100,255,255,255,100,2,2,45,5,"
+        u"1,False,False,True,False,2,False,5,5,1,0,0,0,0,0,0,0,0,0,0,0,0,0,1,0,0,0,0,0,0,0,0,0,0,"
+        u"0,0,0,0,0,0,False,False,False,1,0,0,0,0,0,1,0,0,0,0,0,1,0,0,0,0,0,1,0";
+    const String text =
+        u"KVF,0,5,5\r\n100,50,12,6\r\n2\r\n1,,ﾎﾞﾀﾝ,obj,,B,True\r\n"
+        u"2,,ﾃｷｽﾄ,,Export,a,a,F,1,1,1,0,0,False,False,0,0,0,0,True,False\r\n"
+        u"0,0,0,0\r\n1\r\n1,n,i,0,,s,-1,0,0,,,True,1\r\n"
+        u"3,0,False,True,1,2,0,0,True,10000,10000,0,100,90000,64,8," +
+        filters + u",0\r\n";
+    Project project;
+    ASSERT_TRUE(Load(text, project));
+    const auto& layer = *(*project.colMainLayer)(1);
+    EXPECT_EQ(layer.eOnEvent, 1024);
+    EXPECT_EQ(layer.inScript.ScriptText, u"s");
+    const clsLayerObject& object = *layer.Object(1);
+    EXPECT_EQ(object.StartFrame(), 3);
+    EXPECT_EQ(object.DispCount(), 1);
+    EXPECT_TRUE(object.blVisible);
+    EXPECT_EQ(object.Placement()->Angle(), 9.0F);
+    EXPECT_EQ(object.Placement()->SkewX(), 0.0F);
+    EXPECT_EQ(object.Placement()->Edging, 64);
+    EXPECT_EQ(object.Placement()->eBlend, 8);
+    EXPECT_EQ(object.Placement()->EdgingAllMode, 1);
+    const auto& symbols = *project.colSymbol;
+    EXPECT_TRUE(symbols(1)->Property<clsPropertyButton>()->blAutoHitTest);
+    EXPECT_EQ(symbols(2)->Property<clsPropertyText>()->FitShapeScaleX, 1.0F);
+    EXPECT_TRUE(symbols(2)->blExport);
+}
+
+TEST_F(ProjectFile, TakesTheMinorVersionAsTwoHexadecimalDigits) {
+    String text = WholeProject();
+    Project project;
+    ASSERT_TRUE(Load(text.replace(0, 9, u"KVF,0,10,0"), project));
+    EXPECT_EQ(Cells(project), WholeProject());
+}
+
+TEST_F(ProjectFile, AsksForAMissingFile) {
+    const String text =
+        u"KVF,0,9,0\r\n1,1,1,8\r\n1\r\n"
+        u"1,gone.bmp,画像,,,,False,0,0,0,False,CR,100,False,70\r\n0\r\n";
+    Project project;
+    project.MainWidth = 77;
+    EXPECT_FALSE(Load(text, project));
+    EXPECT_EQ(ui_.DialogTitle, u"ファイル選択");
+    ASSERT_EQ(ui_.Messages.size(), 2U);
+    EXPECT_EQ(ui_.Messages[0].first,
+              JoinPath(folder_, u"gone.bmp") + u"\r\n\r\nファイルが見つかりません。");
+    EXPECT_EQ(ui_.Messages[1].first, u"プロジェクトを開けませんでした。");
+    EXPECT_EQ(project.MainWidth, 77);
+    ui_.Choice = JoinPath(folder_, u"s.mp3");
+    ASSERT_TRUE(Load(text, project));
+    EXPECT_EQ((*project.colSymbol)(1)->FilePathName, ui_.Choice);
+    assets_.Readable = false;
+    EXPECT_FALSE(Load(text, project));
+    ASSERT_EQ(ui_.Messages.size(), 3U);
+    EXPECT_EQ(ui_.Messages[1].first, u"ファイルの読み込みに失敗しました。");
+    EXPECT_EQ(ui_.Messages[1].second, u"読み込みエラー");
+}
+
+TEST_F(ProjectFile, ReplacesAFontThatIsNotAvailable) {
+    assets_.HasFonts = false;
+    Project project;
+    ASSERT_TRUE(Load(WholeProject(), project));
+    ASSERT_EQ(ui_.Messages.size(), 1U);
+    EXPECT_EQ(ui_.Messages[0].first,
+              u"「Font」が見つかりません。\r\n「ＭＳ ゴシック」へ変更します。");
+    EXPECT_EQ((*project.colSymbol)(2)->Property<clsPropertyText>()->FontName, u"ＭＳ ゴシック");
+    EXPECT_EQ((*project.colSymbol)(3)->Property<clsPropertyText>()->FontName, u"_sans");
+}
+
+TEST_F(ProjectFile, RefusesDamagedFiles) {
+    const String head = u"KVF,0,9,0\r\n1,1,1,8\r\n";
+    const String sprite = u"1,,ｽﾌﾟﾗｲﾄ,,,,A,0,0,0,0,False,0,0,0,0\r\n";
+    const String row = u",,,0,,,2048,0,0,,,,True,";
+    const struct {
+        const char* Name;
+        String Text;
+    } cases[] = {
+        {"too short", u"KVF"},
+        {"another file", u"GIF89a,1,2\r\n"},
+        {"a version that is no number", u"KVF,g,1,1\r\n1,1,1,8\r\n0\r\n0\r\n"},
+        {"symbol count too high", head + u"2147483647\r\n"},
+        {"layer count too high", head + u"0\r\n2147483647\r\n"},
+        {"key frame count too high", head + u"0\r\n1\r\n-1" + row + u"2147483647\r\n"},
+        {"layers of a class", head + u"1\r\n-5,,ｸﾗｽ,,,,C,,2147483647\r\n0\r\n"},
+        {"curve", head + u"1\r\n9,,空動画,,,,e,1,1\r\n1\r\n9" + row +
+                      u"1\r\n1,1,False,False,True," + placementHead +
+                      u"XY,False,2147483647\r\n0\r\n"},
+        {"a frame before the first",
+         head + u"0\r\n1\r\n-1" + row + u"1\r\n0,1,False,False,True,0,0,0\r\n"},
+        {"key frames out of order", head + u"0\r\n1\r\n-1" + row +
+                                        u"2\r\n2,1,False,False,True,0,0,0\r\n"
+                                        u"1,1,False,False,True,0,0,0\r\n"},
+        {"a layer of no symbol", head + u"0\r\n1\r\n5" + row + u"0\r\n"},
+        {"a reference of no symbol", head + u"1\r\n1,,ﾎﾞﾀﾝ,,,,B,False\r\n2,0,0,0\r\n0\r\n"},
+        {"a link to a link", head + u"1\r\n1,,ﾘﾝｸ,,,,a,b,1,1,ﾘﾝｸ,a,b,1,1,画像\r\n0\r\n"},
+        {"a sprite in itself", head + u"1\r\n" + sprite + u"1\r\n1" + row + u"0\r\n0\r\n"},
+        {"pictures in themselves", head + u"1\r\n1,,ｺﾏ動画,,,,K,1\r\n1\r\n0\r\n"},
+    };
+    for (const auto& c : cases) ExpectDamaged(c.Text, c.Name);
+}
+
+TEST_F(ProjectFile, RefusesBottomlessNesting) {
+    String text = u"KVF,0,9,0\r\n1,1,1,8\r\n600\r\n";
+    for (Long i = 1; i <= 600; ++i) text += ToText(i) + u",,ｽﾌﾟﾗｲﾄ,,,,A,0,0,0,0,False,0,0,0,0\r\n";
+    text += u"0\r\n";
+    for (Long i = 1; i < 600; ++i) text += u"1\r\n" + ToText(i) + u",,,0,,,2048,0,0,,,,True,0\r\n";
+    ExpectDamaged(text + u"0\r\n", "600 levels");
+}
+
+TEST_F(ProjectFile, TakesCountsBelowZeroAsNone) {
+    Project project;
+    ASSERT_TRUE(Load(u"KVF,0,9,0\r\n1,1,1,8\r\n-3\r\n-2147483648\r\n", project));
+    EXPECT_EQ(project.colSymbol->Count(), 0);
+}
+
+TEST_F(ProjectFile, FolderWithMoreRowsThanThereAreTakesTheRest) {
+    Project project;
+    ASSERT_TRUE(
+        Load(u"KVF,0,9,0\r\n1,1,1,8\r\n2\r\n1,,Sﾌｫﾙﾀﾞ,,,,F,2147483647,True\r\n"
+             u"2,,空動画,,,,e,1,1\r\n0\r\n",
+             project));
+    EXPECT_EQ((*project.colSymbol)(2)->ParentFolder(), (*project.colSymbol)(1));
+}
+
+TEST_F(ProjectFile, CutAtAnyByteLoadsOrSaysWhyNot) {
+    const Bytes whole = EncodeAnsi(WholeProject());
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        Project project;
+        ui_.Messages.clear();
+        const bool loaded =
+            LoadProjectBytes(ByteView(whole).first(length), path_, project, assets_);
+        ASSERT_EQ(loaded, ui_.Messages.empty()) << length;
+    }
+}
+
+TEST_F(ProjectFile, FailedSaveTellsWhy) {
+    RuntimeError why(0, u"", u"");
+    EXPECT_FALSE(SaveProject(JoinPath(JoinPath(folder_, u"s.mp3"), u"a.kvf"), Project(), &why));
+    EXPECT_NE(why.Number, 0);
+}
+
+TEST_F(ProjectFile, LeavesTheFileVersionAsItWas) {
+    Project project;
+    ASSERT_TRUE(Load(u"KVF,0,5,5\r\n1,1,1,8\r\n0\r\n0\r\n", project));
+    EXPECT_EQ(ProjectFileVersion, NewestProjectFileVersion);
+}
+
+TEST(Symbol, RefusesARecordOfAnotherKind) {
+    Listener ui;
+    const UserInterfaceScope scope(ui);
+    clsSymbolData symbol(KindBitmap);
+    const auto own = symbol.PropertyData();
+    symbol.PropertyData(std::make_shared<clsPropertyText>());
+    EXPECT_EQ(symbol.PropertyData(), own);
+    ASSERT_EQ(ui.Messages.size(), 1U);
+    EXPECT_EQ(ui.Messages[0].first, u"シンボルのタイプが違います。");
+}
+
+TEST(Symbol, ShowsATextInBrackets) {
+    clsSymbolData symbol(KindText);
+    auto& text = *symbol.Property<clsPropertyText>();
+    text.InitialText = u"a\r\nb\nc\rd";
+    EXPECT_EQ(symbol.Value(), u"[a↓b↓c←d]");
+    text.blDynamic = true;
+    text.VariableName = u"v";
+    EXPECT_EQ(symbol.Value(), u"v[a↓b↓c←d]");
+    EXPECT_EQ(symbol.OptionText(), u"*");
+    text.blFlashType = true;
+    EXPECT_EQ(symbol.OptionText(), u"$*");
+}
+
+TEST(Symbol, KeepsThreeIdentifiers) {
+    clsSymbolData symbol(KindBitmap);
+    symbol.DefineNum = 7;
+    symbol.DefineID(9);
+    symbol.DefineNum = 2;
+    EXPECT_EQ(symbol.DefineID(), 9);
+    symbol.DefineNum = 0;
+    EXPECT_EQ(symbol.DefineID(), 0);
+}
+
+TEST(Symbol, CopyOfASpriteHasItsOwnTimeline) {
+    clsSymbolData symbol(KindSprite);
+    auto& sprite = *symbol.Property<clsPropertySprite>();
+    auto layer = std::make_shared<clsLayer>();
+    auto inner = std::make_shared<clsSymbolData>(KindSprite);
+    layer->SymbolData(inner);
+    sprite.colLayer->Add(layer);
+    EXPECT_TRUE(sprite.CkHasLoop(*inner));
+    EXPECT_FALSE(sprite.CkHasLoop(symbol));
+    const auto copy = symbol.Copy();
+    copy->Property<clsPropertySprite>()->colLayer->Item(1)->LayerName = u"x";
+    EXPECT_EQ(layer->LayerName, u"");
+}
+
+TEST(Symbol, LoopSearchEndsOnCyclicData) {
+    auto a = std::make_shared<clsSymbolData>(KindSprite);
+    auto b = std::make_shared<clsSymbolData>(KindSprite);
+    const auto show = [](clsSymbolData& in, const std::shared_ptr<clsSymbolData>& symbol) {
+        auto layer = std::make_shared<clsLayer>();
+        layer->SymbolData(symbol);
+        in.Property<clsPropertySprite>()->colLayer->Add(layer);
+    };
+    show(*a, b);
+    show(*b, a);
+    EXPECT_FALSE(a->Property<clsPropertySprite>()->CkHasLoop(clsSymbolData(KindBitmap)));
+    EXPECT_TRUE(a->Property<clsPropertySprite>()->CkHasLoop(*a));
+    a->Property<clsPropertySprite>()->colLayer->Clear();
+}
+
+}  // namespace
+}  // namespace tamber

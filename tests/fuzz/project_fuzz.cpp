@@ -1,0 +1,47 @@
+#include "document/ProjectReader.h"
+#include "document/ProjectWriter.h"
+#include "document/clsCSV.h"
+#include "platform/UserInterface.h"
+
+namespace {
+
+using namespace tamber;
+
+class Silent : public UserInterface {
+public:
+    void Message(StringView, StringView, MessageIcon) override { Told = true; }
+    Answer Ask(StringView, StringView, Choices) override { return Answer::Cancel; }
+    String OpenFileDialog(const FileDialog&) override { return u"chosen"; }
+    String SaveFileDialog(const FileDialog&) override { return {}; }
+    String SelectFolderDialog(StringView) override { return {}; }
+    void Progress(Long, Long) override {}
+    void Status(StringView) override {}
+
+    bool Told = false;
+};
+
+class AnyAssets : public ProjectAssets {
+public:
+    bool LoadBitmap(clsSymbolData&) const override { return true; }
+    bool LoadVector(clsSymbolData&) const override { return true; }
+    bool LoadSound(clsSymbolData&) const override { return true; }
+    bool LoadMovie(clsSymbolData&) const override { return true; }
+    bool FontAvailable(StringView) const override { return true; }
+    String DefaultFont() const override { return u"_sans"; }
+    void SetTextSize(clsSymbolData&) const override {}
+};
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    Silent ui;
+    const UserInterfaceScope scope(ui);
+    Project project;
+    if (!LoadProjectBytes({data, size}, u"/project.kvf", project, AnyAssets())) {
+        if (!ui.Told) __builtin_trap();
+        return 0;
+    }
+    clsCSV csv;
+    SaveProjectCells(csv, project, u"/");
+    return 0;
+}
