@@ -1,0 +1,105 @@
+#!/usr/bin/env node
+// Generates the movie of every case and looks at it in a real player.
+//
+//   node play.mjs TAMBER MODULES OUTPUT [CASE...]
+//
+// TAMBER is the program, MODULES the folder with node_modules, OUTPUT where movies and the pictures of all looked-at
+// frames go. Exit status 0 when all is as expected, 1 when not.
+import { spawnSync } from 'node:child_process';
+import { mkdirSync, readFileSync, readdirSync, rmSync, writeFileSync } from 'node:fs';
+import { fileURLToPath } from 'node:url';
+import path from 'node:path';
+import { inflateSync } from 'node:zlib';
+import { Stage } from './stage.mjs';
+import { differences } from './expect.mjs';
+import { movingSquare } from './swf-by-hand.mjs';
+
+const casesFolder = path.join(path.dirname(fileURLToPath(import.meta.url)), 'cases');
+
+/** What the file itself says, apart from the player. */
+function header(movie) {
+  const magic = movie.toString('latin1', 0, 3);
+  const body = magic === 'CWS' ? inflateSync(movie.subarray(8)) : movie.subarray(8);
+  return { magic, version: movie[3], sizeIsRight: movie.readUInt32LE(4) === body.length + 8 };
+}
+
+function headerDifferences(movie, { compressed, version }) {
+  const seen = header(movie), lines = [];
+  const magic = compressed ? 'CWS' : 'FWS';
+  if (seen.magic !== magic) lines.push(`the file begins with ${seen.magic} instead of ${magic}`);
+  if (seen.version !== version) lines.push(`the file has version ${seen.version} instead of ${version}`);
+  if (!seen.sizeIsRight) lines.push('the length in the file is not its length');
+  return lines;
+}
+
+/** The user's own settings are kept out of it. */
+function generate(tamber, { project, arguments: extra = [] }, folder, output) {
+  rmSync(output, { force: true });
+  const run = spawnSync(tamber, ['generate', path.join(folder, project), '-o', output, ...extra], {
+    encoding: 'utf8', timeout: 60000, env: { ...process.env, XDG_CONFIG_HOME: path.dirname(output) },
+  });
+  if (run.error) throw run.error;
+  if (run.status !== 0) throw new Error(`Tamber answered ${run.status ?? run.signal}: ${run.stderr.trim()}`);
+  return readFileSync(output);
+}
+
+async function look(stage, movie, { width, height, expectations }, picturePath) {
+  const lines = [];
+  await stage.load(movie, width, height);
+  for (const expectation of [...expectations].sort((a, b) => a.frame - b.frame)) {
+    const { file, picture } = await stage.show(expectation.frame);
+    writeFileSync(`${picturePath}-${expectation.frame}.png`, file);
+    lines.push(...differences(picture, expectation));
+  }
+  return lines;
+}
+
+/** The runner's own test: the square is where it is said to be, and a wrong claim about it is noticed. */
+async function checkRunner(stage, output) {
+  const red = (left) => ({ colour: '#ff0000', left, top: 30, right: left + 20, bottom: 50, tolerance: 0 });
+  const size = { width: 100, height: 80 }, movie = movingSquare(5);
+  const right = await look(stage, movie, { ...size, expectations: [{ frame: 1, box: red(10) }, { frame: 4, box: red(40) }] }, path.join(output, 'runner'));
+  const wrong = await look(stage, movie, { ...size, expectations: [{ frame: 2, box: red(30), pixels: [{ x: 25, y: 40, colour: '#ffffff' }] }] }, path.join(output, 'runner'));
+  const noticed = ['frame 2: pixel 25, 40 is #ff0000 instead of #ffffff (tolerance 8)',
+    'frame 2: left of #ff0000 is 20 instead of 30 (tolerance 0)', 'frame 2: right of #ff0000 is 40 instead of 50 (tolerance 0)'];
+  if (wrong.join('\n') !== noticed.join('\n')) right.push(`a wrong claim brought: ${wrong.join('; ') || 'nothing'}`);
+  return right;
+}
+
+async function checkCase(stage, tamber, name, output) {
+  const folder = path.join(casesFolder, name);
+  const description = JSON.parse(readFileSync(path.join(folder, 'case.json'), 'utf8'));
+  const movie = generate(tamber, description, folder, path.join(output, `${name}.swf`));
+  return [...headerDifferences(movie, description), ...await look(stage, movie, description, path.join(output, name))];
+}
+
+async function main([tamber, modules, output, ...chosen]) {
+  if (!output) {
+    console.error('usage: node play.mjs TAMBER MODULES OUTPUT [CASE...]');
+    return 2;
+  }
+  mkdirSync(output, { recursive: true });
+  const names = chosen.length ? chosen : readdirSync(casesFolder).sort();
+  const stage = await Stage.open(modules);
+  let failures = 0;
+  const report = async (name, check) => {
+    let lines;
+    try {
+      lines = await check();
+    } catch (error) {
+      lines = [error.message];
+    }
+    failures += lines.length;
+    console.log(`${lines.length ? 'FAIL' : 'ok  '} ${name}`);
+    for (const line of lines) console.log(`     ${line}`);
+  };
+  try {
+    await report('(the runner itself)', () => checkRunner(stage, output));
+    for (const name of names) await report(name, () => checkCase(stage, path.resolve(tamber), name, output));
+  } finally {
+    await stage.close();
+  }
+  return failures ? 1 : 0;
+}
+
+process.exitCode = await main(process.argv.slice(2));

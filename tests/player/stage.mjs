@@ -1,0 +1,78 @@
+// A browser with the player in it: loads a movie, plays it to a frame, gives the pixels that are to be seen there.
+import { createServer } from 'node:http';
+import { existsSync } from 'node:fs';
+import { readFile } from 'node:fs/promises';
+import { createRequire } from 'node:module';
+import { fileURLToPath, pathToFileURL } from 'node:url';
+import path from 'node:path';
+import { decodePng } from './png.mjs';
+
+const here = path.dirname(fileURLToPath(import.meta.url));
+const types = { '.js': 'text/javascript', '.wasm': 'application/wasm' };
+const html = `<!doctype html><meta charset="utf-8">
+<style>html, body { margin: 0; overflow: hidden } ruffle-player { display: block }</style><body>
+<script>window.RufflePlayer = { config: { polyfills: false } }</script><script src="/player/ruffle.js"></script>`;
+// Without CDPScreenshotNewSurface a picture of a page with a WebGL canvas never comes.
+const flags = ['--headless', '--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run',
+  '--disable-background-networking', '--disable-component-update', '--disable-sync', '--use-gl=angle',
+  '--use-angle=swiftshader', '--enable-unsafe-swiftshader', '--ignore-gpu-blocklist', '--mute-audio',
+  '--enable-features=CDPScreenshotNewSurface', '--force-color-profile=srgb',
+  '--autoplay-policy=no-user-gesture-required'];
+
+function findBrowser() {
+  const candidates = [process.env.CHROMIUM, '/usr/bin/chromium', '/usr/bin/chromium-browser'];
+  const found = candidates.find((candidate) => candidate && existsSync(candidate));
+  if (!found) throw new Error('no chromium; CHROMIUM may name one');
+  return found;
+}
+
+function serve(playerFolder) {
+  const server = createServer(async (request, response) => {
+    const name = new URL(request.url, 'http://localhost').pathname;
+    if (name === '/') return response.writeHead(200, { 'content-type': 'text/html' }).end(html);
+    try {
+      const file = path.join(playerFolder, path.basename(name));
+      const body = await readFile(file);
+      response.writeHead(200, { 'content-type': types[path.extname(file)] ?? 'application/octet-stream' }).end(body);
+    } catch {
+      response.writeHead(404).end();
+    }
+  });
+  return new Promise((done) => server.listen(0, '127.0.0.1', () => done(server)));
+}
+
+export class Stage {
+  /** modules: the folder that `npm ci` filled. */
+  static async open(modules) {
+    const require = createRequire(pathToFileURL(path.join(modules, 'package.json')));
+    const { chromium } = require('playwright-core');
+    const stage = new Stage();
+    stage.server = await serve(path.join(modules, 'node_modules', '@ruffle-rs', 'ruffle'));
+    stage.browser = await chromium.launch({ executablePath: findBrowser(), args: flags });
+    stage.page = await stage.browser.newPage({ deviceScaleFactor: 1 });
+    await stage.page.addInitScript({ path: path.join(here, 'page.js') });
+    await stage.page.goto(`http://127.0.0.1:${stage.server.address().port}/`);
+    return stage;
+  }
+
+  async load(movie, width, height) {
+    await this.page.setViewportSize({ width, height });
+    return this.page.evaluate(([bytes, w, h]) => window.movieStage.load(bytes, w, h),
+      [movie.toString('base64'), width, height]);
+  }
+
+  /** Plays on to a frame; answers the picture both as decoded pixels and as the PNG file's bytes. */
+  async show(frame) {
+    await this.page.evaluate((wanted) => window.movieStage.playTo(wanted), frame);
+    const broken = await this.page.evaluate(() => window.movieStage.breakdown());
+    if (broken) throw new Error(`the player broke down at frame ${frame}: ${broken}`);
+    const file = await this.page.screenshot();
+    return { file, picture: decodePng(file) };
+  }
+
+  async close() {
+    await this.browser?.close();
+    this.server?.close();
+    this.server?.closeAllConnections();
+  }
+}
