@@ -204,6 +204,8 @@ void Authoring::DefineSprite(clsSWFAdmin& admin, clsSymbolData& symbol, Long fra
     tag->SaveTimeline = [inner] { inner->FramesSave(); };
     tag->ID = inner->AddDefinition(tag);
     admin.DefineID = tag->ID;
+    // The list holds the tag, which holds the timeline: it must not hold the list too.
+    inner->colDefineObj(std::make_shared<clsSWFAdmin::DefinitionList>());
     for (auto& action : inner->colInitAction) {
         if (action->SpriteID < 0) action->SpriteID = tag->ID;
         admin.colInitAction.push_back(action);

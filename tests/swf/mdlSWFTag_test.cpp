@@ -58,7 +58,9 @@ TEST(SetMatrix, of_identity_takes_nine_bits) {
                   mdlSWFTag::SetBytes(1, 0xFF);
               }),
               (Bytes{0x02, 0x00, 0xFF}));
-    EXPECT_EQ(Written([] { mdlSWFTag::SetMatrixTransform(1, 1, 0, {0, 0}, {0, 0}, 0, 0); }),
+    EXPECT_EQ(Written([] {
+                  mdlSWFTag::SetMatrixTransform(1, 1, 0, {0, 0}, {0, 0}, 0, 0);
+              }),
               (Bytes{0x02, 0x00}));
 }
 
@@ -92,8 +94,7 @@ TEST(SetCXFormWithAlpha, writes_only_the_groups_that_differ_from_identity) {
 
 TEST(SetString, takes_the_code_page_below_version_6_and_UTF8_from_it) {
     mdlSWFTag::swfVersion(5);
-    EXPECT_EQ(Written([] { mdlSWFTag::SetString(u"ア", true, true); }),
-              (Bytes{0x83, 0x41, 0x00}));
+    EXPECT_EQ(Written([] { mdlSWFTag::SetString(u"ア", true, true); }), (Bytes{0x83, 0x41, 0x00}));
     mdlSWFTag::swfVersion(6);
     EXPECT_EQ(Written([] { mdlSWFTag::SetString(u"ア", true, true); }),
               (Bytes{0xE3, 0x82, 0xA2, 0x00}));
