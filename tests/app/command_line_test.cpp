@@ -1,0 +1,133 @@
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Outcome {
+    int Code = -1;
+    std::string Output;  ///< standard output
+    std::string Errors;  ///< standard error
+};
+
+std::string TextOf(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::ostringstream text;
+    text << file.rdbuf();
+    return text.str();
+}
+
+/// Runs the real program in a folder of its own.
+class CommandLineTest : public testing::Test {
+protected:
+    void SetUp() override { fs::create_directories(folder); }
+    void TearDown() override { fs::remove_all(folder); }
+
+    Outcome Tamber(const std::string& arguments) const {
+        const fs::path out = folder / "out.txt";
+        const fs::path err = folder / "err.txt";
+        const std::string command = "cd '" + folder.string() + "' && '" TAMBER_PROGRAM "' " +
+                                    arguments + " >out.txt 2>err.txt";
+        const int status = std::system(command.c_str());
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, TextOf(out), TextOf(err)};
+    }
+
+    fs::path folder =
+        fs::path(testing::TempDir()) /
+        (std::string("tamber_") + testing::UnitTest::GetInstance()->current_test_info()->name());
+    std::string hello = "'" TAMBER_SOURCE_DIR "/examples/hello/hello.kvf'";
+};
+
+TEST_F(CommandLineTest, generates_the_example_without_a_message) {
+    const Outcome run = Tamber("generate " + hello + " -o a.swf --strict");
+    EXPECT_EQ(run.Code, 0) << run.Errors;
+    const std::string movie = TextOf(folder / "a.swf");
+    EXPECT_EQ(movie.substr(0, 4), std::string("CWS\x08"));
+    EXPECT_EQ(Tamber("generate " + hello + " -o b.swf --set flgSWFCompress=0").Code, 0);
+    const std::string plain = TextOf(folder / "b.swf");
+    EXPECT_EQ(plain.substr(0, 4), std::string("FWS\x08"));
+    // Both tell the size of the plain file.
+    EXPECT_EQ(movie.substr(4, 4), plain.substr(4, 4));
+    EXPECT_EQ(plain.size(), static_cast<unsigned char>(plain[4]) |
+                                static_cast<unsigned char>(plain[5]) << 8 |
+                                static_cast<unsigned char>(plain[6]) << 16);
+}
+
+TEST_F(CommandLineTest, info_tells_what_the_project_holds) {
+    const Outcome run = Tamber("info " + hello + " --json");
+    ASSERT_EQ(run.Code, 0) << run.Errors;
+    const auto info = nlohmann::json::parse(run.Output);
+    EXPECT_EQ(info["width"], 320);
+    EXPECT_EQ(info["frameRate"], 24);
+    ASSERT_EQ(info["symbols"].size(), 4u);
+    EXPECT_EQ(info["symbols"][1]["name"], "月.png");
+    EXPECT_EQ(info["symbols"][1]["width"], 72);
+    ASSERT_EQ(info["layers"].size(), 5u);
+    const auto& flight = info["layers"][1]["keyFrames"][0];
+    EXPECT_EQ(flight["DispCount"], 72);
+    EXPECT_EQ(flight["blTween"], true);
+    EXPECT_EQ(flight["placement"]["ScaleX"], 0.5);
+    EXPECT_EQ(flight["placement"]["tweenPoints"][2]["type"], "On");
+}
+
+TEST_F(CommandLineTest, converting_there_and_back_keeps_the_project) {
+    fs::copy(fs::path(TAMBER_SOURCE_DIR) / "examples/hello", folder / "p");
+    ASSERT_EQ(Tamber("convert p/hello.kvf p/a.kvfz").Code, 0);
+    EXPECT_EQ(TextOf(folder / "p/a.kvfz").substr(0, 4), "KVFZ");
+    ASSERT_EQ(Tamber("convert p/a.kvfz p/b.kvf").Code, 0);
+    EXPECT_EQ(TextOf(folder / "p/b.kvf"), TextOf(folder / "p/hello.kvf"));
+}
+
+TEST_F(CommandLineTest, says_what_went_wrong_and_writes_nothing) {
+    std::ofstream(folder / "broken.kvf") << "KVF,0,9";
+    std::ofstream(folder / "lost.kvf")
+        << "KVF,0,9,0\r\n10,10,12,6\r\n1\r\n1,gone.png,\x89\xE6\x91\x9C,,,,"
+           "False,0,0,0,False,CR,100,False,70\r\n0\r\n";
+    const struct {
+        std::string arguments;
+        int code;
+        std::string message;
+    } cases[] = {
+        {"generate missing.kvf -o a.swf", 1, "ファイルが見つかりません。"},
+        {"generate broken.kvf -o a.swf", 1, "ファイルが不正です: 読込できませんでした。"},
+        {"generate lost.kvf -o a.swf", 1, "gone.png\n\nファイルが見つかりません。"},
+        {"generate " + hello + " -o no/such/folder/a.swf", 1, "書き込めませんでした"},
+        {"convert " + hello + " no/such/\"\"/", 1, "保存できませんでした。"},
+        {"generate", 2, "generate needs one project"},
+        {"info a b c", 2, "info needs one project"},
+        {"generate a.kvf --set nonsense=1", 2, "unknown setting nonsense=1"},
+        {"--nonsense", 2, "unknown option --nonsense"},
+    };
+    for (const auto& c : cases) {
+        const Outcome run = Tamber(c.arguments);
+        EXPECT_EQ(run.Code, c.code) << c.arguments << "\n" << run.Errors;
+        EXPECT_NE(run.Errors.find(c.message), std::string::npos) << c.arguments << "\n"
+                                                                 << run.Errors;
+        EXPECT_FALSE(fs::exists(folder / "a.swf")) << c.arguments;
+    }
+}
+
+TEST_F(CommandLineTest, without_a_command_starts_and_stops_and_has_no_window) {
+    const Outcome run = Tamber("");
+    EXPECT_EQ(run.Code, 0);
+    EXPECT_NE(run.Errors.find("no window"), std::string::npos);
+    EXPECT_EQ(Tamber("--version").Output, "Tamber 0.9.0.0\n");
+    EXPECT_EQ(Tamber("--help").Code, 0);
+}
+
+TEST_F(CommandLineTest, strict_tells_apart_a_movie_with_messages) {
+    std::ofstream(folder / "text.kvf") << "KVF,0,9,0\r\n10,10,12,4\r\n0\r\n0\r\n";
+    EXPECT_EQ(Tamber("generate text.kvf -o a.swf").Code, 0);
+    EXPECT_EQ(Tamber("generate text.kvf -o a.swf --strict").Code, 3);
+    EXPECT_TRUE(fs::exists(folder / "a.swf"));
+}
+
+}  // namespace
