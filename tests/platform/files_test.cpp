@@ -1,0 +1,126 @@
+#include "platform/files.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <filesystem>
+
+#include "platform/codepage.h"
+
+namespace tamber {
+namespace {
+
+namespace fs = std::filesystem;
+
+class FilesTest : public testing::Test {
+protected:
+    void SetUp() override {
+        fs::remove_all(folder);
+        fs::create_directories(folder);
+    }
+    void TearDown() override {
+        BeforeWriteStep() = nullptr;
+        fs::remove_all(folder);
+    }
+
+    Bytes Content() const {
+        Bytes bytes;
+        EXPECT_TRUE(ReadFileBytes(path, bytes));
+        return bytes;
+    }
+    std::size_t FilesInFolder() const {
+        return static_cast<std::size_t>(
+            std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
+    }
+
+    fs::path folder =
+        fs::path(testing::TempDir()) /
+        (std::string("files_") + testing::UnitTest::GetInstance()->current_test_info()->name());
+    String path = FromNarrow((folder / "保存.kvf").string());
+    Bytes oldBytes = Bytes(100, 1);
+    /// Large enough for several writes.
+    Bytes newBytes = Bytes(1000000, 2);
+};
+
+/// Lets `allowed` steps pass and then does `stop`.
+void StopAfter(int allowed, std::function<bool()> stop) {
+    BeforeWriteStep() = [allowed, stop]() mutable { return allowed-- > 0 || stop(); };
+}
+
+TEST_F(FilesTest, a_save_that_fails_at_any_step_leaves_the_old_file_and_nothing_beside_it) {
+    int steps = 0;
+    for (; steps < 100; ++steps) {
+        BeforeWriteStep() = nullptr;
+        ASSERT_TRUE(WriteFileBytes(oldBytes, path));
+        StopAfter(steps, [] { return false; });
+        if (WriteFileBytes(newBytes, path)) break;
+        EXPECT_EQ(Content(), oldBytes) << steps;
+        EXPECT_EQ(FilesInFolder(), 1u) << steps;
+    }
+    EXPECT_EQ(Content(), newBytes);
+    // Create, four writes of 256 KiB, flush, close, rename.
+    EXPECT_EQ(steps, 8);
+}
+
+TEST_F(FilesTest, a_save_killed_at_any_step_leaves_the_old_file_or_the_new_one) {
+    for (int steps = 0; steps < 100; ++steps) {
+        ASSERT_TRUE(WriteFileBytes(oldBytes, path));
+        const pid_t child = fork();
+        if (child == 0) {
+            StopAfter(steps, []() -> bool { _exit(1); });
+            _exit(WriteFileBytes(newBytes, path) ? 0 : 2);
+        }
+        int status = 0;
+        ASSERT_EQ(waitpid(child, &status, 0), child);
+        ASSERT_TRUE(WIFEXITED(status));
+        if (WEXITSTATUS(status) == 0) {
+            EXPECT_EQ(Content(), newBytes);
+            EXPECT_EQ(steps, 8);
+            return;
+        }
+        EXPECT_EQ(WEXITSTATUS(status), 1);
+        EXPECT_EQ(Content(), oldBytes) << steps;
+    }
+    FAIL() << "no save went through";
+}
+
+TEST_F(FilesTest, a_save_keeps_permissions_and_follows_links) {
+    const fs::path file = folder / "a";
+    const fs::path link = folder / "b";
+    ASSERT_TRUE(WriteFileBytes(oldBytes, FromNarrow(file.string())));
+    ASSERT_EQ(chmod(file.c_str(), 0640), 0);
+    fs::create_symlink(file, link);
+    ASSERT_TRUE(WriteFileBytes(newBytes, FromNarrow(link.string())));
+    EXPECT_TRUE(fs::is_symlink(link));
+    EXPECT_EQ(fs::file_size(file), newBytes.size());
+    EXPECT_EQ(fs::status(file).permissions(), fs::perms(0640));
+}
+
+TEST_F(FilesTest, what_cannot_be_written_or_read_is_false) {
+    EXPECT_FALSE(WriteFileBytes(oldBytes, u""));
+    EXPECT_FALSE(WriteFileBytes(oldBytes, FromNarrow((folder / "no" / "a").string())));
+    EXPECT_FALSE(WriteFileBytes(oldBytes, FromNarrow(folder.string())));
+    ASSERT_TRUE(WriteFileBytes(oldBytes, path));
+    EXPECT_FALSE(WriteFileBytes(newBytes, path, false));
+    EXPECT_EQ(Content(), oldBytes);
+    Bytes bytes;
+    EXPECT_FALSE(ReadFileBytes(FromNarrow(folder.string()), bytes));
+    EXPECT_FALSE(ReadFileBytes(u"/no/such/file", bytes));
+}
+
+TEST_F(FilesTest, a_part_of_a_file_can_be_read) {
+    ASSERT_TRUE(WriteFileBytes(Bytes{1, 2, 3, 4, 5}, path));
+    Bytes bytes;
+    ASSERT_TRUE(ReadFileBytes(path, bytes, 1, 3));
+    EXPECT_EQ(bytes, (Bytes{2, 3, 4}));
+    ASSERT_TRUE(ReadFileBytes(path, bytes, 9));
+    EXPECT_TRUE(bytes.empty());
+    Bytes head(8);
+    EXPECT_EQ(ReadFileHead(head, path), 5u);
+    EXPECT_EQ(head, (Bytes{1, 2, 3, 4, 5, 0, 0, 0}));
+}
+
+}  // namespace
+}  // namespace tamber
