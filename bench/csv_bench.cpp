@@ -1,6 +1,11 @@
 #include <benchmark/benchmark.h>
 
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+
 #include "document/clsCSV.h"
+#include "platform/codepage.h"
 #include "platform/text.h"
 
 namespace {
@@ -28,7 +33,39 @@ void ReadText(benchmark::State& state) {
     }
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
 }
-BENCHMARK(ReadText)->Arg(1000)->Arg(200000);
+BENCHMARK(ReadText)->Arg(1000)->Arg(270000)->Unit(benchmark::kMillisecond);
+
+/// Seconds that Python's csv module takes for the text, decoded before the clock starts.
+double PythonSeconds(const std::filesystem::path& path) {
+    const std::string command =
+        "python3 -c \"import csv,io,sys,time\n"
+        "text = open(sys.argv[1], encoding='utf-8', newline='').read()\n"
+        "start = time.perf_counter()\n"
+        "rows = list(csv.reader(io.StringIO(text, newline='')))\n"
+        "print(time.perf_counter() - start)\" '" +
+        path.string() + "'";
+    FILE* pipe = popen(command.c_str(), "r");
+    double seconds = 0;
+    if (pipe == nullptr || std::fscanf(pipe, "%lf", &seconds) != 1) seconds = 0;
+    if (pipe != nullptr) pclose(pipe);
+    return seconds;
+}
+
+/// The yardstick for ReadText: the same text, about 20 MB.
+void PythonCsv(benchmark::State& state) {
+    const auto path = std::filesystem::temp_directory_path() / "csv_bench.csv";
+    const Bytes text = EncodeUtf8(SampleText(static_cast<Long>(state.range(0))));
+    std::ofstream(path, std::ios::binary)
+        .write(reinterpret_cast<const char*>(text.data()),
+               static_cast<std::streamsize>(text.size()));
+    for (auto _ : state) {
+        const double seconds = PythonSeconds(path);
+        if (seconds == 0) state.SkipWithError("python3 did not answer");
+        state.SetIterationTime(seconds);
+    }
+    std::filesystem::remove(path);
+}
+BENCHMARK(PythonCsv)->Arg(270000)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 void WriteCells(benchmark::State& state) {
     for (auto _ : state) {
