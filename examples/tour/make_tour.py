@@ -1,0 +1,137 @@
+#!/usr/bin/env python3
+"""Draws the pictures of this example and writes its project: a walk through what the program can do."""
+import math
+import sys
+from pathlib import Path
+
+HERE = Path(__file__).resolve().parent
+sys.path.insert(0, str(HERE.parent))
+from pictures import write_bmp, write_gif, write_jpeg, write_png
+
+FILTERS = {
+    "EditColor": "100,100,100,100,0,0,0,0",
+    "DropShadow": "0,0,0,100,2,2,45,5,1,False,False,True,2",
+    "Blur": "4,4,2",
+    "Glow": "255,255,0,100,10,10,1,False,False,True,2",
+    "Bevel": "0,0,0,100,255,255,255,100,2,2,45,5,1,False,False,True,False,2",
+    "Convolution": "5,5,1,0," + "0," * 12 + "1," + "0," * 12 + "0,0,0,0,False,False",
+    "ColorMatrix": "1,0,0,0,0,0,1,0,0,0,0,0,1,0,0,0,0,0,1,0",
+}
+BACKGROUND, LABEL, LAYER_FOLDER = -1, -2, -4
+SCRIPT = ",-1,0,0,,,"
+PLACED_SPRITE = ["False,in,False,0,Left,False,20,,"]
+
+
+def draw_pictures():
+    def ball(x, y):
+        distance = math.hypot(x - 19.5, y - 19.5)
+        light = max(0.0, 1 - math.hypot(x - 13, y - 12) / 26)
+        return (int(150 + 105 * light), int(40 + 180 * light), int(60 + 150 * light),
+                int(255 * max(0.0, min(1.0, 20 - distance))))
+
+    def sea(x, y):
+        wave = math.sin(x / 13 + math.sin(y / 17) * 2) + math.sin(y / 9)
+        return (20, int(90 + 25 * wave), int(150 + 35 * wave))
+
+    def wheel(turn):
+        def index(x, y):
+            dx, dy = x - 15.5, y - 15.5
+            distance = math.hypot(dx, dy)
+            if distance > 15.5:
+                return 0
+            if distance > 12:
+                return 1
+            spoke = (math.degrees(math.atan2(dy, dx)) + turn) % 60
+            return 2 if spoke < 14 or distance < 4 else 3
+        return index
+
+    write_png("玉.png", 40, 40, ball)
+    write_png("窓.png", 120, 110, lambda x, y: (0, 0, 0, 255))
+    write_jpeg("海.jpg", 200, 140, sea)
+    write_bmp("床.bmp", 400, 60, lambda x, y: (200, 170, 120) if (x // 20 + y // 20) % 2 else (150, 110, 70))
+    palette = [[0, 0, 0], [60, 60, 70], [220, 60, 50], [230, 230, 210]]
+    for number, turn in enumerate((0, 20, 40), 1):
+        write_gif(f"車輪{number}.gif", 32, 32, palette, wheel(turn))
+
+
+def bitmap(number, name, options="False,0,0,0,False,CR,100,False,70", linkage=",,"):
+    return f"{number},{name},画像,{linkage},{options}"
+
+
+def placement(x, y, *, offset=(0, 0), scale=1.0, bright=0, opacity=100, angle=0, skew=0, easing=0, curve=(), blend=0,
+              filters=None, path=(), tail=()):
+    """The rows of an element, the first to go on behind a key frame's cells."""
+    points = [(0, 0), *curve]
+    chosen = filters or {}
+    switches = ",".join(f"{name in chosen},{chosen.get(name, cells)}" for name, cells in FILTERS.items())
+    rows = [
+        f"{x},{y},{offset[0]},{offset[1]},True,{round(scale * 10000)},{round(scale * 10000)},{bright},{opacity},"
+        f"{round(angle * 10000)},{round(skew * 10000)},0,{easing},XY,{bool(curve)},{len(points)}",
+        ",".join(f"{time},{progress}" for time, progress in points) + ",1",
+        "0,0",
+        f"{blend},{switches},{len(path)}",
+    ]
+    if path:
+        rows.append(",".join(f"{kind},{px},{py}" for kind, px, py in path))
+    if tail:
+        rows[-1] += "," + tail[0]
+    return rows
+
+
+def key(start, count, rows, *, tween=False, fixed=False):
+    return [f"{start},{count},{fixed},{tween},True,{rows[0]}", *rows[1:]]
+
+
+def layer(number, name, *keys, mask=0, instance="", visible=True):
+    return [f"{number},{name},{instance},{mask},,{SCRIPT},{visible},{len(keys)}", *(row for rows in keys for row in rows)]
+
+
+def folder(name, count):
+    return layer(LAYER_FOLDER, name, key(1, 1, [f"{name},0,{count},True,"]))
+
+
+def timeline(*layers):
+    return [str(len(layers)), *(row for rows in layers for row in rows)]
+
+
+def project():
+    ball, window, sea, floor, wheel1, wheel2, wheel3, wheel, cart = range(1, 10)
+    symbols = [
+        "100,,Sﾌｫﾙﾀﾞ,,,,絵,7,True",
+        bitmap(ball, "玉.png", linkage="ball,,ExportTop"),
+        bitmap(window, "窓.png"),
+        bitmap(sea, "海.jpg", "False,0,0,0,False,CR,100,True,60"),
+        bitmap(floor, "床.bmp"),
+        *(bitmap(number, f"車輪{number - 4}.gif") for number in (wheel1, wheel2, wheel3)),
+        f"{wheel},,ｺﾏ動画,,,,車輪,2",
+        f"{cart},,ｽﾌﾟﾗｲﾄ,,,,荷車,100,60,50,60,False,0,0,0,0",
+    ]
+    koma_row = "6,7,8"
+    cart_layers = timeline(
+        layer(wheel, "左の車輪", key(1, 6, placement(18, 44, offset=(16, 16)))),
+        layer(wheel, "右の車輪", key(1, 6, placement(82, 44, offset=(16, 16)))),
+        layer(floor, "荷台", key(1, 6, placement(0, 26, scale=0.25))),
+    )
+    shadow = {"DropShadow": "0,0,0,60,6,6,45,6,1,False,False,True,2"}
+    main = timeline(
+        layer(LABEL, "しおり", key(1, 1, ["はじまり,True"]), key(60, 1, ["おわり,False"])),
+        folder("跳ねる玉", 2),
+        layer(ball, "玉",
+              key(1, 40, placement(30, 150, offset=(20, 20), filters=shadow, curve=((0.3, 0.9),),
+                                   path=(("Off", 90, -40), ("On", 150, 150), ("Off", 200, 20))), tween=True),
+              key(41, 39, placement(250, 150, offset=(20, 20), bright=40, filters=shadow, angle=360), tween=True),
+              key(80, 1, placement(360, 60, offset=(20, 20), scale=0.4, opacity=30, angle=720))),
+        layer(ball, "影の玉", key(1, 80, placement(320, 150, offset=(20, 20), opacity=60, blend=3))),
+        layer(cart, "荷車", key(1, 80, placement(-40, 244, tail=PLACED_SPRITE, easing=-120), tween=True),
+              key(81, 1, placement(440, 244, tail=PLACED_SPRITE)), instance="cart"),
+        layer(sea, "海",
+              key(1, 80, placement(150, -20, skew=0), tween=True), key(81, 1, placement(210, 0, skew=15))),
+        layer(window, "窓", key(1, 81, placement(200, 10)), mask=1),
+        layer(floor, "床", key(1, 81, placement(0, 240))),
+        [f"{BACKGROUND},,,0,,{SCRIPT},True,1", "1,1,True,False,True,250,240,230"],
+    )
+    return ["KVF,0,9,0", "400,300,24,8", str(len(symbols)), *symbols, koma_row, *cart_layers, *main]
+
+
+draw_pictures()
+Path("tour.kvf").write_bytes("".join(row + "\r\n" for row in project()).encode("cp932"))
