@@ -2,11 +2,19 @@
 
 #include <nlohmann/json.hpp>
 
+#include "app/CellNames.h"
 #include "document/SymbolKinds.h"
 #include "document/clsCSV.h"
 #include "document/clsLayer.h"
 #include "document/clsLayerObjElement.h"
+#include "document/clsObjSprite.h"
+#include "document/clsObjText.h"
+#include "document/clsObjVector.h"
+#include "document/clsPropertyButton.h"
+#include "document/clsPropertyKoma.h"
 #include "document/clsPropertySprite.h"
+#include "document/clsPropertyText.h"
+#include "document/clsPropertyVector.h"
 #include "document/clsSymbolData.h"
 #include "platform/codepage.h"
 #include "platform/text.h"
@@ -17,21 +25,47 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
+constexpr std::string_view EffectNames =
+    "blEffect,EffectType,blApplyOne,EffectInterval,EfIntervalType,blAllStop,EffectFrames,"
+    "EffectName";
+
 /// The cells that a record writes, row behind row.
 template <class Record>
-Json CellsOf(const Record& record) {
+std::vector<std::string> CellsOf(const Record& record) {
     clsCSV csv;
     record.Save(csv);
-    Json cells = Json::array();
+    std::vector<std::string> cells;
     const Long lastRow = csv.Y();
     for (Long row = 0; row <= lastRow; ++row) {
-        for (Long column = 0; column < csv.colS(); ++column) {
-            const String cell(csv.GetValue(column, row));
-            cells.push_back(ToNarrow(cell));
-        }
-        while (!cells.empty() && cells.back() == "") cells.erase(cells.size() - 1);
+        const Long width = row == lastRow ? csv.X() : csv.colS();
+        for (Long column = 0; column < width; ++column)
+            cells.push_back(ToNarrow(csv.GetValue(column, row)));
+        while (row < lastRow && !cells.empty() && cells.back().empty()) cells.pop_back();
     }
     return cells;
+}
+
+/// A record's cells under their names; those beyond the names are listed under "more".
+template <class Record>
+Json Named(const Record& record, std::string_view names) {
+    Json result = Json::object();
+    Json more = Json::array();
+    for (std::string& cell : CellsOf(record)) {
+        const std::size_t end = names.find(',');
+        if (names.empty())
+            more.push_back(std::move(cell));
+        else
+            result[std::string(names.substr(0, end))] = std::move(cell);
+        names.remove_prefix(end == std::string_view::npos ? names.size() : end + 1);
+    }
+    if (!more.empty()) result["more"] = std::move(more);
+    return result;
+}
+
+Json CurveOf(const clsEdgingTable& table) {
+    Json points = Json::array();
+    for (const EdgingPoint& point : table.Points) points.push_back({point.X, point.Y});
+    return points;
 }
 
 /// A Single as its cell shows it.
@@ -64,7 +98,9 @@ Json PlacementOf(const clsLayerObjElement& p) {
             {"blCustomEdging", p.blCustomEdging},
             {"EdgingAllMode", p.EdgingAllMode},
             {"eBlend", p.eBlend},
-            {"filters", CellsOf(*p.inFilter)},
+            {"EdgingTblXY", CurveOf(p.EdgingTblXY)},
+            {"EdgingTblPrm", CurveOf(p.EdgingTblPrm)},
+            {"filters", Named(*p.inFilter, FilterCellNames())},
             {"tweenPoints", PathOf(p)}};
 }
 
@@ -73,7 +109,16 @@ Json KeyFrameOf(const clsLayerObject& object) {
                {"blTween", object.blTween},         {"blFixed", object.blFixed},
                {"blVisible", object.blVisible},     {"kind", object.SymbolType()}};
     if (object.Placement() != nullptr) frame["placement"] = PlacementOf(*object.Placement());
-    if (object.Object) frame["cells"] = CellsOf(*object.Object);
+    if (const auto* vector = object.ObjectAs<clsObjVector>())
+        frame["freeTransform"] = {{"blFreeTrans", vector->blFreeTrans},
+                                  {"FreeTransPoints", vector->FreeTransPoints},
+                                  {"blDivide", vector->blDivide}};
+    if (const auto* text = object.ObjectAs<clsObjText>())
+        frame["effect"] = Named(text->inEfElement, EffectNames);
+    if (const auto* sprite = object.ObjectAs<clsObjSprite>())
+        frame["effect"] = Named(sprite->inEfElement, EffectNames);
+    if (object.Object && object.Placement() == nullptr)
+        frame["values"] = Named(*object.Object, ElementCellNames(object.SymbolType()));
     return frame;
 }
 
@@ -88,12 +133,31 @@ Json LayersOf(const Collection<clsLayer>& layers) {
                           {"InstanceName", ToNarrow(layer->InstanceName)},
                           {"ClippingDepth", layer->ClippingDepth},
                           {"eOnEvent", layer->eOnEvent},
-                          {"script", CellsOf(layer->inScript)},
+                          {"script", Named(layer->inScript, ScriptCellNames())},
                           {"Visible", layer->Visible(true)},
                           {"folderDepth", layer->FolderDepth()},
                           {"keyFrames", std::move(frames)}});
     }
     return result;
+}
+
+/// The symbols that a record refers to, by their Index.
+void AddReferences(Json& result, const clsSymbolData& symbol) {
+    if (const auto* text = symbol.Property<clsPropertyText>())
+        result["FitShapeIndex"] = text->FitShapeIndex();
+    if (const auto* vector = symbol.Property<clsPropertyVector>())
+        result["MorphIndex"] = vector->MorphIndex();
+    if (const auto* button = symbol.Property<clsPropertyButton>()) {
+        result["HitTestIndex"] = button->HitTestIndex();
+        result["DownIndex"] = button->DownIndex();
+        result["OverIndex"] = button->OverIndex();
+        result["UpIndex"] = button->UpIndex();
+    }
+    if (const auto* koma = symbol.Property<clsPropertyKoma>()) {
+        Json pictures = Json::array();
+        for (const auto& picture : *koma->colKomas) pictures.push_back(picture->Index);
+        result["colKomas"] = std::move(pictures);
+    }
 }
 
 Json SymbolOf(const clsSymbolData& symbol) {
@@ -109,10 +173,14 @@ Json SymbolOf(const clsSymbolData& symbol) {
                 {"blExportTop", symbol.blExportTop},
                 {"folderDepth", symbol.FolderDepth()}};
     if (symbol.PropertyData()) {
-        result["options"] = CellsOf(*symbol.PropertyData());
+        const auto* text = symbol.Property<clsPropertyText>();
+        result["options"] =
+            Named(*symbol.PropertyData(),
+                  OptionCellNames(symbol.eType(), text != nullptr && text->blDynamic));
         result["width"] = symbol.PixelWidth();
         result["height"] = symbol.PixelHeight();
     }
+    AddReferences(result, symbol);
     if (const auto* sprite = symbol.Property<clsPropertySprite>())
         result["layers"] = LayersOf(*sprite->colLayer);
     return result;

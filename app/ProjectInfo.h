@@ -10,8 +10,8 @@ namespace tamber {
 std::string ProjectInfoText(const Project& project);
 
 /// All that the reader holds, as JSON in UTF-8: stage, rate, version, each symbol with its options
-/// and each layer with every key frame and its element's values. Options and values that have no
-/// name of their own here come as their project cells, in file order.
+/// and each layer with every key frame and its element's values. Options, filters and scripts come
+/// as the texts of their project cells under their names.
 std::string ProjectInfoJson(const Project& project);
 
 }  // namespace tamber
