@@ -6,6 +6,7 @@
 #include "app/Main.h"
 #include "app/ProjectInfo.h"
 #include "app/mdlPrivateProfile.h"
+#include "document/AppVersion.h"
 #include "document/ProjectWriter.h"
 #include "platform/ConsoleUserInterface.h"
 #include "platform/codepage.h"
@@ -170,7 +171,7 @@ int RunCommandLine(const std::vector<std::string>& arguments, const std::string&
         return Done;
     }
     if (options.Version) {
-        Print("Tamber " TAMBER_VERSION "\n");
+        Print("Tamber " + ToNarrow(VersionText()) + "\n");
         return Done;
     }
     ConsoleUserInterface console(options.Yes);

@@ -4,6 +4,7 @@
 
 #include "document/clsCSV.h"
 #include "platform/UserInterface.h"
+#include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/text.h"
 
@@ -34,12 +35,20 @@ bool LooksLikePath(StringView cell) {
     return Like(FoldCase(cell), u"[a-z]:*") || cell.front() == u'/' || FileExists(cell);
 }
 
+/// Waves that the preview of a sound leaves behind.
+void DeleteTemporaryFiles() {
+    for (const String& name : ListFiles(ProgramFolder(), u"_wav*.tmp"))
+        DeleteFile(JoinPath(ProgramFolder(), name));
+}
+
 }  // namespace
 
 bool Application::Main(StringView commandLine) {
     if (environment_.HandOver(commandLine)) return false;
     if (!CheckScreen() || !CheckComponents() || !LoadLibraries()) return false;
+    DeleteOldKeywords();
     controller_ = std::make_unique<frmMain>();
+    controller_->ClassNames = ClassNames();
     controller_->Form_Load();
     const String path = ProjectPathOf(commandLine);
     if (!path.empty()) controller_->OpenProject(AbsolutePath(path));
@@ -47,7 +56,10 @@ bool Application::Main(StringView commandLine) {
 }
 
 void Application::Stop() {
-    if (controller_) controller_->Form_Unload();
+    if (controller_) {
+        controller_->Form_Unload();
+        DeleteTemporaryFiles();
+    }
     controller_.reset();
     FreeLibraries();
 }
@@ -90,12 +102,24 @@ void Application::FreeLibraries() {
     }
 }
 
+/// A list of an earlier release, which would hide the present ones.
+void Application::DeleteOldKeywords() const {
+    DeleteFile(JoinPath(ProgramFolder(), PathFromCell(u"keyword\\default\\keyword5.txt")));
+}
+
+std::vector<String> Application::ClassNames() const {
+    constexpr StringView Extension = u".as";
+    std::vector<String> names = ListFiles(JoinPath(ProgramFolder(), u"class"), u"*.as");
+    for (String& name : names) name.resize(name.size() - Extension.size());
+    return names;
+}
+
 String ProjectPathOf(StringView commandLine) {
     clsCSV cells;
     cells.SeparateCode(u' ');
     cells.Text(String(commandLine));
     for (Long column = 0; column < cells.colS(); ++column) {
-        const String cell(cells.GetValue(column, 0));
+        String cell(cells.GetValue(column, 0));
         if (LooksLikePath(cell)) return cell;
     }
     return {};

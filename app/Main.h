@@ -18,7 +18,7 @@ public:
     /// The start sequence: other instance, screen, components, libraries, controller. False when
     /// the program ends at once; the user was told why and nothing is left loaded.
     bool Main(StringView commandLine);
-    /// The stop sequence. A second call does nothing.
+    /// The stop sequence; temporary files that the program's folder holds are deleted. A second call does nothing.
     void Stop();
 
     frmMain* Controller() { return controller_.get(); }
@@ -27,6 +27,8 @@ private:
     bool CheckScreen() const;
     bool CheckComponents() const;
     bool LoadLibraries();
+    void DeleteOldKeywords() const;
+    std::vector<String> ClassNames() const;
     void FreeLibraries();
 
     SystemEnvironment& environment_;

@@ -4,6 +4,7 @@
 
 #include "app/AssetReader.h"
 #include "app/mdlPrivateProfile.h"
+#include "document/AppVersion.h"
 #include "document/SymbolKinds.h"
 #include "document/clsLayer.h"
 #include "document/clsSymbolData.h"
@@ -23,6 +24,24 @@ constexpr Single DefaultFrameRate = 24;
 std::shared_ptr<clsLayer> frmMain::EditLayer() const {
     if (!editLayers_ || SelIndex1 < 1 || SelIndex1 > editLayers_->Count()) return nullptr;
     return editLayers_->Item(SelIndex1);
+}
+
+String frmMain::Caption() const {
+    String caption = String(ProgramTitle) + u" Ver." + VersionText() + u" [RichEdit版]";
+    if (!ProjectFileName.empty()) caption += u" [" + GetFileName(ProjectFileName) + u"]";
+    return caption;
+}
+
+EditContext frmMain::CurrentEditContext() const {
+    if (editIndex == EditMain) {
+        const String text = u"メイン(SWF" + ToText(inProject.SWFVersion) + u"," +
+                            ToText(inProject.MainWidth) + u"*" + ToText(inProject.MainHeight) +
+                            u"," + ToText(inProject.FrameRate) + u")";
+        return {text, ColorLong(192, 192, 255)};
+    }
+    const clsSymbolData& symbol = *colSymbol()->Item(editIndex);
+    if (symbol.eType() == KindClass) return {symbol.Value(), ColorLong(192, 255, 192)};
+    return {symbol.Value() + u" (ID：" + ToText(symbol.ID) + u")", ColorLong(255, 192, 192)};
 }
 
 void frmMain::LogStep(StringView step) {

@@ -17,6 +17,13 @@ public:
     virtual void RefreshFgrdSymbol() {}
 };
 
+/// The label over the layer table, which tells what is edited.
+struct EditContext {
+    String Text;
+    /// Red in the low byte.
+    Long BackColor = 0;
+};
+
 /// The controller: owns the open project and everything that edits it.
 class frmMain {
 public:
@@ -32,6 +39,8 @@ public:
     bool blShowModal = false;
     String ProjectFileName;
     String ProjectDir;
+    /// Names of the classes that the script editor offers.
+    std::vector<String> ClassNames;
 
     explicit frmMain(std::shared_ptr<MainView> view = std::make_shared<MainView>())
         : view_(std::move(view)) {}
@@ -43,6 +52,9 @@ public:
         return inProject.colMainLayer;
     }
     const std::shared_ptr<Collection<clsLayer>>& colEditLayer() const { return editLayers_; }
+    /// Title of the window: program, version, and the open project's file name.
+    String Caption() const;
+    EditContext CurrentEditContext() const;
     /// The selected layer, or null.
     std::shared_ptr<clsLayer> EditLayer() const;
 

@@ -14,4 +14,7 @@ struct AppVersionNumbers {
 
 inline constexpr AppVersionNumbers AppVersion{0, 9, 0, 0};
 
+/// "major.minor.revision", and ".build" when the build is not 0.
+String VersionText(const AppVersionNumbers& version = AppVersion);
+
 }  // namespace tamber

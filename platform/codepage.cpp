@@ -3,6 +3,7 @@
 #include <iconv.h>
 
 #include <array>
+#include <cstdint>
 #include <string_view>
 
 namespace tamber {
@@ -76,7 +77,7 @@ public:
     }
 
 private:
-    bool Ok() const { return handle_ != reinterpret_cast<iconv_t>(-1); }
+    bool Ok() const { return reinterpret_cast<std::intptr_t>(handle_) != -1; }
 
     iconv_t handle_;
 };

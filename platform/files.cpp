@@ -12,6 +12,7 @@
 
 #include "platform/codepage.h"
 #include "platform/paths.h"
+#include "platform/text.h"
 
 namespace tamber {
 
@@ -138,6 +139,22 @@ bool WriteFileBytes(ByteView bytes, StringView path, bool replace) {
     }
     FlushFolder(target);
     return true;
+}
+
+bool DeleteFile(StringView path) {
+    return !path.empty() && unlink(ToNarrow(path).c_str()) == 0;
+}
+
+std::vector<String> ListFiles(StringView folder, StringView pattern) {
+    std::vector<String> names;
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator(ToNarrow(folder), error)) {
+        String name = FromNarrow(entry.path().filename().string());
+        if (entry.is_regular_file(error) && Like(FoldCase(name), pattern))
+            names.push_back(std::move(name));
+    }
+    std::sort(names.begin(), names.end());
+    return names;
 }
 
 }  // namespace tamber

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 #include "platform/types.h"
 
@@ -17,6 +18,12 @@ std::size_t ReadFileHead(std::span<Byte> bytes, StringView path);
 /// name in one step. False leaves an earlier file as it was and nothing beside it. With `replace`
 /// false an existing file is left and the result is false. A link is followed.
 bool WriteFileBytes(ByteView bytes, StringView path, bool replace = true);
+
+/// Removes a file. False when it is not there or stays.
+bool DeleteFile(StringView path);
+/// Names of the files in a folder whose lower-cased name matches the wildcards of Like, sorted;
+/// none when there is no such folder.
+std::vector<String> ListFiles(StringView folder, StringView pattern);
 
 /// Called before each step of a write (create, write, flush, close, rename) when it is set; false
 /// fails the step. Lets a test stop a save anywhere.

@@ -137,7 +137,7 @@ TEST_F(CommandLineTest, without_a_command_starts_and_stops_and_has_no_window) {
     const Outcome run = Tamber("");
     EXPECT_EQ(run.Code, 0);
     EXPECT_NE(run.Errors.find("no window"), std::string::npos);
-    EXPECT_EQ(Tamber("--version").Output, "Tamber 0.9.0.0\n");
+    EXPECT_EQ(Tamber("--version").Output, "Tamber 0.9.0\n");
     EXPECT_EQ(Tamber("--help").Code, 0);
 }
 

@@ -8,9 +8,12 @@
 
 #include "document/SymbolKinds.h"
 #include "document/clsLayer.h"
+#include "document/clsPropertyClass.h"
+#include "document/clsPropertySprite.h"
 #include "document/clsSymbolData.h"
 #include "platform/RecordingUserInterface.h"
 #include "platform/codepage.h"
+#include "platform/paths.h"
 
 namespace tamber {
 namespace {
@@ -102,6 +105,53 @@ TEST_F(MainTest, ends_after_the_first_check_that_fails_with_nothing_loaded) {
         EXPECT_TRUE(environment.Loaded.empty());
         EXPECT_EQ(application.Controller(), nullptr);
     }
+}
+
+TEST_F(MainTest, tidies_the_program_folder_and_lists_its_classes) {
+    namespace fs = std::filesystem;
+    const fs::path home = fs::path(testing::TempDir()) / "main_test_home";
+    fs::create_directories(home / "keyword/default");
+    fs::create_directories(home / "class");
+    for (const char* name : {"keyword/default/keyword5.txt", "keyword/default/keyword6.txt",
+                             "class/Ball.as", "class/Arrow.AS", "class/notes.txt", "_wav12.tmp"})
+        std::ofstream(home / name) << "x";
+    const String before = ProgramFolder();
+    ProgramFolder(FromNarrow(home.string()));
+    Application application(environment);
+    ASSERT_TRUE(application.Main(u""));
+    EXPECT_EQ(application.Controller()->ClassNames, (std::vector<String>{u"Arrow", u"Ball"}));
+    EXPECT_FALSE(fs::exists(home / "keyword/default/keyword5.txt"));
+    EXPECT_TRUE(fs::exists(home / "keyword/default/keyword6.txt"));
+    EXPECT_TRUE(fs::exists(home / "_wav12.tmp"));
+    application.Stop();
+    EXPECT_FALSE(fs::exists(home / "_wav12.tmp"));
+    ProgramFolder(before);
+    fs::remove_all(home);
+}
+
+TEST_F(MainTest, caption_and_edit_context_name_what_is_edited) {
+    frmMain controller;
+    controller.inProject.SWFVersion = 6;
+    controller.inProject.MainWidth = controller.inProject.MainHeight = 320;
+    controller.inProject.FrameRate = 12.5f;
+    EXPECT_EQ(controller.Caption(), u"Tamber Ver.0.9.0 [RichEdit版]");
+    controller.ProjectFileName = u"/work/海.kvf";
+    EXPECT_EQ(controller.Caption(), u"Tamber Ver.0.9.0 [RichEdit版] [海.kvf]");
+    EXPECT_EQ(controller.CurrentEditContext().Text, u"メイン(SWF6,320*320,12.5)");
+
+    auto sprite = std::make_shared<clsSymbolData>(KindSprite);
+    sprite->ID = 7;
+    sprite->Property<clsPropertySprite>()->SpriteName = u"波";
+    auto klass = std::make_shared<clsSymbolData>(KindClass);
+    klass->Property<clsPropertyClass>()->className = u"Ball";
+    klass->Property<clsPropertyClass>()->Extends = u"MovieClip";
+    controller.colSymbol()->Add(sprite);
+    controller.colSymbol()->Add(klass);
+    controller.editIndex = 1;
+    EXPECT_EQ(controller.CurrentEditContext().Text, u"波 (ID：7)");
+    controller.editIndex = 2;
+    EXPECT_EQ(controller.CurrentEditContext().Text, u"Ball：MovieClip");
+    EXPECT_EQ(controller.CurrentEditContext().BackColor, ColorLong(192, 255, 192));
 }
 
 TEST_F(MainTest, a_second_instance_hands_over_and_ends) {
