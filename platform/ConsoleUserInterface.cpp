@@ -32,7 +32,7 @@ String ConsoleUserInterface::OpenFileDialog(const FileDialog&) { return {}; }
 String ConsoleUserInterface::SaveFileDialog(const FileDialog&) { return {}; }
 String ConsoleUserInterface::SelectFolderDialog(StringView) { return {}; }
 
-void ConsoleUserInterface::Progress(Long done, Long total) {
+void ConsoleUserInterface::Progress(StringView, Long done, Long total) {
     if (total <= 0 || isatty(STDERR_FILENO) == 0) return;
     const auto percent = static_cast<Long>(static_cast<std::int64_t>(done) * 100 / total);
     if (percent == percentShown_) return;

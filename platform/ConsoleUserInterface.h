@@ -19,7 +19,7 @@ public:
     String SaveFileDialog(const FileDialog& dialog) override;
     String SelectFolderDialog(StringView title) override;
     /// Shown on a terminal only.
-    void Progress(Long done, Long total) override;
+    void Progress(StringView, Long done, Long total) override;
     void Status(StringView text) override;
 
     Long MessagesShown() const { return messagesShown_; }

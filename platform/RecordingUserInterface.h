@@ -37,7 +37,7 @@ public:
     String OpenFileDialog(const FileDialog&) override { return NextPath(); }
     String SaveFileDialog(const FileDialog&) override { return NextPath(); }
     String SelectFolderDialog(StringView) override { return NextPath(); }
-    void Progress(Long, Long) override {}
+    void Progress(StringView, Long, Long) override {}
     void Status(StringView text) override { StatusLines.emplace_back(text); }
 
 private:

@@ -38,8 +38,9 @@ public:
     virtual String SaveFileDialog(const FileDialog& dialog) = 0;
     /// Folder chosen, empty when cancelled.
     virtual String SelectFolderDialog(StringView title) = 0;
-    /// Long work: `done` of `total` items; `done` = `total` ends the display.
-    virtual void Progress(Long done, Long total) = 0;
+    /// Long work: what is done, or nothing, and `done` of `total` items; `done` = `total` ends the
+    /// display.
+    virtual void Progress(StringView text, Long done, Long total) = 0;
     /// One line into the status area.
     virtual void Status(StringView text) = 0;
 };

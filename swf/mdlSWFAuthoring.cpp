@@ -101,7 +101,7 @@ private:
 };
 
 void Authoring::ShowProgress(Long done, Long total) const {
-    if (request_.blProgress) CurrentUserInterface().Progress(done, total);
+    if (request_.blProgress) CurrentUserInterface().Progress(u"", done, total);
 }
 
 void Authoring::PreDefineFrameOne(clsSWFAdmin& admin) {

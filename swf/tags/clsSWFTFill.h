@@ -7,13 +7,6 @@
 
 namespace tamber {
 
-/// What a fill style paints with. `other` is the end state in a morph pair, else null.
-class clsSWFTFill {
-public:
-    virtual ~clsSWFTFill() = default;
-    virtual void Save(const clsSWFTFill* other) const = 0;
-};
-
 /// Matrix of a gradient or bitmap fill: held as parts, or as the record read from a file.
 struct FillMatrix {
     Single GradScaleX = 1;
@@ -29,12 +22,25 @@ struct FillMatrix {
     void Save() const;
 };
 
+/// What a fill style paints with. `other` is the end state in a morph pair, else null.
+class clsSWFTFill {
+public:
+    virtual ~clsSWFTFill() = default;
+    virtual void Save(const clsSWFTFill* other) const = 0;
+    virtual std::shared_ptr<clsSWFTFill> Copy() const = 0;
+    /// The matrix of a gradient or bitmap fill that is held here, else null.
+    virtual FillMatrix* Matrix() { return nullptr; }
+};
+
 /// One colour: red, green, blue, alpha.
 class clsSWFTFillSolid : public clsSWFTFill {
 public:
     Long SolidColor = 0;  ///< red in the low byte, alpha in the high one
 
     void Save(const clsSWFTFill* other) const override;
+    std::shared_ptr<clsSWFTFill> Copy() const override {
+        return std::make_shared<clsSWFTFillSolid>(*this);
+    }
 };
 
 /// Linear or radial gradient: matrix, count (from version 8 on with spread and interpolation
@@ -48,6 +54,10 @@ public:
     Long interpolationMode = 0;
 
     void Save(const clsSWFTFill* other) const override;
+    std::shared_ptr<clsSWFTFill> Copy() const override {
+        return std::make_shared<clsSWFTFillLinearRadial>(*this);
+    }
+    FillMatrix* Matrix() override { return &inMatrix; }
 
 private:
     std::size_t EntryCount() const;
@@ -61,6 +71,9 @@ public:
     Long FocalPoint = 0;
 
     void Save(const clsSWFTFill* other) const override;
+    std::shared_ptr<clsSWFTFill> Copy() const override {
+        return std::make_shared<clsSWFTFillFocalRadial>(*this);
+    }
 };
 
 /// A bitmap definition that fills refer to before its identifier is known.
@@ -75,6 +88,10 @@ public:
     FillMatrix inMatrix;
 
     void Save(const clsSWFTFill* other) const override;
+    std::shared_ptr<clsSWFTFill> Copy() const override {
+        return std::make_shared<clsSWFTFillBmpClippedTiled>(*this);
+    }
+    FillMatrix* Matrix() override { return &inMatrix; }
 };
 
 /// Clipped bitmap at 20 twips a pixel, for the shape of a bitmap symbol.
@@ -87,6 +104,9 @@ public:
     Long height = 0;
 
     void Save(const clsSWFTFill* other) const override;
+    std::shared_ptr<clsSWFTFill> Copy() const override {
+        return std::make_shared<clsSWFTFillStyleBitmap>(*this);
+    }
 };
 
 }  // namespace tamber

@@ -34,6 +34,12 @@ Long clsSWFTFillStyle::FillType() const {
     return Types[static_cast<std::size_t>(mode_)];
 }
 
+clsSWFTFillStyle clsSWFTFillStyle::Copy() const {
+    clsSWFTFillStyle copy = *this;
+    if (object_) copy.object_ = object_->Copy();
+    return copy;
+}
+
 void clsSWFTFillStyle::Save(const clsSWFTFillStyle* other) const {
     if (!object_) return;
     mdlSWFTag::SetBytes(1, FillType());

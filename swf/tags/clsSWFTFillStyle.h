@@ -32,6 +32,8 @@ public:
     Long FillType() const;
 
     const std::shared_ptr<clsSWFTFill>& StyleObject() const { return object_; }
+    /// A style with an object of its own, where a plain copy shares it.
+    clsSWFTFillStyle Copy() const;
     /// The style object, when it is of this class, else null.
     template <class Fill>
     Fill* StyleAs() const {

@@ -44,7 +44,7 @@ public:
     }
     String SaveFileDialog(const FileDialog&) override { return {}; }
     String SelectFolderDialog(StringView) override { return {}; }
-    void Progress(Long, Long) override {}
+    void Progress(StringView, Long, Long) override {}
     void Status(StringView) override {}
 };
 

@@ -14,7 +14,7 @@ public:
     String OpenFileDialog(const FileDialog&) override { return u"chosen"; }
     String SaveFileDialog(const FileDialog&) override { return {}; }
     String SelectFolderDialog(StringView) override { return {}; }
-    void Progress(Long, Long) override {}
+    void Progress(StringView, Long, Long) override {}
     void Status(StringView) override {}
 
     bool Told = false;

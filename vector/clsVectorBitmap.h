@@ -1,0 +1,24 @@
+#pragma once
+
+#include "swf/mdlSWFTag.h"
+#include "swf/tags/clsSWFTFill.h"
+
+namespace tamber {
+
+/// A bitmap tag taken whole out of a movie: code (20, 21, 35 or 36), identifier in 16 bits, and the
+/// rest of its body as it stood. `ID` is that of the source while reading, later that of the movie
+/// being written.
+class clsVectorBitmap : public clsSWFTag, public BitmapReference {
+public:
+    Bytes bufBitmap;
+
+    explicit clsVectorBitmap(Long tagNum) : tagNum_(tagNum) {}
+
+    Long TagNum() const override { return tagNum_; }
+    void Save() override;
+
+private:
+    Long tagNum_;
+};
+
+}  // namespace tamber
