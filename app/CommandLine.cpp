@@ -1,14 +1,15 @@
 #include "app/CommandLine.h"
 
 #include <cstdio>
+#include <new>
 #include <optional>
 
 #include "app/Main.h"
 #include "app/ProjectInfo.h"
 #include "app/mdlPrivateProfile.h"
 #include "document/AppVersion.h"
-#include "document/ProjectWriter.h"
 #include "platform/ConsoleUserInterface.h"
+#include "platform/RuntimeError.h"
 #include "platform/codepage.h"
 #include "platform/paths.h"
 #include "platform/text.h"
@@ -89,24 +90,20 @@ int RefuseUsage(const std::string& why) {
     return WrongUsage;
 }
 
-void Print(const std::string& text) {
-    std::fwrite(text.data(), 1, text.size(), stdout);
+/// Done, or CouldNot when standard output takes no more.
+int Print(const std::string& text) {
+    const bool whole = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
+    if (whole && std::fflush(stdout) == 0) return Done;
+    std::fprintf(stderr, "Tamber: cannot write to standard output\n");
+    return CouldNot;
 }
 
 String PathOf(const std::string& word) {
     return AbsolutePath(FromNarrow(word));
 }
 
-/// A path that no file has: its message, as opening a project tells it.
-bool CheckExists(const String& path) {
-    if (FileExists(path)) return true;
-    ShowMessage(path + u"\r\n\r\nファイルが見つかりません。");
-    return false;
-}
-
 bool LoadFor(frmMain& controller, const std::string& word) {
-    const String path = PathOf(word);
-    return CheckExists(path) && controller.OpenProject(path);
+    return controller.OpenProject(PathOf(word));
 }
 
 int Generate(const Options& options, const ConsoleUserInterface& console) {
@@ -124,7 +121,7 @@ int Convert(const Options& options) {
     frmMain controller;
     if (!LoadFor(controller, options.Words[1])) return CouldNot;
     RuntimeError why(0, u"", u"");
-    if (SaveProject(PathOf(options.Words[2]), controller.inProject, &why)) return Done;
+    if (controller.SaveTo(PathOf(options.Words[2]), &why)) return Done;
     ShowMessage(u"保存できませんでした。\r\n\r\n「Number： " + ToText(why.Number) + u"\r\n" +
                 why.Description + u"」");
     return CouldNot;
@@ -133,16 +130,16 @@ int Convert(const Options& options) {
 int Info(const Options& options) {
     frmMain controller;
     if (!LoadFor(controller, options.Words[1])) return CouldNot;
-    Print(options.Json ? ProjectInfoJson(controller.inProject)
-                       : ProjectInfoText(controller.inProject));
-    return Done;
+    return Print(options.Json ? ProjectInfoJson(controller.inProject)
+                              : ProjectInfoText(controller.inProject));
 }
 
 int RunWithoutWindow(const Options& options) {
     OwnEnvironment environment;
     Application application(environment);
-    const std::string path = options.Words.empty() ? "" : "\"" + options.Words[0] + "\"";
-    if (!application.Main(FromNarrow(path))) return CouldNot;
+    const String path =
+        options.Words.empty() ? String() : u"\"" + PathOf(options.Words[0]) + u"\"";
+    if (!application.Main(path)) return CouldNot;
     application.Stop();
     std::fprintf(stderr, "Tamber: this build has no window; Tamber --help tells its commands\n");
     return Done;
@@ -166,21 +163,22 @@ int Dispatch(const Options& options, const ConsoleUserInterface& console) {
 int RunCommandLine(const std::vector<std::string>& arguments, const std::string& programPath) {
     const Options options = Parse(arguments);
     if (!options.Error.empty()) return RefuseUsage(options.Error);
-    if (options.Help) {
-        Print(Usage);
-        return Done;
-    }
-    if (options.Version) {
-        Print("Tamber " + ToNarrow(VersionText()) + "\n");
-        return Done;
-    }
+    if (options.Help) return Print(Usage);
+    if (options.Version) return Print("Tamber " + ToNarrow(VersionText()) + "\n");
     ConsoleUserInterface console(options.Yes);
     const UserInterfaceScope scope(console);
     ProgramFolder(options.Home.empty() ? GetFileFolder(PathOf(programPath)) : PathOf(options.Home));
     for (const std::string& setting : options.Settings)
         if (!mdlPrivateProfile::SettingsOverride(FromNarrow(setting)))
             return RefuseUsage("unknown setting " + setting);
-    return Dispatch(options, console);
+    try {
+        return Dispatch(options, console);
+    } catch (const std::bad_alloc&) {
+        ShowMessage(u"メモリ不足です。", ProgramTitle, MessageIcon::Error);
+    } catch (const RuntimeError& error) {
+        ShowMessage(error.Description, error.Source, MessageIcon::Error);
+    }
+    return CouldNot;
 }
 
 }  // namespace tamber

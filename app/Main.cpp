@@ -57,8 +57,8 @@ bool Application::Main(StringView commandLine) {
 
 void Application::Stop() {
     if (controller_) {
-        controller_->Form_Unload();
         DeleteTemporaryFiles();
+        controller_->Form_Unload();
     }
     controller_.reset();
     FreeLibraries();

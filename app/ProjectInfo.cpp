@@ -1,6 +1,7 @@
 #include "app/ProjectInfo.h"
 
 #include <nlohmann/json.hpp>
+#include <unordered_map>
 
 #include "app/CellNames.h"
 #include "document/SymbolKinds.h"
@@ -122,8 +123,24 @@ Json KeyFrameOf(const clsLayerObject& object) {
     return frame;
 }
 
+/// Folder depths of rows taken in order, each one more than its folder's.
+template <class Row>
+class FolderDepths {
+public:
+    Long Of(const Row& row) {
+        const auto folder = row.ParentFolder();
+        const Long depth = folder ? depths_[folder.get()] + 1 : 0;
+        depths_[&row] = depth;
+        return depth;
+    }
+
+private:
+    std::unordered_map<const Row*, Long> depths_;
+};
+
 Json LayersOf(const Collection<clsLayer>& layers) {
     Json result = Json::array();
+    FolderDepths<clsLayer> depths;
     for (const auto& layer : layers) {
         Json frames = Json::array();
         for (const auto& object : layer->colObject) frames.push_back(KeyFrameOf(*object));
@@ -135,7 +152,7 @@ Json LayersOf(const Collection<clsLayer>& layers) {
                           {"eOnEvent", layer->eOnEvent},
                           {"script", Named(layer->inScript, ScriptCellNames())},
                           {"Visible", layer->Visible(true)},
-                          {"folderDepth", layer->FolderDepth()},
+                          {"folderDepth", depths.Of(*layer)},
                           {"keyFrames", std::move(frames)}});
     }
     return result;
@@ -160,7 +177,7 @@ void AddReferences(Json& result, const clsSymbolData& symbol) {
     }
 }
 
-Json SymbolOf(const clsSymbolData& symbol) {
+Json SymbolOf(const clsSymbolData& symbol, Long folderDepth) {
     Json result{{"Index", symbol.Index},
                 {"kind", symbol.eType()},
                 {"type", ToNarrow(symbol.TypeText())},
@@ -171,7 +188,7 @@ Json SymbolOf(const clsSymbolData& symbol) {
                 {"LinkClassName", ToNarrow(symbol.LinkClassName)},
                 {"blExport", symbol.blExport},
                 {"blExportTop", symbol.blExportTop},
-                {"folderDepth", symbol.FolderDepth()}};
+                {"folderDepth", folderDepth}};
     if (symbol.PropertyData()) {
         const auto* text = symbol.Property<clsPropertyText>();
         result["options"] =
@@ -194,7 +211,9 @@ std::string Count(Long number, const char* what) {
 
 std::string ProjectInfoJson(const Project& project) {
     Json symbols = Json::array();
-    for (const auto& symbol : *project.colSymbol) symbols.push_back(SymbolOf(*symbol));
+    FolderDepths<clsSymbolData> depths;
+    for (const auto& symbol : *project.colSymbol)
+        symbols.push_back(SymbolOf(*symbol, depths.Of(*symbol)));
     const Json info{{"width", project.MainWidth},
                     {"height", project.MainHeight},
                     {"frameRate", Number(project.FrameRate)},

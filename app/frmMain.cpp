@@ -1,13 +1,17 @@
 #include "app/frmMain.h"
 
+#include <algorithm>
 #include <chrono>
+#include <limits>
 
 #include "app/AssetReader.h"
 #include "app/mdlPrivateProfile.h"
 #include "document/AppVersion.h"
+#include "document/ProjectWriter.h"
 #include "document/SymbolKinds.h"
 #include "document/clsLayer.h"
 #include "document/clsSymbolData.h"
+#include "platform/RuntimeError.h"
 #include "platform/UserInterface.h"
 #include "platform/paths.h"
 #include "platform/text.h"
@@ -16,10 +20,50 @@
 namespace tamber {
 
 namespace {
-constexpr Long TwipsPerPixel = 20;
 /// Frames a second when the settings hold no number.
 constexpr Single DefaultFrameRate = 24;
+
+constexpr Single LowestFrameRate = 0.01f;
+constexpr Single HighestFrameRate = 100;
+/// Pixels of a new project's stage at most.
+constexpr Long MaxStage = 2000;
+
+Single FrameRateOf(StringView text) {
+    try {
+        return std::clamp(ToSingle(text), LowestFrameRate, HighestFrameRate);
+    } catch (const RuntimeError&) {
+        return DefaultFrameRate;
+    }
 }
+
+/// The page's settings as the program holds them.
+HtmlSettings HtmlSection() {
+    namespace settings = mdlPrivateProfile;
+    HtmlSettings html;
+    html.SizeUnit = settings::HTML_SizeUnit();
+    html.WIDTH = ToText(settings::HTML_WIDTH());
+    html.HEIGHT = ToText(settings::HTML_HEIGHT());
+    html.align = settings::HTML_align();
+    html.salign = settings::HTML_salign();
+    html.play = settings::HTML_play();
+    html.loop = settings::HTML_loop();
+    html.menu = settings::HTML_menu();
+    html.quality = settings::HTML_quality();
+    html.wmode = settings::HTML_wmode();
+    html.scale = settings::HTML_scale();
+    html.NamedAnchors = settings::HTML_NamedAnchors();
+    return html;
+}
+
+/// Sizes beyond the range give its ends.
+Long ToTwips(Long pixels) {
+    constexpr std::int64_t TwipsPerPixel = 20;
+    return static_cast<Long>(std::clamp<std::int64_t>(pixels * TwipsPerPixel,
+                                                      std::numeric_limits<Long>::min(),
+                                                      std::numeric_limits<Long>::max()));
+}
+
+}  // namespace
 
 std::shared_ptr<clsLayer> frmMain::EditLayer() const {
     if (!editLayers_ || SelIndex1 < 1 || SelIndex1 > editLayers_->Count()) return nullptr;
@@ -50,10 +94,9 @@ void frmMain::LogStep(StringView step) {
 
 void frmMain::Form_Load() {
     LogStep(u"DLLの読み込み：");
-    inProject.MainWidth = mdlPrivateProfile::CanvasWidth();
-    inProject.MainHeight = mdlPrivateProfile::CanvasHeight();
-    const String rate = mdlPrivateProfile::FPS();
-    inProject.FrameRate = IsNumeric(rate) ? ToSingle(rate) : DefaultFrameRate;
+    inProject.MainWidth = std::clamp(mdlPrivateProfile::CanvasWidth(), 1, MaxStage);
+    inProject.MainHeight = std::clamp(mdlPrivateProfile::CanvasHeight(), 1, MaxStage);
+    inProject.FrameRate = FrameRateOf(mdlPrivateProfile::FPS());
     inProject.SWFVersion = mdlPrivateProfile::SWFVersion();
     LogStep(u"ini読み込み：");
     view_->RefreshFgrdSymbol();
@@ -87,6 +130,10 @@ void frmMain::AddBackgroundLayer() {
 }
 
 bool frmMain::OpenProject(StringView path) {
+    if (!FileExists(path)) {
+        ShowMessage(String(path) + u"\r\n\r\nファイルが見つかりません。");
+        return false;
+    }
     if (!LoadProject(path, inProject, AssetReader())) return false;
     ProjectFileName = path;
     ProjectDir = GetFileFolder(path);
@@ -99,12 +146,30 @@ bool frmMain::OpenProject(StringView path) {
     return true;
 }
 
+bool frmMain::SaveTo(StringView path, RuntimeError* why) {
+    // Settings of the page that the file brought along stay in it; others are put in when asked.
+    if (!inProject.Html && mdlPrivateProfile::flgHTMLtoProject()) inProject.Html = HtmlSection();
+    return SaveProject(path, inProject, why);
+}
+
+bool frmMain::IsSource(StringView path) const {
+    if (SameFile(path, ProjectFileName)) return true;
+    return std::any_of(colSymbol()->begin(), colSymbol()->end(), [path](const auto& symbol) {
+        return !symbol->FilePathName.empty() && SameFile(path, symbol->FilePathName);
+    });
+}
+
 bool frmMain::mnuAuthoring(StringView path) {
+    if (FileExists(path) && IsSource(path)) {
+        ShowMessage(String(path) + u"\r\n\r\nプロジェクトで使用中のファイルには出力できません。",
+                    ProgramTitle, MessageIcon::Error);
+        return false;
+    }
     view_->DispDataTbl();
     const auto begin = std::chrono::steady_clock::now();
     MovieRequest request;
-    request.Width = inProject.MainWidth * TwipsPerPixel;
-    request.Height = inProject.MainHeight * TwipsPerPixel;
+    request.Width = ToTwips(inProject.MainWidth);
+    request.Height = ToTwips(inProject.MainHeight);
     request.FrameRate = inProject.FrameRate;
     request.Version = inProject.SWFVersion;
     request.Library = inProject.colSymbol.get();

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "document/Project.h"
+#include "platform/RuntimeError.h"
 
 namespace tamber {
 
@@ -66,7 +67,10 @@ public:
     /// Reads a project in place of the open one. False when it cannot be read; the user was told
     /// and the open project stays.
     bool OpenProject(StringView path);
-    /// Generates the movie of the open project. False when nothing was written.
+    /// Writes the open project to a path. False when it could not be written, `why` then tells.
+    bool SaveTo(StringView path, RuntimeError* why);
+    /// Generates the movie of the open project. False when nothing was written: a file that the
+    /// project is made from is no place for a movie.
     bool mnuAuthoring(StringView path);
 
 private:
@@ -76,6 +80,8 @@ private:
     String startLog_;
 
     void LogStep(StringView step);
+    /// The project's own file, or one that a symbol is made from.
+    bool IsSource(StringView path) const;
 };
 
 }  // namespace tamber

@@ -27,6 +27,9 @@ struct HtmlSettings {
     bool operator==(const HtmlSettings&) const = default;
 };
 
+/// Sprites and buttons shown within each other at most.
+inline constexpr Long DeepestNesting = 500;
+
 /// All that a project file holds.
 struct Project {
     /// The library, a folder directly followed by its contents.

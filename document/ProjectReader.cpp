@@ -32,16 +32,20 @@ constexpr Long VersionWithFitShape = 0x60300;
 constexpr Long readingGrowth = 128;
 constexpr std::size_t magicSize = 4;
 constexpr std::size_t compressedHead = 8;
-/// Text of a compressed project; far above any real one, and within the memory at hand.
-constexpr std::size_t largestText = std::size_t{512} << 20;
-/// Symbols shown within symbols. What walks a movie goes as deep.
-constexpr Long deepestNesting = 500;
+/// Bytes of a project text; far above any real one, and within the memory at hand.
+constexpr std::size_t largestText = std::size_t{128} << 20;
 
 /// An asset could not be had; the user was told why.
 struct LoadStopped {};
 
 [[noreturn]] void Damaged() {
     throw RuntimeError(ErrorOutOfRange, u"LoadProject", u"範囲外の数値が設定されました。");
+}
+
+/// What a project text begins with, the quotes of its first cell left aside.
+bool IsProjectHead(ByteView bytes) {
+    const std::string_view head(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    return head.starts_with("KVF") || head.starts_with("\"KVF");
 }
 
 bool Inflate(ByteView packed, Bytes& out) {
@@ -57,6 +61,7 @@ bool Inflate(ByteView packed, Bytes& out) {
         state = inflate(&stream, Z_NO_FLUSH);
         const std::size_t made = sizeof block - stream.avail_out;
         if (made == 0 && state == Z_OK) break;
+        if (out.empty() && !IsProjectHead({block, made})) state = Z_DATA_ERROR;
         if (out.size() + made > largestText) state = Z_MEM_ERROR;
         if (state == Z_OK || state == Z_STREAM_END) out.insert(out.end(), block, block + made);
     }
@@ -117,6 +122,8 @@ private:
     std::shared_ptr<clsSymbolData> TakeReference();
     void ReadLayers(Collection<clsLayer>& layers);
     void CheckNesting() const;
+    /// `done` of `total` items of a phase, told to the user a hundred times at most.
+    static void ShowProgress(Long done, Long total);
 
     clsCSV& csv_;
     String baseDir_;
@@ -140,6 +147,11 @@ Project Reader::Read() {
     ReadLayers(*project_.colMainLayer);
     CheckNesting();
     return std::move(project_);
+}
+
+void Reader::ShowProgress(Long done, Long total) {
+    if (done == total || done % std::max(total / 100, 1) == 0)
+        CurrentUserInterface().Progress(u"", done, total);
 }
 
 void Reader::Release() {
@@ -175,6 +187,7 @@ void Reader::ReadSymbols() {
     csv_.CrLf();
     for (Long i = 1; i <= count; ++i) {
         auto symbol = std::make_shared<clsSymbolData>();
+        ShowProgress(i, count);
         symbol->Index = i;
         symbol->Load(csv_, baseDir_);
         csv_.CrLf();
@@ -258,7 +271,8 @@ void Reader::ReadReferences() {
 void Reader::ReadLayers(Collection<clsLayer>& layers) {
     const Long count = csv_.TakeLong();
     csv_.CrLf();
-    for (Long i = 0; i < count; ++i) {
+    for (Long i = 1; i <= count; ++i) {
+        ShowProgress(i, count);
         const Long id = csv_.TakeLong();
         auto layer = std::make_shared<clsLayer>();
         if (id > 0) {
@@ -321,7 +335,7 @@ void Reader::CheckNesting() const {
             Long deepest = 0;
             for (const Long inner : shown[symbol])
                 deepest = std::max(deepest, height[static_cast<std::size_t>(inner)]);
-            if (deepest >= deepestNesting) Damaged();
+            if (deepest >= DeepestNesting) Damaged();
             height[symbol] = deepest + 1;
             open.pop_back();
         }
@@ -352,8 +366,9 @@ bool TellDamaged() {
 }  // namespace
 
 bool LoadProject(StringView path, Project& out, const ProjectAssets& assets) {
+    const auto size = FileSize(path);
     Bytes bytes;
-    if (!ReadFileBytes(path, bytes)) return TellDamaged();
+    if (!size || *size > largestText || !ReadFileBytes(path, bytes)) return TellDamaged();
     return LoadProjectBytes(bytes, path, out, assets);
 }
 

@@ -109,8 +109,11 @@ bool SaveProject(StringView path, const Project& project, RuntimeError* why) {
         return true;
     } catch (const RuntimeError& error) {
         if (why != nullptr) *why = error;
-        return false;
+    } catch (const std::bad_alloc&) {
+        if (why != nullptr)
+            *why = RuntimeError(ErrorOutOfMemory, u"SaveProject", u"メモリ不足です。");
     }
+    return false;
 }
 
 }  // namespace tamber

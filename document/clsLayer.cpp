@@ -338,7 +338,7 @@ Long clsLayer::DepthCnt(bool inTween) const {
         case KindVector:
             break;
         default:
-            return Visible(false) ? 1 : 0;
+            return Visible(true) ? 1 : 0;
     }
     const auto* vector = symbol_->Property<clsPropertyVector>();
     if (ClippingDepth != 0 || vector == nullptr) return 1;

@@ -45,7 +45,8 @@ Single OneDecimal(Single value) {
     if (value == std::trunc(value) || !std::isfinite(value)) return value;
     char digits[32];
     std::snprintf(digits, sizeof digits, "%.7g", static_cast<double>(value));
-    return static_cast<Single>(std::round(std::strtod(digits, nullptr) * 10) / 10);
+    // The sum drops the sign of a zero.
+    return static_cast<Single>(std::round(std::strtod(digits, nullptr) * 10) / 10 + 0.0);
 }
 
 StringView ModeText(Long mode) {

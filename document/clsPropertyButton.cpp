@@ -28,13 +28,12 @@ bool IsShape(const std::shared_ptr<clsSymbolData>& symbol) {
 void clsPropertyButton::Load(clsCSV& csv) {
     ButtonName = csv.TakeText();
     blAutoHitTest = csv.TakeBoolean();
-    if (!csv.Value().empty()) {
-        bl9Scale = csv.TakeBoolean();
-        GridLeft = csv.TakeLong();
-        GridRight = csv.TakeLong();
-        GridTop = csv.TakeLong();
-        GridBottom = csv.TakeLong();
-    }
+    if (csv.Value().empty()) return;
+    bl9Scale = csv.TakeBoolean();
+    GridLeft = csv.TakeLong();
+    GridRight = csv.TakeLong();
+    GridTop = csv.TakeLong();
+    GridBottom = csv.TakeLong();
     if (ProjectFileVersion < VersionWithMatrix) return;
     matrixDown.Load(csv);
     matrixOver.Load(csv);

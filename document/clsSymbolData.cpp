@@ -185,10 +185,9 @@ std::shared_ptr<clsSymbolData> clsSymbolData::Copy() const {
 }
 
 void clsSymbolData::Load(clsCSV& csv, StringView baseDir) {
-    const Long id = csv.TakeLong();
+    ID = csv.TakeLong();
     const String file = PathFromCell(csv.TakeText());
     eType(SymbolKindFromText(csv.TakeText()));
-    ID = id;
     const bool drive = file.size() >= 3 && (file[0] | 0x20) >= u'a' && (file[0] | 0x20) <= u'z' &&
                        file[1] == u':' && (file[2] == u'\\' || file[2] == u'/');
     if (file.empty())

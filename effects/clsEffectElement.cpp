@@ -65,6 +65,7 @@ void clsEffectElement::Load(clsCSV& csv) {
         auto parameter = std::make_shared<clsEffectParam>();
         parameter->Name = csv.TakeText();
         parameter->Value = csv.TakeText();
+        parameter->blStored = true;
         if (!colEffectPrm) colEffectPrm = std::make_shared<Collection<clsEffectParam>>();
         const String name = parameter->Name;
         colEffectPrm->Add(std::move(parameter), name);
@@ -83,7 +84,7 @@ void clsEffectElement::Save(clsCSV& csv) const {
     csv.Put(EffectName);
     if (colEffectPrm) {
         for (const auto& parameter : *colEffectPrm) {
-            if (parameter->Value == parameter->DefValue) continue;
+            if (!parameter->Changed()) continue;
             csv.Put(parameter->Name);
             csv.Put(parameter->Value);
         }

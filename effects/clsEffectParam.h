@@ -17,6 +17,11 @@ public:
     String Value;
     /// 0 text, 1 number, 2 list.
     Long ParamType = 0;
+    /// Comes from a project, whose effect file has not told the default yet.
+    bool blStored = false;
+
+    /// A value to be kept in the project.
+    bool Changed() const { return blStored || Value != DefValue; }
 
     /// Choices of a list, separated by commas. Line ends are taken out.
     const String& ParamElement() const { return element_; }

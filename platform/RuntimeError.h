@@ -20,6 +20,7 @@ struct RuntimeError : std::exception {
 
 inline constexpr Long ErrorOutOfRange = static_cast<Long>(0x80040000);
 inline constexpr Long ErrorOutOfRangeInput = static_cast<Long>(0x80040001);
+inline constexpr Long ErrorOutOfMemory = 7;
 /// A text that stands for no number where one is needed.
 inline constexpr Long ErrorTypeMismatch = 13;
 /// A number beyond the range of its type.

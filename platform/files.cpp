@@ -84,6 +84,27 @@ std::string FollowLinks(const std::string& path) {
     return error ? path : target.string();
 }
 
+/// A device or pipe, which has no whole file to be replaced by.
+bool IsDevice(const std::string& target) {
+    struct stat info {};
+    return stat(target.c_str(), &info) == 0 && !S_ISREG(info.st_mode) && !S_ISDIR(info.st_mode);
+}
+
+bool WriteThrough(ByteView bytes, const std::string& target) {
+    FileHandle file(open(target.c_str(), O_WRONLY | O_CLOEXEC));
+    return file.Ok() && WriteAll(file.Descriptor(), bytes) && file.Close();
+}
+
+/// An existing file that may not be written to is not replaced either.
+bool IsProtected(const std::string& target) {
+    return access(target.c_str(), F_OK) == 0 && access(target.c_str(), W_OK) != 0;
+}
+
+/// Pattern of a temporary name; short, since the target's own may be as long as names can be.
+std::string TemporaryBeside(const std::string& target) {
+    return (std::filesystem::path(target).parent_path() / ".tamber-XXXXXX").string();
+}
+
 }  // namespace
 
 std::function<bool()>& BeforeWriteStep() {
@@ -100,11 +121,12 @@ bool ReadFileBytes(StringView path, Bytes& bytes, std::uint64_t offset, std::uin
     Bytes result;
     if (S_ISREG(info.st_mode)) {
         const auto size = static_cast<std::uint64_t>(info.st_size);
-        result.reserve(std::min(count, size > offset ? size - offset : 0));
+        result.reserve(std::min(count, size > offset ? size - offset : 0) + 1);
     }
     while (result.size() < count) {
         const std::size_t done = result.size();
-        const std::size_t room = std::max(BlockSize, result.capacity() - done);
+        const std::size_t reserved = result.capacity() - done;
+        const std::size_t room = reserved != 0 ? reserved : BlockSize;
         const auto wanted = static_cast<std::size_t>(std::min<std::uint64_t>(count - done, room));
         result.resize(done + wanted);
         const ssize_t got = read(file.Descriptor(), result.data() + done, wanted);
@@ -114,6 +136,12 @@ bool ReadFileBytes(StringView path, Bytes& bytes, std::uint64_t offset, std::uin
     }
     bytes = std::move(result);
     return true;
+}
+
+std::optional<std::uint64_t> FileSize(StringView path) {
+    struct stat info {};
+    if (stat(ToNarrow(path).c_str(), &info) != 0 || !S_ISREG(info.st_mode)) return std::nullopt;
+    return static_cast<std::uint64_t>(info.st_size);
 }
 
 std::size_t ReadFileHead(std::span<Byte> bytes, StringView path) {
@@ -126,7 +154,9 @@ std::size_t ReadFileHead(std::span<Byte> bytes, StringView path) {
 bool WriteFileBytes(ByteView bytes, StringView path, bool replace) {
     if (path.empty() || (!replace && FileExists(path))) return false;
     const std::string target = FollowLinks(ToNarrow(path));
-    std::string beside = target + ".XXXXXX";
+    if (IsDevice(target)) return WriteThrough(bytes, target);
+    if (IsProtected(target)) return false;
+    std::string beside = TemporaryBeside(target);
     if (!StepAllowed()) return false;
     FileHandle file(mkostemp(beside.data(), O_CLOEXEC));
     if (!file.Ok()) return false;

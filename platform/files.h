@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "platform/types.h"
@@ -11,12 +12,15 @@ namespace tamber {
 /// folder is no file.
 bool ReadFileBytes(StringView path, Bytes& bytes, std::uint64_t offset = 0,
                    std::uint64_t count = UINT64_MAX);
+/// Bytes of a regular file; nothing for anything else.
+std::optional<std::uint64_t> FileSize(StringView path);
 /// Fills a prepared array from the file's start and returns the bytes read.
 std::size_t ReadFileHead(std::span<Byte> bytes, StringView path);
 
 /// Puts a whole new file at `path`: the bytes go into a file beside it, are flushed, and take the
 /// name in one step. False leaves an earlier file as it was and nothing beside it. With `replace`
-/// false an existing file is left and the result is false. A link is followed.
+/// false an existing file is left and the result is false. A link is followed; a device or pipe is
+/// written to as it stands; a file without permission to write stays.
 bool WriteFileBytes(ByteView bytes, StringView path, bool replace = true);
 
 /// Removes a file. False when it is not there or stays.

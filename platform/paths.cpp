@@ -49,9 +49,15 @@ bool FolderExists(StringView path) {
     return fs::is_directory(Native(path), error);
 }
 
+bool SameFile(StringView a, StringView b) {
+    std::error_code error;
+    return fs::equivalent(Native(a), Native(b), error);
+}
+
 String GetFileFolder(StringView path) {
     const std::size_t last = path.rfind(PathSeparator);
-    return last == StringView::npos ? String() : String(path.substr(0, last));
+    if (last == StringView::npos) return {};
+    return String(path.substr(0, last == 0 ? 1 : last));
 }
 
 String GetFileName(StringView path) {

@@ -14,8 +14,10 @@ inline constexpr char16_t PathSeparator =
 
 bool FileExists(StringView path);
 bool FolderExists(StringView path);
+/// Both paths lead to one existing file.
+bool SameFile(StringView a, StringView b);
 
-/// Text before the last separator, without it; empty when there is none.
+/// Text before the last separator, without it unless it is the root; empty when there is none.
 String GetFileFolder(StringView path);
 /// Text behind the last separator.
 String GetFileName(StringView path);

@@ -1,7 +1,5 @@
 #include "swf/PlaceObjectFactory.h"
 
-#include "platform/rounding.h"
-
 namespace tamber {
 
 namespace {
@@ -9,7 +7,7 @@ namespace {
 constexpr Long FilterVersion = 8;
 
 Long ToTwips(Single pixels, Single origin) {
-    return RoundToLong((static_cast<double>(pixels) - origin) * 20.0);
+    return mdlSWFTag::ToField((static_cast<double>(pixels) - origin) * 20.0);
 }
 
 void SetColour(clsSWFTagPlaceObject& tag, const clsLayerObjElement& element) {

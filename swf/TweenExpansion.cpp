@@ -1,5 +1,6 @@
 #include "swf/TweenExpansion.h"
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 
@@ -35,6 +36,9 @@ public:
 
 private:
     Long Ratio(Single t, const std::optional<EdgingCurve>& curve) const {
+        return std::clamp(FreeRatio(t, curve), 0, FullRatio);
+    }
+    Long FreeRatio(Single t, const std::optional<EdgingCurve>& curve) const {
         if (curve && !curve->Empty()) return curve->TweenRatio(t);
         if (factor_ == 0) return RoundToLong(static_cast<double>(t) * FullRatio);
         return RoundToLong((t + factor_ * std::sin(t * Pi)) * FullRatio);

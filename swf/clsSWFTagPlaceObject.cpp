@@ -18,6 +18,11 @@ Single TangentOf(Single degrees) {
     return static_cast<Single>(std::tan(static_cast<double>(degrees) * 3.14159265358979 / 180.0));
 }
 
+/// Fields of a colour transform have 15 bits at most.
+Long ColorField(std::int64_t value) {
+    return static_cast<Long>(std::clamp<std::int64_t>(value, -0x4000, 0x3FFF));
+}
+
 Long EventBytes() {
     return mdlSWFTag::swfVersion() < WideEventVersion ? 2 : 4;
 }
@@ -73,16 +78,17 @@ void clsSWFTagPlaceObject::InitColorTransform() {
 
 void clsSWFTagPlaceObject::SetEditColorFilter(const clsFilterEditColor& editColor, Long bright,
                                               Long toumei) {
-    const Long b = bright * 255 / 100;
+    const std::int64_t b = bright * 255 / 100;
+    const std::int64_t opacity = toumei;
     SwfColorTransform t;
-    t.MultR = editColor.MultR * 256 / 100;
-    t.MultG = editColor.MultG * 256 / 100;
-    t.MultB = editColor.MultB * 256 / 100;
-    t.MultA = editColor.MultA * toumei * 256 / 10000;
-    t.AddR = std::min(b + editColor.AddR, 255);
-    t.AddG = std::min(b + editColor.AddG, 255);
-    t.AddB = std::min(b + editColor.AddB, 255);
-    t.AddA = editColor.AddA;
+    t.MultR = ColorField(std::int64_t{editColor.MultR} * 256 / 100);
+    t.MultG = ColorField(std::int64_t{editColor.MultG} * 256 / 100);
+    t.MultB = ColorField(std::int64_t{editColor.MultB} * 256 / 100);
+    t.MultA = ColorField(editColor.MultA * opacity * 256 / 10000);
+    t.AddR = ColorField(std::min<std::int64_t>(b + editColor.AddR, 255));
+    t.AddG = ColorField(std::min<std::int64_t>(b + editColor.AddG, 255));
+    t.AddB = ColorField(std::min<std::int64_t>(b + editColor.AddB, 255));
+    t.AddA = ColorField(editColor.AddA);
     SetColorTransform(t);
 }
 

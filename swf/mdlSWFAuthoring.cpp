@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <set>
 
+#include "document/Project.h"
 #include "document/SymbolKinds.h"
 #include "document/clsLayerFolder.h"
 #include "document/clsObjBackGround.h"
@@ -14,6 +15,7 @@
 #include "platform/UserInterface.h"
 #include "platform/text.h"
 #include "swf/LayerPlacement.h"
+#include "swf/MovieLimits.h"
 #include "swf/clsSWFAdmin.h"
 #include "swf/tags/clsSWFTagDefineSprite.h"
 #include "swf/tags/clsSWFTagExport.h"
@@ -30,8 +32,6 @@ constexpr Long LinkVersion = 5;
 constexpr Long ClipActionVersion = 5;
 constexpr Long ScalingGridVersion = 8;
 constexpr Long BitmapExportVersion = 8;
-/// Sprites within sprites; a deeper nest can only be a damaged project.
-constexpr Long MaxNesting = 256;
 
 Long ReverseBytes(Long color) {
     return (color & 0xFF) << 16 | (color & 0xFF00) | (color >> 16 & 0xFF);
@@ -92,6 +92,7 @@ private:
     void PlaceLayer(const Timeline& timeline, Long index, Long depth);
     bool IsGated(const clsLayer& layer) const;
     void LeaveOut(const clsLayer& layer);
+    void LeaveOutKomas(const clsLayer& layer);
     void LeaveOutScripts(const clsLayer& layer);
     void ShowProgress(Long done, Long total) const;
 
@@ -137,7 +138,7 @@ Long Authoring::EnsureDefined(clsSWFAdmin& admin, clsSymbolData& symbol, Long fr
 }
 
 Long Authoring::DefineSymbol(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
-    if (nesting_ >= MaxNesting) return 0;
+    if (nesting_ > DeepestNesting) return 0;
     ++nesting_;
     if (symbol.eType() == KindBitmap) DefineBitmap(admin, symbol, frame);
     if (symbol.eType() == KindSprite) {
@@ -221,11 +222,14 @@ void Authoring::DefineSprite(clsSWFAdmin& admin, clsSymbolData& symbol, Long fra
 void Authoring::AddScalingGrid(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long id,
                                Long frame) {
     if (!sprite.bl9Scale || mdlSWFTag::swfVersion() < ScalingGridVersion) return;
-    const Long left = sprite.baseX * TwipsPerPixel;
-    const Long top = sprite.baseY * TwipsPerPixel;
+    const auto side = [](Long grid, Long base) {
+        return mdlSWFTag::ToField(static_cast<double>(grid) -
+                                  static_cast<double>(base) * TwipsPerPixel);
+    };
     admin.AddTag(frame,
-                 admin.GetNewScalingGrid(id, sprite.GridLeft - left, sprite.GridRight - left,
-                                         sprite.GridTop - top, sprite.GridBottom - top),
+                 admin.GetNewScalingGrid(
+                     id, side(sprite.GridLeft, sprite.baseX), side(sprite.GridRight, sprite.baseX),
+                     side(sprite.GridTop, sprite.baseY), side(sprite.GridBottom, sprite.baseY)),
                  true);
 }
 
@@ -276,6 +280,17 @@ void Authoring::LeaveOut(const clsLayer& layer) {
     if (!leftOut_.insert(&layer).second) return;
     ShowMessage(u"この種類のレイヤーの生成には対応していません。\r\n" +
                     layer.SymbolData()->TypeText() + u"（" + layer.LayerNameView() + u"）",
+                ProgramTitle, MessageIcon::Warning);
+}
+
+void Authoring::LeaveOutKomas(const clsLayer& layer) {
+    const auto& komas = *layer.SymbolData()->Property<clsPropertyKoma>()->colKomas;
+    const bool whole = std::all_of(komas.begin(), komas.end(), [](const auto& koma) {
+        return CanDefine(koma->eType());
+    });
+    if (whole || !leftOut_.insert(&layer).second) return;
+    ShowMessage(u"生成に対応していない種類のコマがあります。\r\nコマ動画（" + layer.LayerNameView() +
+                    u"）",
                 ProgramTitle, MessageIcon::Warning);
 }
 
@@ -343,6 +358,7 @@ void Authoring::PlaceLayer(const Timeline& timeline, Long index, Long depth) {
     character.ClippingDepth = ClipDepthOf(timeline.Layers, index, layer.ClippingDepth);
     character.Origin = timeline.Origin;
     if (symbol.eType() == KindKoma) {
+        LeaveOutKomas(layer);
         const Long frame = timeline.Admin.FrameCount() == 1 ? 1 : 2;
         std::vector<Long> identifiers = DefineKomas(timeline.Admin, symbol, frame);
         if (identifiers.empty()) return;
@@ -357,23 +373,9 @@ void Authoring::PlaceLayer(const Timeline& timeline, Long index, Long depth) {
     if (character.Identifier != 0) LayerPlacement(timeline.Admin, layer, character).Run();
 }
 
-/// False when a key frame, hidden or not, lies beyond what a movie's frame count can tell.
-bool FitsFrameLimit(const Collection<clsLayer>& layers) {
-    for (const auto& layer : layers)
-        for (const auto& object : layer->colObject)
-            if (object->StartFrame() > MaxFrames || object->DispCount() > MaxFrames ||
-                object->endFrame() > MaxFrames)
-                return false;
-    return true;
-}
-
-bool FitsFrameLimit(const MovieRequest& request) {
-    if (!FitsFrameLimit(*request.Layers)) return false;
-    for (const auto& symbol : *request.Library) {
-        const auto* sprite = symbol->Property<clsPropertySprite>();
-        if (sprite != nullptr && !FitsFrameLimit(*sprite->colLayer)) return false;
-    }
-    return true;
+bool Refuse(const String& why) {
+    ShowMessage(why, ProgramTitle, MessageIcon::Error);
+    return false;
 }
 
 }  // namespace
@@ -400,12 +402,7 @@ Long ClipDepthOf(const Collection<clsLayer>& layers, Long layerIndex, Long clipp
 }
 
 bool BuildMovie(const MovieRequest& request) {
-    if (!FitsFrameLimit(request)) {
-        ShowMessage(u"フレーム数が多すぎます。\r\nSWFファイルは" + ToText(MaxFrames) +
-                        u"フレームまでです。",
-                    ProgramTitle, MessageIcon::Error);
-        return false;
-    }
+    if (const String fault = MovieLimitFault(request); !fault.empty()) return Refuse(fault);
     mdlSWFTag::swfVersion(request.Version);
     clsSWFAdmin admin;
     admin.SetDimension(0, request.Width, 0, request.Height, 0);
@@ -421,10 +418,11 @@ bool BuildMovie(const MovieRequest& request) {
     if (request.blExports)
         authoring.DefineExports(admin, request.blExportsInFrameTwo ? 2 : admin.FrameCount());
     authoring.WriteTimeline({admin, *request.Layers, {}, true});
+    if (admin.DefineID > MaxIdentifiers)
+        return Refuse(u"シンボル数が多すぎます。\r\nSWFファイルは" + ToText(MaxIdentifiers) +
+                      u"までです。");
     if (admin.Save(request.Path)) return true;
-    ShowMessage(request.Path + u"\r\n\r\nファイルに書き込めませんでした。", ProgramTitle,
-                MessageIcon::Error);
-    return false;
+    return Refuse(request.Path + u"\r\n\r\nファイルに書き込めませんでした。");
 }
 
 }  // namespace tamber::mdlSWFAuthoring

@@ -28,9 +28,6 @@ struct MovieRequest {
 
 namespace mdlSWFAuthoring {
 
-/// Most frames that a movie's header can tell.
-inline constexpr Long MaxFrames = 65535;
-
 /// Builds and writes a movie. What cannot go into it is left out with a message. False when nothing
 /// was written.
 bool BuildMovie(const MovieRequest& request);

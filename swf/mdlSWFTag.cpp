@@ -192,6 +192,12 @@ void SetMatrix(const SwfMatrix& m) {
     SetPair(m.TranslateX, m.TranslateY);
 }
 
+Long ToField(double value) {
+    if (std::isnan(value)) return 0;
+    return RoundToLong(
+        std::clamp(value, static_cast<double>(-MaxField), static_cast<double>(MaxField)));
+}
+
 void SetMatrixTransform(Single scaleX, Single scaleY, Single angle, SwfPoint translate,
                         SwfPoint centre, Single skewX, Single skewY) {
     SetAlign();
@@ -224,8 +230,8 @@ void SetMatrixTransform(Single scaleX, Single scaleY, Single angle, SwfPoint tra
         px = xa + yc;
         py = xb + yd;
     }
-    const Long translateX = RoundToLong(static_cast<double>(px) + translate.X);
-    const Long translateY = RoundToLong(static_cast<double>(py) + translate.Y);
+    const Long translateX = ToField(static_cast<double>(px) + translate.X);
+    const Long translateY = ToField(static_cast<double>(py) + translate.Y);
     SetOptionalPair(a != 1.0f || d != 1.0f, ToFixed(a), ToFixed(d));
     SetOptionalPair(b != 0 || cc != 0, ToFixed(b), ToFixed(cc));
     SetPair(translateX, translateY);

@@ -66,6 +66,11 @@ void swfBytePos(std::size_t position);
 /// Next free bit of that byte, 7 (at a byte boundary) down to 0.
 Long swfBitPos();
 
+/// Largest value of a RECT or MATRIX field, whose width is told in five bits.
+inline constexpr Long MaxField = 0x3FFFFFFF;
+/// Rounds to the range of such a field.
+Long ToField(double value);
+
 /// Moves to the next byte boundary.
 void SetAlign();
 /// The low `byteCount` bytes of `value`, little-endian; 1 to 4, else error 0x80040000.

@@ -133,6 +133,39 @@ TEST_F(CommandLineTest, says_what_went_wrong_and_writes_nothing) {
     }
 }
 
+TEST_F(CommandLineTest, never_writes_over_what_the_movie_is_made_from) {
+    fs::copy(fs::path(TAMBER_SOURCE_DIR) / "examples/hello", folder / "p");
+    fs::copy(folder / "p/hello.kvf", folder / "p/hello.swf");
+    fs::path picture;
+    for (const auto& entry : fs::directory_iterator(folder / "p"))
+        if (entry.path().extension() == ".gif") picture = entry.path();
+    for (const std::string& arguments :
+         {std::string("generate p/hello.kvf -o p/hello.kvf"), std::string("generate p/hello.swf"),
+          "generate p/hello.kvf -o '" + picture.string() + "'"}) {
+        const Outcome run = Tamber(arguments);
+        EXPECT_EQ(run.Code, 1) << arguments;
+        EXPECT_NE(run.Errors.find("出力できません"), std::string::npos) << run.Errors;
+    }
+    EXPECT_EQ(TextOf(folder / "p/hello.kvf"), TextOf(folder / "p/hello.swf"));
+    EXPECT_EQ(TextOf(picture).substr(0, 3), "GIF");
+}
+
+TEST_F(CommandLineTest, holds_on_to_sense_in_settings_and_output) {
+    EXPECT_EQ(Tamber("--set FPS=1e39 --set CanvasWidth=99999").Code, 0);
+    EXPECT_EQ(Tamber("none.kvf").Errors.substr(0, 6), "Tamber");
+    EXPECT_NE(Tamber("none.kvf").Errors.find("ファイルが見つかりません。"), std::string::npos);
+    const std::string full =
+        "'" TAMBER_PROGRAM "' info " + hello + " > /dev/full 2>/dev/null";
+    EXPECT_EQ(WEXITSTATUS(std::system(full.c_str())), 1);
+    // Settings of the page travel in the project only when asked for.
+    EXPECT_EQ(Tamber("convert " + hello + " a.kvf").Code, 0);
+    EXPECT_EQ(TextOf(folder / "a.kvf").find("HTML,"), std::string::npos);
+    EXPECT_EQ(Tamber("convert " + hello + " b.kvf --set flgHTMLtoProject=1 --set WIDTH=7").Code, 0);
+    EXPECT_NE(TextOf(folder / "b.kvf")
+                  .find("HTML,,7,0,,,True,True,False,high,,,True\r\n"),
+              std::string::npos);
+}
+
 TEST_F(CommandLineTest, without_a_command_starts_and_stops_and_has_no_window) {
     const Outcome run = Tamber("");
     EXPECT_EQ(run.Code, 0);

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "document/clsCSV.h"
+#include "effects/clsEffectElement.h"
+
 #include "effects/clsFilterData.h"
 #include "platform/RuntimeError.h"
 
@@ -135,6 +138,16 @@ TEST(Filter, EditColourKnowsItsDefaults) {
     EXPECT_FALSE(color.CkDefault());
     color.SetDefault();
     EXPECT_TRUE(color.CkDefault());
+}
+
+TEST(EffectElement, KeepsAStoredParameterThatIsEmpty) {
+    clsCSV csv;
+    csv.Text(u"True,in,False,1,Left,False,20,fade,a,,b,2,");
+    clsEffectElement element;
+    element.Load(csv);
+    clsCSV saved;
+    element.Save(saved);
+    EXPECT_EQ(saved.Text().substr(0, 42), u"True,in,False,1,Left,False,20,fade,a,,b,2,");
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "platform/files.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -96,6 +97,23 @@ TEST_F(FilesTest, a_save_keeps_permissions_and_follows_links) {
     EXPECT_TRUE(fs::is_symlink(link));
     EXPECT_EQ(fs::file_size(file), newBytes.size());
     EXPECT_EQ(fs::status(file).permissions(), fs::perms(0640));
+}
+
+TEST_F(FilesTest, a_pipe_is_written_to_and_stays_a_pipe) {
+    const fs::path pipe = folder / "pipe";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    const int reader = open(pipe.c_str(), O_RDONLY | O_NONBLOCK);
+    EXPECT_TRUE(WriteFileBytes(oldBytes, FromNarrow(pipe.string())));
+    Bytes got(200);
+    EXPECT_EQ(read(reader, got.data(), got.size()), 100);
+    close(reader);
+    EXPECT_TRUE(fs::is_fifo(pipe));
+}
+
+TEST_F(FilesTest, a_name_as_long_as_the_system_allows_can_be_written) {
+    path = FromNarrow((folder / std::string(255, 'n')).string());
+    EXPECT_TRUE(WriteFileBytes(oldBytes, path));
+    EXPECT_EQ(Content(), oldBytes);
 }
 
 TEST_F(FilesTest, what_cannot_be_written_or_read_is_false) {

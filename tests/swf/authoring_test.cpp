@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "document/Project.h"
 #include "document/SymbolKinds.h"
 #include "document/clsLayerFolder.h"
 #include "document/clsLayerObjElement.h"
@@ -11,6 +12,7 @@
 #include "document/clsPropertySprite.h"
 #include "platform/RecordingUserInterface.h"
 #include "platform/codepage.h"
+#include "swf/clsSWFTagPlaceObject.h"
 #include "swf/mdlSWFAuthoring.h"
 #include "swf/mdlZlib.h"
 #include "tests/swf/MovieParser.h"
@@ -65,8 +67,7 @@ protected:
         return object;
     }
 
-    ParsedMovie Build(Long version = 6) {
-        const UserInterfaceScope scope(interface);
+    MovieRequest Request(Long version = 6) {
         MovieRequest request;
         request.Width = 6400;
         request.Height = 4800;
@@ -76,8 +77,24 @@ protected:
         request.blCompress = blCompress;
         request.blTopToBottom = blTopToBottom;
         request.Path = FromNarrow(path.string());
+        return request;
+    }
+
+    ParsedMovie Build(Long version = 6) {
+        const UserInterfaceScope scope(interface);
+        const MovieRequest request = Request(version);
         EXPECT_TRUE(mdlSWFAuthoring::BuildMovie(request));
         return test::ParseMovie(request.Path);
+    }
+
+    /// The one message that a build ends with before it writes anything.
+    String Refusal(const MovieRequest& request) {
+        const UserInterfaceScope scope(interface);
+        interface.Messages.clear();
+        EXPECT_FALSE(mdlSWFAuthoring::BuildMovie(request));
+        EXPECT_FALSE(std::filesystem::exists(path));
+        EXPECT_EQ(interface.Messages.size(), 1u);
+        return interface.Messages.empty() ? String() : interface.Messages[0].Text;
     }
 
     void TearDown() override { std::filesystem::remove(path); }
@@ -178,6 +195,7 @@ TEST_F(AuthoringTest, a_hidden_folder_hides_its_rows_only_in_the_falling_order) 
     folder->Folder()->LayerCount = 1;
     folder->Visible(true, false);
     AddKeyFrame(*AddLayer(AddBitmap(1, 1)), 1, 1);
+    NestLayers(layers);
     EXPECT_TRUE(test::Places(Build()).empty());
     blTopToBottom = false;
     EXPECT_EQ(test::Places(Build()).size(), 1u);
@@ -363,16 +381,49 @@ TEST_F(AuthoringTest, blend_and_filters_appear_from_version_8_on) {
                            1,    1, 0,    0,    4, 0, 0,    0,    4,    0, 16, 3}));
 }
 
-TEST_F(AuthoringTest, a_key_frame_beyond_the_frame_count_of_movies_builds_nothing) {
-    AddKeyFrame(*AddLayer(AddBitmap(1, 1)), 1, 0x7FFFFFFF);
-    const UserInterfaceScope scope(interface);
-    MovieRequest request;
-    request.Library = &library;
-    request.Layers = &layers;
-    request.Path = FromNarrow(path.string());
-    EXPECT_FALSE(mdlSWFAuthoring::BuildMovie(request));
-    EXPECT_EQ(interface.Messages.size(), 1u);
-    EXPECT_FALSE(std::filesystem::exists(path));
+TEST_F(AuthoringTest, what_a_movie_file_cannot_hold_is_refused_before_anything_is_written) {
+    const auto picture = AddBitmap(1, 1);
+    EXPECT_EQ(Refusal(Request(9)), u"SWF9の生成には対応していません。");
+    EXPECT_EQ(Refusal(Request(3)), u"SWF3の生成には対応していません。");
+    MovieRequest request = Request();
+    request.Width = 0x40000000;
+    EXPECT_EQ(Refusal(request), u"ステージの大きさが範囲外です。");
+    request.Width = -20;
+    EXPECT_EQ(Refusal(request), u"ステージの大きさが範囲外です。");
+
+    AddKeyFrame(*AddLayer(picture), 1, 0x7FFFFFFF);
+    EXPECT_EQ(Refusal(Request()).substr(0, 12), u"フレーム数が多すぎます。");
+    layers.Clear();
+    for (Long i = 0; i < 62; ++i) {
+        AddKeyFrame(*AddLayer(picture), 1, 65000).blTween = true;
+        AddKeyFrame(*layers(layers.Count()), 65001, 1);
+    }
+    EXPECT_EQ(Refusal(Request()).substr(0, 20), u"トゥイーンのフレームの合計が多すぎます。");
+    layers.Clear();
+    for (Long i = 0; i < 16384; ++i) AddLayer(picture);
+    EXPECT_EQ(Refusal(Request()).substr(0, 12), u"レイヤー数が多すぎます。");
+    layers.Clear();
+    for (Long i = 0; i < 32768; ++i) {
+        AddSymbol(picture->Copy())->blExport = true;
+        library(library.Count())->ObjectName = u"a";
+    }
+    EXPECT_EQ(Refusal(Request()).substr(0, 12), u"シンボル数が多すぎます。");
+}
+
+TEST_F(AuthoringTest, values_beyond_a_field_stay_within_it) {
+    const auto layer = AddLayer(AddBitmap(1, 1));
+    AddKeyFrame(*layer, 1, 1, 1e30f, -1e30f);
+    const ParsedPlace place = test::Places(Build())[0];
+    EXPECT_EQ(place.Matrix.TranslateX, 0x3FFFFFFF);
+    EXPECT_EQ(place.Matrix.TranslateY, -0x3FFFFFFF);
+
+    clsFilterEditColor color;
+    color.MultR = 0x7FFFFFFF;
+    color.AddG = -0x7FFFFFFF;
+    clsSWFTagPlaceObject tag;
+    tag.SetEditColorFilter(color, 100, 100);
+    EXPECT_EQ(tag.Color.MultR, 0x3FFF);
+    EXPECT_EQ(tag.Color.AddG, -0x4000);
 }
 
 }  // namespace
