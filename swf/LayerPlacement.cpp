@@ -16,7 +16,8 @@ std::shared_ptr<clsSWFTagPlaceObject> LayerPlacement::MakeTag(const clsLayerObjE
     const Long depth = character_.Depth;
     if (placed_) {
         auto tag = NewPlaceObject(0, depth, element, character_.Origin, previous_->Placement());
-        tag->ClippingDepth = tag_->ClippingDepth;
+        // A koma is placed anew within the span and has to mask again; any other mask stays one.
+        if (character_.Koma != nullptr) tag->ClippingDepth = tag_->ClippingDepth;
         return tag;
     }
     auto tag = NewPlaceObject(character_.Identifier, depth, element, character_.Origin, nullptr);

@@ -211,6 +211,17 @@ TEST_F(AuthoringTest, a_mask_clips_the_layers_listed_before_it) {
     EXPECT_EQ(places[2].ClipDepth, 16383);
 }
 
+TEST_F(AuthoringTest, a_mask_that_moves_stays_one_without_saying_so_again) {
+    const auto layer = AddLayer(AddBitmap(1, 1));
+    layer->ClippingDepth = 1;
+    AddKeyFrame(*layer, 1, 2).blTween = true;
+    AddKeyFrame(*layer, 3, 1, 5, 5);
+    const auto places = test::Places(Build());
+    ASSERT_EQ(places.size(), 3u);
+    EXPECT_EQ(places[0].Flags & 64, 64);
+    EXPECT_EQ(places[2].Flags, 8 + 4 + 1);
+}
+
 TEST_F(AuthoringTest, a_linear_tween_places_each_frame) {
     const auto layer = AddLayer(AddBitmap(1, 1));
     AddKeyFrame(*layer, 1, 4, 0, 0).blTween = true;
