@@ -2,8 +2,12 @@
 
 #include "app/mdlPrivateProfile.h"
 #include "document/clsPropertyBmp.h"
+#include "document/clsPropertyVector.h"
 #include "document/clsSymbolData.h"
 #include "media/BitmapTreatment.h"
+#include "platform/UserInterface.h"
+#include "platform/paths.h"
+#include "vector/clsVector.h"
 
 namespace tamber {
 
@@ -23,6 +27,13 @@ BitmapOptions OptionsOf(const clsPropertyBmp& record) {
     return options;
 }
 
+/// A drawing without what it was meant to show would look like a fault of the program.
+void TellLeftOut(StringView path, const std::vector<String>& features) {
+    String line = GetFileName(path) + u"：対応していない要素を除いて読み込みました（";
+    for (const String& feature : features) line += (&feature == &features[0] ? u"" : u"、") + feature;
+    CurrentUserInterface().Status(line + u"）");
+}
+
 }  // namespace
 
 bool AssetReader::LoadBitmap(clsSymbolData& symbol) const {
@@ -35,6 +46,14 @@ bool AssetReader::LoadBitmap(clsSymbolData& symbol) const {
     record.BitCount = buffers.BitCount;
     record.Width = buffers.Width;
     record.height = buffers.height;
+    return true;
+}
+
+bool AssetReader::LoadVector(clsSymbolData& symbol) const {
+    clsVector reader;
+    if (!reader.LoadFromFile(symbol.FilePathName)) return false;
+    if (!reader.LeftOut.empty()) TellLeftOut(symbol.FilePathName, reader.LeftOut);
+    symbol.Property<clsPropertyVector>()->SetArtwork(reader.inVector, reader.Width, reader.height);
     return true;
 }
 

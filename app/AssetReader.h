@@ -4,12 +4,12 @@
 
 namespace tamber {
 
-/// Reads the files behind a project's symbols. Pictures are decoded; of vectors, sounds and videos
-/// the program keeps the path alone.
+/// Reads the files behind a project's symbols. Pictures and drawings are decoded; of sounds and
+/// videos the program keeps the path alone.
 class AssetReader : public ProjectAssets {
 public:
     bool LoadBitmap(clsSymbolData& symbol) const override;
-    bool LoadVector(clsSymbolData&) const override { return true; }
+    bool LoadVector(clsSymbolData& symbol) const override;
     bool LoadSound(clsSymbolData&) const override { return true; }
     bool LoadMovie(clsSymbolData&) const override { return true; }
     /// Texts keep the font that the project names.

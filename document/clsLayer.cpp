@@ -342,14 +342,14 @@ Long clsLayer::DepthCnt(bool inTween) const {
     }
     const auto* vector = symbol_->Property<clsPropertyVector>();
     if (ClippingDepth != 0 || vector == nullptr) return 1;
-    if (vector->blDivide) return vector->ShapeCount;
+    if (vector->blDivide) return vector->ShapeCount();
     if (!inTween) return 1;
     bool follows = false;
     for (const auto& object : colObject) {
         const auto* element = object->ObjectAs<clsObjVector>();
         if ((object->blTween || follows) && element && element->blFreeTransEx() &&
             element->blDivide)
-            return vector->ShapeCount;
+            return vector->ShapeCount();
         follows = object->blTween;
     }
     return 1;

@@ -2,8 +2,11 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 
 #include "document/clsPropertyData.h"
+#include "vector/LineOptions.h"
+#include "vector/clsVectorData.h"
 
 namespace tamber {
 
@@ -23,10 +26,23 @@ public:
     Long CapStyle = 0;
     Long JoinStyle = 0;
     Long MiterLimit = 1024;
-    /// From the file, not stored. A drawing not read counts as one shape.
-    Long ShapeCount = 1;
+    /// Size in pixels and drawing, from the file and not stored; null until it is read.
     Long Width = 0;
     Long height = 0;
+    std::shared_ptr<const clsVectorData> inVector;
+
+    /// Shapes of the drawing; one that is not read counts as one shape.
+    Long ShapeCount() const;
+    /// The drawing as one shape with the line options, which count from version 8 of the movie on:
+    /// with the styles of each piece kept apart, or in one table as a morph needs it.
+    std::shared_ptr<clsVectorData2> inVector2(bool blKeepStyles) const;
+    /// A copy of one shape of the drawing with the line options.
+    std::shared_ptr<clsVectorData2> SetPrmVector2(const clsVectorData2& shape) const;
+    /// One of the results of MorphCheck.
+    Long CheckMorph(const clsPropertyVector& other) const;
+    void CopyToLineOption(clsPropertyVector& target) const;
+    /// The drawing, stretched over the four corners when `blFreeTrans` says so.
+    void SetArtwork(std::shared_ptr<const clsVectorData> artwork, Long width, Long pixelHeight);
 
     /// Target of a morph, or null.
     std::shared_ptr<clsSymbolData> MorphSymbol() const { return morph_.lock(); }
@@ -41,6 +57,8 @@ public:
     void CopyTo(clsPropertyData& target) const override { CopyRecord(*this, target); }
 
 private:
+    std::optional<LineOptions> OptionsInForce() const;
+
     std::weak_ptr<clsSymbolData> morph_;
 };
 

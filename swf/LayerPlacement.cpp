@@ -1,11 +1,17 @@
 #include "swf/LayerPlacement.h"
 
 #include "document/SymbolKinds.h"
+#include "document/clsObjVector.h"
+#include "document/clsPropertyVector.h"
 #include "document/clsSymbolData.h"
 #include "swf/TweenExpansion.h"
 #include "swf/tags/clsSWFTagRemoveObject.h"
 
 namespace tamber {
+
+namespace {
+constexpr Long BlendVersion = 8;
+}
 
 void LayerPlacement::Run() {
     for (Long index = 1; index <= layer_.ObjectCount(); ++index)
@@ -27,24 +33,76 @@ std::shared_ptr<clsSWFTagPlaceObject> LayerPlacement::MakeTag(const clsLayerObjE
     return tag;
 }
 
+bool LayerPlacement::OpensTween(Long index) const {
+    const clsLayerObject& object = *layer_.Object(index);
+    return object.blVisible && object.blTween && index < layer_.ObjectCount();
+}
+
+/// The key frame needs a character of its own: its outline is deformed, or its tween ends so.
+bool LayerPlacement::IsDeformed(Long index) const {
+    const auto deformed = [this](Long i) {
+        const auto* element = layer_.Object(i)->ObjectAs<clsObjVector>();
+        return element != nullptr && element->blFreeTransEx();
+    };
+    return character_.Deform && (deformed(index) || (OpensTween(index) && deformed(index + 1)));
+}
+
 void LayerPlacement::PlaceKeyFrame(Long index) {
     const clsLayerObject& object = *layer_.Object(index);
     auto tag = MakeTag(*object.Placement());
-    tag->PlaceCnt = character_.PlaceCount;
+    tag->PlaceCnt = placeCount_;
     placed_ = true;
     std::swap(tag_, tag);
+    const bool endsTween = inTween_;
     if (inTween_) ExpandTween(tag, object);
     inTween_ = false;
     previous_ = &object;
     if (!object.blVisible) {
         if (onStage_ && object.StartFrame() <= admin_.FrameCount()) Remove(object.StartFrame());
-        placed_ = onStage_ = false;
-    } else if (object.blTween && index < layer_.ObjectCount()) {
+        EndCharacter();
+        return;
+    }
+    ChooseCharacter(index, endsTween);
+    if (OpensTween(index)) {
         inTween_ = true;
     } else {
         PlaceStatic(object);
         EndSpan(index);
     }
+}
+
+/// The end of a morph shows its outline already; other deformed key frames get their own character,
+/// and a plain one after them the layer's.
+void LayerPlacement::ChooseCharacter(Long index, bool endsTween) {
+    const clsLayerObject& object = *layer_.Object(index);
+    const bool opens = OpensTween(index);
+    if (special_ && endsTween && !opens) return;
+    if (IsDeformed(index)) {
+        const clsLayerObject* end = opens ? layer_.Object(index + 1).get() : nullptr;
+        ReplaceCharacter(object.StartFrame(), character_.Deform(object, end));
+        special_ = true;
+    } else if (special_) {
+        ReplaceCharacter(object.StartFrame(), {character_.Identifier, character_.PlaceCount});
+        special_ = false;
+    }
+}
+
+void LayerPlacement::ReplaceCharacter(Long frame, DeformedCharacter character) {
+    if (onStage_) Remove(frame);
+    onStage_ = false;
+    placeCount_ = character.PlaceCount;
+    tag_->PlaceID = character.Identifier;
+    tag_->PlaceCnt = character.PlaceCount;
+    tag_->ClippingDepth = character_.ClippingDepth;
+    if (layer_.blInstance()) tag_->Name = layer_.InstanceName;
+    const Long blend = previous_->Placement()->eBlend;
+    if (mdlSWFTag::swfVersion() >= BlendVersion && blend != 0) tag_->eBlend(blend);
+}
+
+/// What stands at the depth is gone; the next key frame begins anew.
+void LayerPlacement::EndCharacter() {
+    placed_ = onStage_ = special_ = false;
+    placeCount_ = character_.PlaceCount;
 }
 
 void LayerPlacement::ExpandTween(const std::shared_ptr<clsSWFTagPlaceObject>& start,
@@ -56,6 +114,8 @@ void LayerPlacement::ExpandTween(const std::shared_ptr<clsSWFTagPlaceObject>& st
     tween.EndTag = tag_;
     tween.Element = previous_->Placement();
     tween.blVector = layer_.SymbolData()->eTypeEx() == KindVector;
+    const auto* drawing = layer_.SymbolData()->Property<clsPropertyVector>();
+    tween.blMorph = drawing != nullptr && drawing->MorphSymbol() != nullptr;
     tween.Koma = character_.Koma;
     const TweenPath path(*previous_->Placement(), *end.Placement(), character_.Origin.X,
                          character_.Origin.Y);
@@ -78,19 +138,20 @@ void LayerPlacement::EndSpan(Long index) {
     const Long end = layer_.Object(index)->endFrame();
     if (index == layer_.ObjectCount()) {
         if (end < admin_.FrameCount()) Remove(end + 1);
-        placed_ = onStage_ = false;
+        EndCharacter();
         return;
     }
-    if (end != admin_.FrameCount() && layer_.Object(index + 1)->StartFrame() > end + 1) {
+    const bool gap = layer_.Object(index + 1)->StartFrame() > end + 1;
+    if (end != admin_.FrameCount() && (gap || special_)) {
         Remove(end + 1);
-        placed_ = onStage_ = false;
+        EndCharacter();
     }
 }
 
 void LayerPlacement::Remove(Long frame) {
     auto remove = std::make_shared<clsSWFTagRemoveObject>();
     remove->depth = character_.Depth;
-    remove->RemoveCnt = character_.PlaceCount;
+    remove->RemoveCnt = placeCount_;
     admin_.AddTag(frame, std::move(remove), false);
 }
 

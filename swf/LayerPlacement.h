@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "document/clsLayer.h"
@@ -12,6 +13,12 @@ namespace tamber {
 /// Puts the key frames of one layer into a timeline: placements, tweens, moves and removals.
 class LayerPlacement {
 public:
+    /// A character of a key frame's own.
+    struct DeformedCharacter {
+        Long Identifier = 0;
+        Long PlaceCount = 1;
+    };
+
     /// What stands on the layer, and where.
     struct Character {
         Long Identifier = 0;
@@ -20,15 +27,27 @@ public:
         Long ClippingDepth = 0;  ///< depths that it masks
         TimelineOrigin Origin;
         KomaTable* Koma = nullptr;
+        /// Defines the character of a vector key frame that is deformed, or, with the key frame
+        /// that a tween ends with, one that morphs. Null for other kinds.
+        std::function<DeformedCharacter(const clsLayerObject& start, const clsLayerObject* end)>
+            Deform;
     };
 
     LayerPlacement(clsSWFAdmin& admin, const clsLayer& layer, Character character)
-        : admin_(admin), layer_(layer), character_(character) {}
+        : admin_(admin),
+          layer_(layer),
+          character_(std::move(character)),
+          placeCount_(character_.PlaceCount) {}
 
     void Run();
 
 private:
     void PlaceKeyFrame(Long index);
+    bool OpensTween(Long index) const;
+    bool IsDeformed(Long index) const;
+    void ChooseCharacter(Long index, bool endsTween);
+    void ReplaceCharacter(Long frame, DeformedCharacter character);
+    void EndCharacter();
     std::shared_ptr<clsSWFTagPlaceObject> MakeTag(const clsLayerObjElement& element);
     void ExpandTween(const std::shared_ptr<clsSWFTagPlaceObject>& start, const clsLayerObject& end);
     void PlaceStatic(const clsLayerObject& object);
@@ -44,6 +63,8 @@ private:
     bool placed_ = false;   ///< a tag of the present chain exists
     bool onStage_ = false;  ///< a character stands at the depth
     bool inTween_ = false;  ///< the key frame before opened a tween
+    bool special_ = false;  ///< the character is a key frame's own
+    Long placeCount_;       ///< depths of the present character
 };
 
 }  // namespace tamber

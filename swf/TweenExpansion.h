@@ -16,6 +16,7 @@ struct Tween {
     std::shared_ptr<clsSWFTagPlaceObject> EndTag;
     const clsLayerObjElement* Element = nullptr;  ///< of the start
     bool blVector = false;                        ///< its placements carry a ratio
+    bool blMorph = false;                         ///< its character changes shape with it
     KomaTable* Koma = nullptr;                    ///< of a koma symbol
 };
 

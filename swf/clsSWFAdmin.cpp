@@ -18,6 +18,8 @@ constexpr std::size_t PlainHeaderSize = 8;
 constexpr std::size_t LengthPosition = 4;
 constexpr Long CompressionVersion = 5;
 constexpr Long AttributesVersion = 8;
+/// DefineShape4 and DefineMorphShape2 come with this version.
+constexpr Long Shape4Version = 8;
 constexpr Long TwipsPerPixel = 20;
 
 Bytes CompressMovie(const Bytes& movie) {
@@ -26,6 +28,14 @@ Bytes CompressMovie(const Bytes& movie) {
     result.insert(result.end(), body.begin(), body.end());
     result[0] = 'C';
     return result;
+}
+
+void TakeShape(clsSWFTagDefineShape& tag, const clsVectorData2& data) {
+    tag.blUsesNonScalingStrokes = data.blUsesNonScalingStrokes;
+    tag.blUsesScalingStrokes = data.blUsesScalingStrokes;
+    tag.colFillStyles = data.colFillStyles;
+    tag.colLineStyles = data.colLineStyles;
+    tag.ShapeRecords = data.inSWFTShapeRecords;
 }
 
 }  // namespace
@@ -141,6 +151,24 @@ std::shared_ptr<clsSWFTagDefineShape> clsSWFAdmin::GetNewShape(Long ver) {
     tag->Ver = ver;
     tag->blUsesScalingStrokes = true;
     tag->ID = AddDefinition(tag);
+    return tag;
+}
+
+std::shared_ptr<clsSWFTagDefineShape> clsSWFAdmin::GetNewShape(Long ver,
+                                                               const clsVectorData2& data) {
+    auto tag = GetNewShape(mdlSWFTag::swfVersion() >= Shape4Version ? data.Ver : ver);
+    TakeShape(*tag, data);
+    return tag;
+}
+
+std::shared_ptr<clsSWFTagDefineShape> clsSWFAdmin::GetNewMorphShape(const clsVectorData2& start,
+                                                                    const clsVectorData2& end) {
+    const bool extended = start.Ver >= 4 && mdlSWFTag::swfVersion() >= Shape4Version;
+    auto tag = GetNewShape(extended ? -2 : -1);
+    TakeShape(*tag, start);
+    tag->colFillStyles2 = end.colFillStyles;
+    tag->colLineStyles2 = end.colLineStyles;
+    tag->ShapeRecords2 = end.inSWFTShapeRecords;
     return tag;
 }
 

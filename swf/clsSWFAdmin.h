@@ -9,6 +9,7 @@
 #include "swf/tags/clsSWFTagDefineBitsLossless.h"
 #include "swf/tags/clsSWFTagDefineScalingGrid.h"
 #include "swf/tags/clsSWFTagDefineShape.h"
+#include "vector/clsVectorData2.h"
 
 namespace tamber {
 
@@ -62,6 +63,12 @@ public:
     std::shared_ptr<clsSWFTagDefineBitsJPEG> GetNewJpeg(Bytes stream, ByteView alphaPlane);
     std::shared_ptr<clsSWFTagDefineShape> GetNewBitmapShape(Long bitmapID, Long width, Long height);
     std::shared_ptr<clsSWFTagDefineShape> GetNewShape(Long ver);
+    /// A shape of an artwork: of the artwork's version from version 8 of the movie on, else of
+    /// `ver`. Its lists are shared.
+    std::shared_ptr<clsSWFTagDefineShape> GetNewShape(Long ver, const clsVectorData2& data);
+    /// A morph from one shape to another of the same structure.
+    std::shared_ptr<clsSWFTagDefineShape> GetNewMorphShape(const clsVectorData2& start,
+                                                           const clsVectorData2& end);
     std::shared_ptr<clsSWFTagDefineScalingGrid> GetNewScalingGrid(Long id, Long xMin, Long xMax,
                                                                   Long yMin, Long yMax);
 

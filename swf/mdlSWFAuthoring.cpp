@@ -12,10 +12,12 @@
 #include "document/clsPropertyBmp.h"
 #include "document/clsPropertyKoma.h"
 #include "document/clsPropertySprite.h"
+#include "document/clsPropertyVector.h"
 #include "platform/UserInterface.h"
 #include "platform/text.h"
 #include "swf/LayerPlacement.h"
 #include "swf/MovieLimits.h"
+#include "swf/VectorDefinition.h"
 #include "swf/clsSWFAdmin.h"
 #include "swf/tags/clsSWFTagDefineSprite.h"
 #include "swf/tags/clsSWFTagExport.h"
@@ -39,7 +41,7 @@ Long ReverseBytes(Long color) {
 
 /// Kinds whose definitions this generation can write.
 bool CanDefine(Long kind) {
-    return kind == KindBitmap || kind == KindSprite || kind == KindKoma;
+    return kind == KindBitmap || kind == KindVector || kind == KindSprite || kind == KindKoma;
 }
 
 bool IsPlaced(Long kind) {
@@ -64,24 +66,31 @@ struct Timeline {
     clsSWFAdmin& Admin;
     const Collection<clsLayer>& Layers;
     TimelineOrigin Origin;
-    bool blMain;
+    /// Frame of the movie that a sprite's definitions go into; 0 for the movie's own timeline.
+    Long SpriteFrame = 0;
+
+    bool IsMain() const { return SpriteFrame == 0; }
 };
 
 /// One build: defines symbols on first need and walks the timelines.
 class Authoring {
 public:
-    explicit Authoring(const MovieRequest& request) : request_(request) {}
+    Authoring(const MovieRequest& request, clsSWFAdmin& movie)
+        : request_(request), movie_(movie) {}
 
     void PreDefineFrameOne(clsSWFAdmin& admin);
     void DefineExports(clsSWFAdmin& admin, Long mode);
     void WriteTimeline(const Timeline& timeline);
 
 private:
-    Long EnsureDefined(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
+    /// `layer` is the one that shows the symbol, or null. The result is the last identifier.
+    Long EnsureDefined(clsSWFAdmin& admin, const clsLayer* layer, clsSymbolData& symbol,
+                       Long frame);
     Long DefineSymbol(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
     void DefineSpriteChildren(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long frame);
     std::vector<Long> DefineKomas(clsSWFAdmin& admin, const clsSymbolData& symbol, Long frame);
     void DefineBitmap(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
+    void DefineVector(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
     void DefineSprite(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
     void AddScalingGrid(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long id, Long frame);
     void AddExport(clsSWFAdmin& admin, const clsSymbolData& symbol, Long id, Long frame);
@@ -90,6 +99,11 @@ private:
     void WriteBackground(const Timeline& timeline, const clsLayer& layer);
     void WriteLabels(const Timeline& timeline, const clsLayer& layer);
     void PlaceLayer(const Timeline& timeline, Long index, Long depth);
+    void PlaceKomas(const Timeline& timeline, const clsLayer& layer,
+                    LayerPlacement::Character character);
+    LayerPlacement::DeformedCharacter Deform(const Timeline& timeline, const clsLayer& layer,
+                                             const clsLayerObject& start,
+                                             const clsLayerObject* end);
     bool IsGated(const clsLayer& layer) const;
     void LeaveOut(const clsLayer& layer);
     void LeaveOutKomas(const clsLayer& layer);
@@ -97,6 +111,7 @@ private:
     void ShowProgress(Long done, Long total) const;
 
     const MovieRequest& request_;
+    clsSWFAdmin& movie_;
     std::set<const clsLayer*> leftOut_;
     Long nesting_ = 0;
 };
@@ -111,11 +126,11 @@ void Authoring::PreDefineFrameOne(clsSWFAdmin& admin) {
         if (layer->Object(1)->StartFrame() != 1) continue;
         clsSymbolData& symbol = *layer->SymbolData();
         if (symbol.eType() != KindKoma) {
-            EnsureDefined(admin, symbol, 1);
+            EnsureDefined(admin, layer.get(), symbol, 1);
             continue;
         }
         const auto& komas = *symbol.Property<clsPropertyKoma>()->colKomas;
-        if (!komas.Empty()) EnsureDefined(admin, *komas(1), 1);
+        if (!komas.Empty()) EnsureDefined(admin, nullptr, *komas(1), 1);
     }
 }
 
@@ -128,19 +143,30 @@ void Authoring::DefineExports(clsSWFAdmin& admin, Long mode) {
                         u"」は書き出せません。\r\nこの種類のシンボルの生成には対応していません。");
             continue;
         }
-        EnsureDefined(admin, *symbol, symbol->blExportTop ? 1 : lateFrame);
+        const Long frame = symbol->blExportTop ? 1 : lateFrame;
+        if (symbol->eType() == KindVector) symbol->DefineNum = VectorForm::Clip;
+        if (symbol->DefineID() == 0) DefineSymbol(admin, *symbol, frame);
+        symbol->DefineNum = VectorForm::Plain;
     }
 }
 
-Long Authoring::EnsureDefined(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
-    if (symbol.DefineID() == 0) return DefineSymbol(admin, symbol, frame);
-    return symbol.DefineID();
+Long Authoring::EnsureDefined(clsSWFAdmin& admin, const clsLayer* layer, clsSymbolData& symbol,
+                              Long frame) {
+    if (const auto* drawing = symbol.Property<clsPropertyVector>()) {
+        if (layer == nullptr && drawing->MorphSymbol()) symbol.DefineNum = VectorForm::MorphStart;
+        if (layer != nullptr && layer->ClippingDepth != 0) symbol.DefineNum = VectorForm::Clip;
+    }
+    const Long id =
+        symbol.DefineID() == 0 ? DefineSymbol(admin, symbol, frame) : symbol.DefineID();
+    symbol.DefineNum = VectorForm::Plain;
+    return id;
 }
 
 Long Authoring::DefineSymbol(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
     if (nesting_ > DeepestNesting) return 0;
     ++nesting_;
     if (symbol.eType() == KindBitmap) DefineBitmap(admin, symbol, frame);
+    if (symbol.eType() == KindVector) DefineVector(admin, symbol, frame);
     if (symbol.eType() == KindSprite) {
         DefineSpriteChildren(admin, *symbol.Property<clsPropertySprite>(), frame);
         DefineSprite(admin, symbol, frame);
@@ -156,7 +182,7 @@ void Authoring::DefineSpriteChildren(clsSWFAdmin& admin, const clsPropertySprite
         if (layer->SymbolData()->eType() == KindKoma)
             DefineKomas(admin, *layer->SymbolData(), frame);
         else
-            EnsureDefined(admin, *layer->SymbolData(), frame);
+            EnsureDefined(admin, layer.get(), *layer->SymbolData(), frame);
     }
 }
 
@@ -164,7 +190,7 @@ std::vector<Long> Authoring::DefineKomas(clsSWFAdmin& admin, const clsSymbolData
                                          Long frame) {
     std::vector<Long> identifiers;
     for (const auto& koma : *symbol.Property<clsPropertyKoma>()->colKomas)
-        if (const Long id = EnsureDefined(admin, *koma, frame)) identifiers.push_back(id);
+        if (const Long id = EnsureDefined(admin, nullptr, *koma, frame)) identifiers.push_back(id);
     return identifiers;
 }
 
@@ -188,6 +214,12 @@ void Authoring::DefineBitmap(clsSWFAdmin& admin, clsSymbolData& symbol, Long fra
     AddExport(admin, symbol, exportPicture ? bitmapID : symbol.DefineID(), frame);
 }
 
+void Authoring::DefineVector(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
+    tamber::DefineVector({admin, movie_, frame}, symbol);
+    if (symbol.DefineNum == VectorForm::Clip && symbol.DefineID() != 0)
+        AddExport(admin, symbol, symbol.DefineID(), frame);
+}
+
 void Authoring::DefineSprite(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
     const clsPropertySprite& sprite = *symbol.Property<clsPropertySprite>();
     auto inner = std::make_shared<clsSWFAdmin>();
@@ -198,7 +230,7 @@ void Authoring::DefineSprite(clsSWFAdmin& admin, clsSymbolData& symbol, Long fra
     inner->colDefineObj(admin.colDefineObj());
     const TimelineOrigin origin{static_cast<Single>(sprite.baseX),
                                 static_cast<Single>(sprite.baseY)};
-    WriteTimeline({*inner, *sprite.colLayer, origin, false});
+    WriteTimeline({*inner, *sprite.colLayer, origin, frame});
 
     auto tag = std::make_shared<clsSWFTagDefineSprite>();
     tag->FrameCount = inner->FrameCount();
@@ -247,14 +279,14 @@ void Authoring::WriteTimeline(const Timeline& timeline) {
     Long depth = falling ? TopDepth : BottomDepth;
     for (Long i = 1; i <= count; ++i) {
         const Long index = falling ? i : count + 1 - i;
-        if (timeline.blMain) ShowProgress(i - 1, count);
+        if (timeline.IsMain()) ShowProgress(i - 1, count);
         const clsLayer& layer = *timeline.Layers(index);
         if (layer.Visible(true))
             WriteLayer(timeline, index, depth);
         else if (const clsLayerFolder* folder = falling ? layer.Folder() : nullptr)
             i += std::clamp(folder->LayerCount, 0, count - i);
     }
-    if (timeline.blMain) ShowProgress(count, count);
+    if (timeline.IsMain()) ShowProgress(count, count);
 }
 
 bool Authoring::IsGated(const clsLayer& layer) const {
@@ -334,7 +366,7 @@ void Authoring::WriteLayer(const Timeline& timeline, Long index, Long& depth) {
 }
 
 void Authoring::WriteBackground(const Timeline& timeline, const clsLayer& layer) {
-    if (layer.ObjectCount() == 0 || !timeline.blMain) return;
+    if (layer.ObjectCount() == 0 || !timeline.IsMain()) return;
     if (const auto* back = layer.Object(1)->ObjectAs<clsObjBackGround>())
         timeline.Admin.BackGroundColor = back->BackColor();
 }
@@ -343,7 +375,7 @@ void Authoring::WriteLabels(const Timeline& timeline, const clsLayer& layer) {
     for (const auto& object : layer.colObject) {
         const auto* label = object->ObjectAs<clsObjFrameLabel>();
         if (!object->blVisible || label == nullptr) continue;
-        const bool anchor = timeline.blMain && label->blAnchor;
+        const bool anchor = timeline.IsMain() && label->blAnchor;
         timeline.Admin.SetFrameLabel(object->StartFrame(), label->LabelName, anchor);
         if (anchor && request_.AnchorLabels != nullptr)
             request_.AnchorLabels->append(u"\t").append(label->LabelName);
@@ -358,19 +390,53 @@ void Authoring::PlaceLayer(const Timeline& timeline, Long index, Long depth) {
     character.ClippingDepth = ClipDepthOf(timeline.Layers, index, layer.ClippingDepth);
     character.Origin = timeline.Origin;
     if (symbol.eType() == KindKoma) {
-        LeaveOutKomas(layer);
-        const Long frame = timeline.Admin.FrameCount() == 1 ? 1 : 2;
-        std::vector<Long> identifiers = DefineKomas(timeline.Admin, symbol, frame);
-        if (identifiers.empty()) return;
-        character.Identifier = identifiers.front();
-        KomaTable table(symbol.Property<clsPropertyKoma>()->DispCount, std::move(identifiers));
-        character.Koma = &table;
-        LayerPlacement(timeline.Admin, layer, character).Run();
+        PlaceKomas(timeline, layer, character);
         return;
     }
     if (symbol.eType() == KindSprite) LeaveOutScripts(layer);
-    character.Identifier = EnsureDefined(timeline.Admin, symbol, 2);
-    if (character.Identifier != 0) LayerPlacement(timeline.Admin, layer, character).Run();
+    const Long last = EnsureDefined(timeline.Admin, &layer, symbol, 2);
+    if (last == 0) return;
+    if (symbol.eType() == KindVector) {
+        character.PlaceCount = layer.DepthCnt(false);
+        character.Deform = [&](const clsLayerObject& start, const clsLayerObject* end) {
+            return Deform(timeline, layer, start, end);
+        };
+    }
+    character.Identifier = last + 1 - character.PlaceCount;
+    LayerPlacement(timeline.Admin, layer, character).Run();
+}
+
+void Authoring::PlaceKomas(const Timeline& timeline, const clsLayer& layer,
+                           LayerPlacement::Character character) {
+    LeaveOutKomas(layer);
+    const Long frame = timeline.Admin.FrameCount() == 1 ? 1 : 2;
+    const clsSymbolData& symbol = *layer.SymbolData();
+    std::vector<Long> identifiers = DefineKomas(timeline.Admin, symbol, frame);
+    if (identifiers.empty()) return;
+    character.Identifier = identifiers.front();
+    KomaTable table(symbol.Property<clsPropertyKoma>()->DispCount, std::move(identifiers));
+    character.Koma = &table;
+    LayerPlacement(timeline.Admin, layer, character).Run();
+}
+
+/// Defines what a deformed key frame shows. It is divided where its layer has the depths.
+LayerPlacement::DeformedCharacter Authoring::Deform(const Timeline& timeline,
+                                                    const clsLayer& layer,
+                                                    const clsLayerObject& start,
+                                                    const clsLayerObject* end) {
+    const auto* from = start.ObjectAs<clsObjVector>();
+    const auto* to = end != nullptr ? end->ObjectAs<clsObjVector>() : nullptr;
+    const auto& record = *layer.SymbolData()->Property<clsPropertyVector>();
+    const DeformedVector deformed = DeformSymbol(*layer.SymbolData(), from, to);
+    auto& own = *deformed.Start->Property<clsPropertyVector>();
+    const bool wanted = record.blDivide || (from != nullptr && from->blDivide) ||
+                        (to != nullptr && to->blDivide);
+    own.blDivide = wanted && layer.DepthCnt(true) == own.ShapeCount();
+    if (layer.ClippingDepth != 0) deformed.Start->DefineNum = VectorForm::Clip;
+    const Long frame = timeline.IsMain() ? std::min(start.StartFrame(), 2) : timeline.SpriteFrame;
+    tamber::DefineVector({timeline.Admin, movie_, frame}, *deformed.Start);
+    const Long count = own.blDivide && layer.ClippingDepth == 0 ? own.ShapeCount() : 1;
+    return {deformed.Start->DefineID() + 1 - count, count};
 }
 
 bool Refuse(const String& why) {
@@ -413,11 +479,11 @@ bool BuildMovie(const MovieRequest& request) {
     admin.blCompress = request.blCompress;
     for (const auto& symbol : *request.Library) symbol->InitDefineID();
 
-    Authoring authoring(request);
+    Authoring authoring(request, admin);
     authoring.PreDefineFrameOne(admin);
     if (request.blExports)
         authoring.DefineExports(admin, request.blExportsInFrameTwo ? 2 : admin.FrameCount());
-    authoring.WriteTimeline({admin, *request.Layers, {}, true});
+    authoring.WriteTimeline({admin, *request.Layers, {}});
     if (admin.DefineID > MaxIdentifiers)
         return Refuse(u"シンボル数が多すぎます。\r\nSWFファイルは" + ToText(MaxIdentifiers) +
                       u"までです。");

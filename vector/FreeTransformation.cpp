@@ -1,8 +1,10 @@
 #include "vector/FreeTransformation.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "platform/rounding.h"
+#include "vector/VectorLimits.h"
 
 namespace tamber {
 
@@ -14,6 +16,11 @@ struct Point {
     Single X = 0;
     Single Y = 0;
 };
+
+Long Rounded(double value) {
+    if (std::isnan(value)) return 0;
+    return RoundToLong(std::clamp<double>(value, -MaxCoordinate, MaxCoordinate));
+}
 
 Single Share(Long part, Long whole) {
     return whole == 0 ? 0 : static_cast<Single>(part) / static_cast<Single>(whole);
@@ -39,19 +46,19 @@ Single Direction(Point from, Point to) {
 /// Where the line a-b meets the line c-d; the middle of a and b when they do not meet. Slopes and
 /// intercepts need more digits than a Single has: both grow large on lines that are nearly upright.
 SwfPoint Intersection(Point a, Point b, Point c, Point d) {
-    const SwfPoint middle{RoundToLong((a.X + b.X) / 2), RoundToLong((a.Y + b.Y) / 2)};
+    const SwfPoint middle{Rounded((a.X + b.X) / 2), Rounded((a.Y + b.Y) / 2)};
     if (a.X == b.X) {
         if (c.X == d.X) return middle;
         const double m2 = Slope(c, d);
-        return {RoundToLong(a.X), RoundToLong(a.X * m2 + (d.Y - d.X * m2))};
+        return {Rounded(a.X), Rounded(a.X * m2 + (d.Y - d.X * m2))};
     }
     const double m1 = Slope(a, b);
     const double c1 = b.Y - b.X * m1;
-    if (c.X == d.X) return {RoundToLong(c.X), RoundToLong(c.X * m1 + c1)};
+    if (c.X == d.X) return {Rounded(c.X), Rounded(c.X * m1 + c1)};
     const double m2 = Slope(c, d);
     if (m1 == m2) return middle;
     const double x = (c1 - (d.Y - d.X * m2)) / -(m1 - m2);
-    return {RoundToLong(x), RoundToLong(m1 * x + c1)};
+    return {Rounded(x), Rounded(m1 * x + c1)};
 }
 
 }  // namespace

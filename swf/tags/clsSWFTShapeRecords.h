@@ -14,7 +14,10 @@ struct ShapeBounds {
     Long YMax = std::numeric_limits<Long>::min();
 
     void Include(Long x, Long y, Long margin);
-    SwfRect Rectangle() const { return {XMin, YMin, XMax, YMax}; }
+    /// All 0 while there is no point.
+    SwfRect Rectangle() const {
+        return XMin > XMax ? SwfRect{} : SwfRect{XMin, YMin, XMax, YMax};
+    }
 };
 
 /// The records of a shape, built by drawing commands in absolute twips.

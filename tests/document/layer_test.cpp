@@ -227,7 +227,9 @@ TEST(Layer, WrapsASimpleActionInItsEvent) {
 TEST(Layer, CountsItsDepths) {
     auto layer = MakeLayer({{1, 1, false, true}, {2, 1}, {3, 1}}, KindVector);
     auto& drawing = *layer->SymbolData()->Property<clsPropertyVector>();
-    drawing.ShapeCount = 4;
+    auto artwork = std::make_shared<clsVectorData>();
+    artwork->colShapeData.resize(4);
+    drawing.inVector = artwork;
     EXPECT_EQ(layer->DepthCnt(true), 1);
     auto& bent = *layer->Object(2)->ObjectAs<clsObjVector>();
     bent.blDivide = true;
