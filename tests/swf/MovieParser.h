@@ -75,6 +75,16 @@ inline ParsedMovie ParseMovie(StringView path) {
     return movie;
 }
 
+/// Passes over a colour transform with alpha.
+inline void SkipColors() {
+    // It begins at a byte of its own.
+    mdlSWFTag::swfBytePos(mdlSWFTag::swfBytePos());
+    const Long add = mdlSWFTag::GetBits(1);
+    const Long mult = mdlSWFTag::GetBits(1);
+    const Long width = mdlSWFTag::GetBits(4);
+    for (Long i = 0; i < 4 * (add + mult); ++i) mdlSWFTag::GetBits(width);
+}
+
 inline ParsedPlace ParsePlace(const Bytes& body) {
     ParsedPlace place;
     mdlSWFTag::LoadBuffer(body);
@@ -82,7 +92,10 @@ inline ParsedPlace ParsePlace(const Bytes& body) {
     place.Depth = mdlSWFTag::GetUI(2);
     if ((place.Flags & 2) != 0) place.Character = mdlSWFTag::GetUI(2);
     if ((place.Flags & 4) != 0) place.Matrix = mdlSWFTag::GetMatrix();
-    if ((place.Flags & 8) == 0 && (place.Flags & 64) != 0) place.ClipDepth = mdlSWFTag::GetUI(2);
+    if ((place.Flags & 8) != 0) SkipColors();
+    if ((place.Flags & 16) != 0) place.Ratio = mdlSWFTag::GetUI(2);
+    if ((place.Flags & 32) != 0) mdlSWFTag::GetString(6, 0, false);
+    if ((place.Flags & 64) != 0) place.ClipDepth = mdlSWFTag::GetUI(2);
     return place;
 }
 
