@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "document/clsCSV.h"
@@ -19,9 +20,25 @@ class clsEdgingTable {
 public:
     std::vector<EdgingPoint> Points{{0, 0}, {1, 1}};
 
+    /// Adds a control point between those before and after it in time and returns its position in
+    /// the table. Values are limited to 0 to 1.
+    std::size_t InsertPoint(EdgingPoint point);
+    /// Moves a control point, at most as far in time as its neighbours. False for an end point.
+    bool MovePoint(std::size_t index, EdgingPoint point);
+    /// False for an end point.
+    bool RemovePoint(std::size_t index);
+    /// Back to the two end points.
+    void Reset();
+    /// Position of the control point nearest to `point`, end points left aside; nothing when none is
+    /// within `reach` in both time and progress.
+    std::optional<std::size_t> FindPoint(EdgingPoint point, EdgingPoint reach) const;
+
     void Load(clsCSV& csv);
     void Save(clsCSV& csv) const;
     bool operator==(const clsEdgingTable&) const = default;
+
+private:
+    bool IsControl(std::size_t index) const { return index > 0 && index + 1 < Points.size(); }
 };
 
 }  // namespace tamber

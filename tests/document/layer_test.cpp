@@ -340,5 +340,25 @@ TEST(Script, IsCutForAToolTip) {
     EXPECT_EQ(script.PrevScript(3, 8), u"a    &&...");
 }
 
+TEST(EdgingTable, IsEditedBetweenItsFixedEnds) {
+    clsEdgingTable table;
+    EXPECT_EQ(table.InsertPoint({0.5f, 2}), 1u);
+    EXPECT_EQ(table.InsertPoint({0.25f, 0.5f}), 1u);
+    EXPECT_EQ(table.InsertPoint({1, 0}), 3u);
+    EXPECT_EQ(table.Points,
+              (std::vector<EdgingPoint>{{0, 0}, {0.25f, 0.5f}, {0.5f, 1}, {1, 0}, {1, 1}}));
+    EXPECT_TRUE(table.MovePoint(1, {0.75f, -1}));
+    EXPECT_EQ(table.Points[1], (EdgingPoint{0.5f, 0}));
+    EXPECT_FALSE(table.MovePoint(0, {0.5f, 0.5f}));
+    EXPECT_FALSE(table.MovePoint(4, {0.5f, 0.5f}));
+    EXPECT_EQ(table.FindPoint({0.52f, 0.9f}, {0.05f, 0.2f}), 2u);
+    EXPECT_EQ(table.FindPoint({0, 0}, {0.05f, 0.2f}), std::nullopt);
+    EXPECT_FALSE(table.RemovePoint(4));
+    EXPECT_TRUE(table.RemovePoint(2));
+    EXPECT_EQ(table.Points.size(), 4u);
+    table.Reset();
+    EXPECT_EQ(table, clsEdgingTable());
+}
+
 }  // namespace
 }  // namespace tamber
