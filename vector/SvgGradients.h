@@ -1,0 +1,22 @@
+#pragma once
+
+#include "swf/tags/clsSWFTFillStyle.h"
+#include "vector/SvgDocument.h"
+#include "vector/SvgScanner.h"
+
+namespace tamber {
+
+/// Reads a gradient element, whose tag name was read last, to its end, and enters it under its id.
+void ReadSvgGradient(SvgDocument& document, SvgScanner& scanner, StringView name);
+
+/// The gradient that a fill such as "url(#id)" refers to; null when there is none.
+std::shared_ptr<clsSvgGradientData> FindSvgGradient(SvgDocument& document, StringView fill);
+
+/// Makes the fill of a shape; `bounds` is its extent before any transformation, `alpha` 0 to 255.
+/// A gradient without colours gives a style without an object.
+clsSWFTFillStyle MakeSvgGradientFill(const SvgDocument& document,
+                                     const clsSvgGradientData& gradient,
+                                     const SvgTransformation& transformation, const SwfRect& bounds,
+                                     Long alpha);
+
+}  // namespace tamber

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "vector/SvgDocument.h"
+
+namespace tamber {
+
+/// Enters the entities that the text declares between `from` and its root element, and returns the
+/// place behind their declaration, or `from` when there is none.
+std::size_t ReadSvgEntities(SvgDocument& document, std::size_t from);
+
+/// Enters, in one pass from `from` on, all that an id leads to: places of elements, and gradients.
+void ScanSvgIds(SvgDocument& document, std::size_t from);
+
+}  // namespace tamber

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <bitset>
+#include <vector>
+
+#include "platform/types.h"
+
+namespace tamber {
+
+/// What a drawing may use and the reader passes over.
+enum class SvgFeature {
+    Arc,
+    Text,
+    Image,
+    Circle,
+    Ellipse,
+    Clipping,
+    Mask,
+    Pattern,
+    Filter,
+    Marker,
+    StyleSheet,
+    Animation,
+    Script,
+    ForeignObject,
+    NestedSvg,
+    RoundedCorner,
+    SingleQuote,
+    StrokeGradient,
+    Dashes,
+    Hidden,
+    CurrentColor,
+    PlainHref,
+    AspectRatio,
+    JoinedDecimals,
+    Count,
+};
+
+/// Collects the names of features left out, each once, in the order met.
+class SvgLeftOut {
+public:
+    void Note(SvgFeature feature);
+    /// Notes what the name of an element that is not drawn stands for, if it leaves a gap.
+    void NoteElement(StringView name);
+    /// Notes an attribute or style item that has no effect here, unless its value is "none".
+    void NoteAttribute(StringView name, StringView value);
+
+    std::vector<String> Names;
+
+private:
+    std::bitset<static_cast<std::size_t>(SvgFeature::Count)> noted_;
+};
+
+}  // namespace tamber

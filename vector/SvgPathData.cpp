@@ -1,0 +1,172 @@
+#include "vector/SvgPathData.h"
+
+#include <array>
+
+#include "vector/SvgNumbers.h"
+
+namespace tamber {
+
+namespace {
+
+bool IsCommand(char16_t c) {
+    return StringView(u"MmLlHhVvCcSsQqTtAaZz").find(c) != StringView::npos;
+}
+
+class PathParser {
+public:
+    PathParser(StringView d, bool fill, SvgPen& pen, SvgLeftOut& leftOut)
+        : numbers_(d), fill_(fill), pen_(pen), leftOut_(leftOut) {}
+
+    void Parse() {
+        while (!numbers_.AtEnd()) {
+            const char16_t c = numbers_.Current();
+            if (IsCommand(c)) {
+                numbers_.Advance();
+                Begin(c);
+                continue;
+            }
+            const std::size_t before = numbers_.Position();
+            RunCommand();
+            if (numbers_.Position() == before) numbers_.Advance();
+        }
+        EndSubpath();
+        if (numbers_.Joined()) leftOut_.Note(SvgFeature::JoinedDecimals);
+    }
+
+private:
+    enum class Control { None, Cubic, Quadratic };
+
+    void Begin(char16_t c) {
+        relative_ = c >= u'a';
+        const auto command = static_cast<char16_t>(relative_ ? c - u'a' + u'A' : c);
+        if (command == u'M') EndSubpath();
+        command_ = command;
+        moved_ = false;
+        if (command == u'Z') Close();
+        if (command == u'A') leftOut_.Note(SvgFeature::Arc);
+        RunCommand();
+    }
+
+    /// Draws from the numbers at hand.
+    void RunCommand() {
+        while (Step()) {
+        }
+    }
+
+    /// Draws once; false when the numbers do not suffice.
+    bool Step() {
+        switch (command_) {
+            case u'M':
+                return Take(2) && MoveOrLine();
+            case u'L':
+                return Take(2) && Line(Point(0));
+            case u'H':
+                return Take(1) && Line({Shift(values_[0], current_.X), current_.Y});
+            case u'V':
+                return Take(1) && Line({current_.X, Shift(values_[0], current_.Y)});
+            case u'C':
+                return Take(6) && Cubic(Point(0), Point(2), Point(4));
+            case u'S':
+                return Take(4) && Cubic(Reflection(Control::Cubic), Point(0), Point(2));
+            case u'Q':
+                return Take(4) && Quadratic(Point(0), Point(2));
+            case u'T':
+                return Take(2) && Quadratic(Reflection(Control::Quadratic), Point(0));
+            case u'A':
+                control_ = Control::None;
+                return Take(1);
+            default:
+                return false;
+        }
+    }
+
+    bool Take(std::size_t count) {
+        for (std::size_t i = 0; i < count; ++i)
+            if (!numbers_.Next(values_[i])) return false;
+        return true;
+    }
+
+    Long Shift(Long value, Long from) const { return relative_ ? AddSvgTwips(value, from) : value; }
+    SwfPoint Point(std::size_t index) const {
+        return {Shift(values_[index], current_.X), Shift(values_[index + 1], current_.Y)};
+    }
+    SwfPoint Reflection(Control of) const {
+        if (control_ != of) return current_;
+        return {AddSvgTwips(current_.X, AddSvgTwips(current_.X, -last_.X)),
+                AddSvgTwips(current_.Y, AddSvgTwips(current_.Y, -last_.Y))};
+    }
+
+    bool MoveOrLine() {
+        if (moved_) return Line(Point(0));
+        moved_ = true;
+        start_ = current_ = Point(0);
+        control_ = Control::None;
+        pen_.MovePenTo(current_.X, current_.Y);
+        return true;
+    }
+    bool Line(SwfPoint to) {
+        current_ = to;
+        control_ = Control::None;
+        pen_.DrawLineTo(to.X, to.Y);
+        return true;
+    }
+    bool Cubic(SwfPoint control1, SwfPoint control2, SwfPoint to) {
+        pen_.DrawCubicTo(control1, control2, to);
+        return Curved(Control::Cubic, control2, to);
+    }
+    bool Quadratic(SwfPoint control, SwfPoint to) {
+        pen_.DrawCurveTo(control, to);
+        return Curved(Control::Quadratic, control, to);
+    }
+    bool Curved(Control kind, SwfPoint control, SwfPoint to) {
+        control_ = kind;
+        last_ = control;
+        current_ = to;
+        return true;
+    }
+
+    void Close() {
+        pen_.Close(true);
+        current_ = start_;
+        control_ = Control::None;
+    }
+    void EndSubpath() {
+        if (fill_ && command_ != 0 && command_ != u'Z') pen_.Close(false);
+        if (!numbers_.AtEnd()) pen_.TurnLineOn();
+    }
+
+    SvgNumberReader numbers_;
+    bool fill_;
+    SvgPen& pen_;
+    SvgLeftOut& leftOut_;
+    char16_t command_ = 0;
+    bool relative_ = false;
+    bool moved_ = false;
+    std::array<Long, 6> values_{};
+    SwfPoint current_;
+    SwfPoint start_;
+    Control control_ = Control::None;
+    SwfPoint last_;
+};
+
+}  // namespace
+
+void ParseSvgPathData(StringView d, bool fill, SvgPen& pen, SvgLeftOut& leftOut) {
+    PathParser(d, fill, pen, leftOut).Parse();
+}
+
+void DrawSvgPoints(StringView points, bool fill, bool polygon, SvgPen& pen, SvgLeftOut& leftOut) {
+    SvgNumberReader numbers(points);
+    Long x = 0;
+    Long y = 0;
+    for (bool first = true; numbers.Next(x) && numbers.Next(y); first = false) {
+        if (first)
+            pen.MovePenTo(x, y);
+        else
+            pen.DrawLineTo(x, y);
+    }
+    if (fill) pen.Close(polygon);
+    if (numbers.Joined()) leftOut.Note(SvgFeature::JoinedDecimals);
+}
+
+}  // namespace tamber

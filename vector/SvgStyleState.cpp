@@ -1,0 +1,111 @@
+#include "vector/SvgStyleState.h"
+
+#include <algorithm>
+
+#include "platform/rounding.h"
+#include "vector/SvgColors.h"
+#include "vector/SvgNumbers.h"
+
+namespace tamber {
+
+namespace {
+
+constexpr Long MiterOne = 256;
+/// A miter limit takes 16 bits.
+constexpr Single MostMiter = 255;
+
+Long CapOf(StringView name) {
+    if (name == u"round") return 0;
+    return name == u"square" ? 2 : 1;
+}
+
+Long JoinOf(StringView name) {
+    if (name == u"round") return 0;
+    return name == u"bevel" ? 1 : 2;
+}
+
+void SplitItems(StringView style, const std::function<void(const SvgAttribute&)>& take) {
+    while (!style.empty()) {
+        const std::size_t end = std::min(style.find(u';'), style.size());
+        const StringView item = style.substr(0, end);
+        const std::size_t colon = item.find(u':');
+        if (colon != StringView::npos)
+            take({TrimSvgSpace(item.substr(0, colon)), TrimSvgSpace(item.substr(colon + 1))});
+        style.remove_prefix(std::min(end + 1, style.size()));
+    }
+}
+
+}  // namespace
+
+void ForEachSvgStyleItem(StringView style, SvgDocument& document,
+                         const std::function<void(const SvgAttribute&)>& take) {
+    style = TrimSvgSpace(style);
+    while (style.starts_with(u'&')) {
+        const std::size_t end = style.find(u';');
+        if (end == StringView::npos) return;
+        if (const auto* value = document.FindId<StringView>(style.substr(1, end - 1))) {
+            SvgBudget::Spend(document.Budget.Repeats, value->size());
+            SplitItems(*value, take);
+        }
+        style = TrimSvgSpace(style.substr(end + 1));
+    }
+    SplitItems(style, take);
+}
+
+Long SvgShare(StringView text, Long whole) {
+    const Single share = ParseSvgLengthPercent(text) * static_cast<Single>(whole);
+    return RoundToLong(std::clamp(share, 0.0f, 255.0f));
+}
+
+bool SvgStyleState::ApplyPaint(const SvgAttribute& item, SvgLeftOut& leftOut) {
+    const bool fill = item.Name == u"fill";
+    if (!fill && item.Name != u"stroke") return false;
+    const bool reference = item.Value.starts_with(u"url");
+    if (item.Value == u"currentColor") leftOut.Note(SvgFeature::CurrentColor);
+    if (fill) FillText = item.Value;
+    if (!fill && reference) leftOut.Note(SvgFeature::StrokeGradient);
+    if (fill && reference) return true;
+    Long& color = fill ? FillColor : StrokeColor;
+    color = item.Value == u"none" ? NoColor : ParseSvgColor(item.Value);
+    return true;
+}
+
+bool SvgStyleState::ApplyLine(const SvgAttribute& item) {
+    if (item.Name == u"stroke-width")
+        StrokeWidth = ParseSvgLength(item.Value);
+    else if (item.Name == u"stroke-linecap")
+        LineCap = CapOf(item.Value);
+    else if (item.Name == u"stroke-linejoin")
+        LineJoin = JoinOf(item.Value);
+    else if (item.Name == u"stroke-miterlimit")
+        MiterLimit =
+            RoundToLong(std::clamp(ParseSvgNumber(item.Value), 0.0f, MostMiter) * MiterOne);
+    else
+        return false;
+    return true;
+}
+
+bool SvgStyleState::ApplyOpacity(const SvgAttribute& item) {
+    if (item.Name == u"opacity")
+        Opacity = SvgShare(item.Value, Opacity);
+    else if (item.Name == u"fill-opacity")
+        FillOpacity = SvgShare(item.Value, FillOpacity);
+    else if (item.Name == u"stroke-opacity")
+        StrokeOpacity = SvgShare(item.Value, StrokeOpacity);
+    else
+        return false;
+    return true;
+}
+
+void SvgStyleState::Apply(const SvgAttribute& attribute, SvgDocument& document) {
+    const auto apply = [&](const SvgAttribute& item) {
+        if (!ApplyPaint(item, document.LeftOut) && !ApplyLine(item) && !ApplyOpacity(item))
+            document.LeftOut.NoteAttribute(item.Name, item.Value);
+    };
+    if (attribute.Name == u"style")
+        ForEachSvgStyleItem(attribute.Value, document, apply);
+    else
+        apply(attribute);
+}
+
+}  // namespace tamber

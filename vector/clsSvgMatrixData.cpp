@@ -1,0 +1,154 @@
+#include "vector/clsSvgMatrixData.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "platform/rounding.h"
+#include "vector/SvgBudget.h"
+#include "vector/SvgNumbers.h"
+#include "vector/SvgScanner.h"
+
+namespace tamber {
+
+namespace {
+
+constexpr double Pi = 3.14159265358979;
+
+using Arguments = std::vector<Single>;
+
+/// Numbers separated by white space and commas; a letter of an exponent in front is passed over.
+Arguments SplitArguments(StringView text) {
+    const auto separates = [](char16_t c) { return IsSvgSpace(c) || c == u','; };
+    Arguments arguments;
+    for (std::size_t at = 0; at < text.size();) {
+        if (separates(text[at])) {
+            ++at;
+            continue;
+        }
+        std::size_t end = at;
+        while (end < text.size() && !separates(text[end])) ++end;
+        while (at < end && (text[at] == u'E' || text[at] == u'e')) ++at;
+        arguments.push_back(ParseSvgNumber(text.substr(at, end - at)));
+        at = end;
+    }
+    return arguments;
+}
+
+Single Radians(Single degrees) {
+    return static_cast<Single>(static_cast<double>(degrees) * Pi / 180);
+}
+
+void AddTranslation(StringView arguments, SvgMatrixList& matrices) {
+    const std::vector<Long> shift = ParseSvgNumberList(arguments);
+    if (shift.empty()) return;
+    clsSvgMatrixData matrix;
+    matrix.sftX = shift[0];
+    if (shift.size() > 1) matrix.sftY = shift[1];
+    matrices.push_back(matrix);
+}
+
+void AddScale(const Arguments& scale, SvgMatrixList& matrices) {
+    if (scale.empty()) return;
+    clsSvgMatrixData matrix;
+    matrix.ScaleX = scale[0];
+    matrix.ScaleY = scale.size() > 1 ? scale[1] : scale[0];
+    if (matrix.ScaleX != 1 || matrix.ScaleY != 1) matrices.push_back(matrix);
+}
+
+void AddRotation(const Arguments& rotation, SvgMatrixList& matrices) {
+    if (rotation.empty()) return;
+    const Single angle = Radians(rotation[0]);
+    clsSvgMatrixData matrix;
+    matrix.ScaleX = matrix.ScaleY = std::cos(angle);
+    matrix.Skew0 = std::sin(angle);
+    matrix.Skew1 = -matrix.Skew0;
+    if (rotation.size() >= 3) {
+        const Single cx = rotation[1];
+        const Single cy = rotation[2];
+        matrix.sftX = ToSvgTwips((cx - (matrix.ScaleX * cx + matrix.Skew1 * cy)) * TwipsPerPixel);
+        matrix.sftY = ToSvgTwips((cy - (matrix.Skew0 * cx + matrix.ScaleY * cy)) * TwipsPerPixel);
+    }
+    matrices.push_back(matrix);
+}
+
+void AddSkew(const Arguments& skew, Single clsSvgMatrixData::*field, SvgMatrixList& matrices) {
+    if (skew.empty()) return;
+    clsSvgMatrixData matrix;
+    matrix.*field = std::tan(Radians(skew[0]));
+    matrices.push_back(matrix);
+}
+
+void AddMatrix(const Arguments& m, SvgMatrixList& matrices) {
+    if (m.size() < 6) return;
+    matrices.push_back({m[0], m[3], m[1], m[2], ToSvgTwips(m[4] * TwipsPerPixel),
+                        ToSvgTwips(m[5] * TwipsPerPixel)});
+}
+
+void AddTransform(StringView name, StringView text, SvgMatrixList& matrices) {
+    if (name == u"translate") return AddTranslation(text, matrices);
+    const Arguments arguments = SplitArguments(text);
+    if (name == u"scale") AddScale(arguments, matrices);
+    if (name == u"rotate") AddRotation(arguments, matrices);
+    if (name == u"skewX") AddSkew(arguments, &clsSvgMatrixData::Skew1, matrices);
+    if (name == u"skewY") AddSkew(arguments, &clsSvgMatrixData::Skew0, matrices);
+    if (name == u"matrix") AddMatrix(arguments, matrices);
+}
+
+struct SinglePoint {
+    Single X;
+    Single Y;
+};
+
+SinglePoint Apply(const SvgMatrixList& matrices, SinglePoint point) {
+    for (const clsSvgMatrixData& m : matrices) {
+        const Single x = m.ScaleX * point.X + m.Skew1 * point.Y + static_cast<Single>(m.sftX);
+        const Single y = m.Skew0 * point.X + m.ScaleY * point.Y + static_cast<Single>(m.sftY);
+        point = {x, y};
+    }
+    return point;
+}
+
+}  // namespace
+
+void ParseTransformList(StringView text, SvgMatrixList& matrices) {
+    while (true) {
+        const std::size_t open = text.find(u'(');
+        if (open == StringView::npos) return;
+        const std::size_t close = text.find(u')', open);
+        if (close == StringView::npos) return;
+        StringView name = TrimSvgSpace(text.substr(0, open));
+        while (name.starts_with(u',')) name = TrimSvgSpace(name.substr(1));
+        AddTransform(name, text.substr(open + 1, close - open - 1), matrices);
+        SvgBudget::Check(matrices.size() <= SvgBudget::MostMatrices);
+        text.remove_prefix(close + 1);
+    }
+}
+
+SwfPoint SvgTransformation::MapPoint(Long x, Long y) const {
+    const SinglePoint own = Apply(Own, {static_cast<Single>(x), static_cast<Single>(y)});
+    const SinglePoint point = Apply(Around, own);
+    return {ToSvgTwips(point.X), ToSvgTwips(point.Y)};
+}
+
+Single SvgTransformation::WidthScale() const {
+    SvgAffine whole;
+    whole.Then(Own);
+    whole.Then(Around);
+    return static_cast<Single>(std::hypot(whole.A, whole.C) + std::hypot(whole.B, whole.D));
+}
+
+void SvgAffine::Then(const clsSvgMatrixData& next) {
+    const SvgAffine before = *this;
+    A = next.ScaleX * before.A + next.Skew1 * before.B;
+    C = next.ScaleX * before.C + next.Skew1 * before.D;
+    E = next.ScaleX * before.E + next.Skew1 * before.F + next.sftX;
+    B = next.Skew0 * before.A + next.ScaleY * before.B;
+    D = next.Skew0 * before.C + next.ScaleY * before.D;
+    F = next.Skew0 * before.E + next.ScaleY * before.F + next.sftY;
+}
+
+void SvgAffine::Then(const SvgMatrixList& list) {
+    for (const clsSvgMatrixData& matrix : list) Then(matrix);
+}
+
+}  // namespace tamber

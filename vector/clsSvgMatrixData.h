@@ -1,0 +1,53 @@
+#pragma once
+
+#include <vector>
+
+#include "swf/mdlSWFTag.h"
+
+namespace tamber {
+
+/// One affine transformation of twips.
+struct clsSvgMatrixData {
+    Single ScaleX = 1;
+    Single ScaleY = 1;
+    Single Skew0 = 0;  ///< y from x
+    Single Skew1 = 0;  ///< x from y
+    Long sftX = 0;     ///< twips
+    Long sftY = 0;
+};
+
+/// Transformations in the order in which they are applied.
+using SvgMatrixList = std::vector<clsSvgMatrixData>;
+
+/// Appends what a `transform` attribute names.
+void ParseTransformList(StringView text, SvgMatrixList& matrices);
+
+/// The way of a point from a drawing element to the stage: first through the element's own
+/// transformations, then through those around it.
+struct SvgTransformation {
+    const SvgMatrixList& Own;
+    const SvgMatrixList& Around;
+
+    SwfPoint MapPoint(Long x, Long y) const;
+    /// Sum of the scales along both axes, 2 where nothing is scaled.
+    Single WidthScale() const;
+};
+
+/// Transformations merged into one.
+struct SvgAffine {
+    struct Point {
+        double X = 0;
+        double Y = 0;
+    };
+
+    double A = 1, B = 0, C = 0, D = 1;
+    double E = 0, F = 0;
+
+    Point Map(Point p) const { return {A * p.X + C * p.Y + E, B * p.X + D * p.Y + F}; }
+    Point MapVector(Point p) const { return {A * p.X + C * p.Y, B * p.X + D * p.Y}; }
+    /// Adds a transformation that comes after those merged so far.
+    void Then(const clsSvgMatrixData& next);
+    void Then(const SvgMatrixList& list);
+};
+
+}  // namespace tamber
