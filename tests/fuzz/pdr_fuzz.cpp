@@ -1,0 +1,8 @@
+#include "tests/fuzz/vector_fuzz.h"
+#include "vector/PdrReader.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    tamber::clsVector vector;
+    if (tamber::ReadPdrBytes({data, size}, vector)) tamber::test::SaveArtwork(vector);
+    return 0;
+}
