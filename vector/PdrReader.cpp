@@ -1,5 +1,7 @@
 #include "vector/PdrReader.h"
 
+#include <limits>
+#include <memory>
 #include <unordered_map>
 
 #include "platform/RuntimeError.h"

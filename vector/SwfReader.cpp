@@ -1,6 +1,8 @@
 #include "vector/SwfReader.h"
 
 #include <algorithm>
+#include <optional>
+#include <unordered_map>
 
 #include "platform/RuntimeError.h"
 #include "platform/files.h"
