@@ -64,25 +64,28 @@ def position():
     return layer(RED, key(1, 2, 30, 20), key(3, 1, 110.5, 70))
 
 
-write("position", 6, position())
-write("swf4", 4, position())
-write("swf8-compressed", 8, position())
-write("swf8-plain", 8, position())
-write("size", 6, layer(GREEN, key(1, 1, 100, 75, offset=(20, 10), scale=(2, 3)), key(2, 1, 100, 75, offset=(20, 10), angle=90)))
-write("order", 6, layer(RED, key(1, 1, 50, 50)), layer(BLUE, key(1, 1, 70, 60)), background(255, 240, 200))
-write("colour", 6, layer(BLUE, key(1, 1, 10, 10, bright=50)), layer(RED, key(1, 1, 60, 10, opacity=50)),
-      layer(GREEN, key(1, 1, 110, 10, bright=-100)))
-write("path", 6, layer(RED, key(1, 10, 10, 10, tween=True, path=[(False, 80, 150)]), key(11, 1, 150, 10)))
-write("easing", 6, layer(RED, key(1, 10, 10, 10, tween=True, curve=[(0.5, 1)]), key(11, 1, 150, 10)),
-      layer(BLUE, key(1, 10, 10, 100, tween=True, easing=200), key(11, 1, 150, 100)))
-write("growing", 6, layer(BLUE, key(1, 10, 10, 20, tween=True, opacity=100), key(11, 1, 50, 40, scale=(3, 2), opacity=0)))
-write("mask", 6, layer(BLUE, key(1, 1, 100, 20)), layer(RED, key(1, 1, 20, 20)), layer(GREEN, key(1, 1, 30, 30), mask=1))
-
-
 def effects():
     shadow = {"DropShadow": "255,0,0,100,0,0,0,10,1,False,False,True,1"}
     return [layer(RED, key(1, 1, 20, 20, filters=shadow)), layer(YELLOW, key(1, 1, 100, 30, blend=3)), layer(CYAN, key(1, 1, 120, 50))]
 
 
-write("effects", 8, *effects())
-write("effects-swf6", 6, *effects())
+def write_all():
+    write("position", 6, position())
+    write("swf4", 4, position())
+    write("swf8-compressed", 8, position())
+    write("swf8-plain", 8, position())
+    write("size", 6, layer(GREEN, key(1, 1, 100, 75, offset=(20, 10), scale=(2, 3)), key(2, 1, 100, 75, offset=(20, 10), angle=90)))
+    write("order", 6, layer(RED, key(1, 1, 50, 50)), layer(BLUE, key(1, 1, 70, 60)), background(255, 240, 200))
+    write("colour", 6, layer(BLUE, key(1, 1, 10, 10, bright=50)), layer(RED, key(1, 1, 60, 10, opacity=50)),
+          layer(GREEN, key(1, 1, 110, 10, bright=-100)))
+    write("path", 6, layer(RED, key(1, 10, 10, 10, tween=True, path=[(False, 80, 150)]), key(11, 1, 150, 10)))
+    write("easing", 6, layer(RED, key(1, 10, 10, 10, tween=True, curve=[(0.5, 1)]), key(11, 1, 150, 10)),
+          layer(BLUE, key(1, 10, 10, 100, tween=True, easing=200), key(11, 1, 150, 100)))
+    write("growing", 6, layer(BLUE, key(1, 10, 10, 20, tween=True, opacity=100), key(11, 1, 50, 40, scale=(3, 2), opacity=0)))
+    write("mask", 6, layer(BLUE, key(1, 1, 100, 20)), layer(RED, key(1, 1, 20, 20)), layer(GREEN, key(1, 1, 30, 30), mask=1))
+    write("effects", 8, *effects())
+    write("effects-swf6", 6, *effects())
+
+
+if __name__ == "__main__":
+    write_all()
