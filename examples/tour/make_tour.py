@@ -46,12 +46,53 @@ def draw_pictures():
         return index
 
     write_png("玉.png", 40, 40, ball)
-    write_png("窓.png", 120, 110, lambda x, y: (0, 0, 0, 255))
     write_jpeg("海.jpg", 200, 140, sea)
     write_bmp("床.bmp", 400, 60, lambda x, y: (200, 170, 120) if (x // 20 + y // 20) % 2 else (150, 110, 70))
     palette = [[0, 0, 0], [60, 60, 70], [220, 60, 50], [230, 230, 210]]
     for number, turn in enumerate((0, 20, 40), 1):
         write_gif(f"車輪{number}.gif", 32, 32, palette, wheel(turn))
+
+
+def write_svg(name, width, height, body):
+    head = f'<svg xmlns="http://www.w3.org/2000/svg" width="{width}" height="{height}">'
+    Path(name).write_text(f'<?xml version="1.0" encoding="UTF-8"?>\n{head}\n{body}\n</svg>\n', encoding="utf-8")
+
+
+def star(radius_of):
+    """A closed curve of sixteen quadratics round (40, 40); radius_of tells how far each point lies out."""
+    def point(step):
+        angle = math.pi * step / 16 - math.pi / 2
+        return f"{40 + radius_of(step) * math.cos(angle):.2f} {40 + radius_of(step) * math.sin(angle):.2f}"
+    return f"M{point(0)} " + " ".join(f"Q{point(step)} {point(step + 1)}" for step in range(1, 32, 2)) + " Z"
+
+
+def draw_vectors():
+    round_window = "M60 0 C93 0 120 25 120 55 C120 85 93 110 60 110 C27 110 0 85 0 55 C0 25 27 0 60 0 Z"
+    write_svg("丸窓.svg", 120, 110, f'<path d="{round_window}" fill="#000000"/>')
+    write_svg("花.svg", 80, 80, f'<path d="{star(lambda step: 46 if step % 2 else 28)}" fill="#e0508c"/>')
+    write_svg("星.svg", 80, 80, f'<path d="{star(lambda step: 38 if step % 8 == 0 else 16)}" fill="#ffc814"/>')
+    write_svg("旗.svg", 60, 80, '<rect x="0" y="0" width="4" height="80" fill="#604020"/>'
+              '<path d="M4 4 L60 4 L60 40 L4 40 Z" fill="#ffffff" stroke="#c0c0c0" stroke-width="1"/>'
+              '<path d="M32 10 C38.6 10 44 15.4 44 22 C44 28.6 38.6 34 32 34 C25.4 34 20 28.6 20 22 C20 15.4 25.4 10 32 10 Z" fill="#d01030"/>')
+    gradient = ('<defs><linearGradient id="wall" x1="0" y1="0" x2="0" y2="1"><stop offset="0" stop-color="#fff4d8"/>'
+                '<stop offset="1" stop-color="#e0b070"/></linearGradient></defs>')
+    write_svg("家.svg", 80, 80, gradient + '<rect x="10" y="30" width="60" height="46" fill="url(#wall)"/>'
+              '<path d="M0 36 L40 4 L80 36 Z" fill="#b04030"/>'
+              '<rect x="16" y="44" width="18" height="16" fill="#80c0ff" stroke="#604020" stroke-width="2"/>'
+              '<rect x="46" y="46" width="16" height="30" fill="#604020"/>')
+
+
+VECTOR = "False,False,0,0,0,0,0,0,0,0,False,False,False,0,0,1024"
+UPRIGHT = ["False,0,0,0,0,0,0,0,0,False"]
+
+
+def vector(number, name, options=VECTOR):
+    return f"{number},{name},ﾍﾞｸﾀ,,,,{options}"
+
+
+def bent(*corners):
+    """The tail of a vector element whose corners lie elsewhere: pixels, from top left clockwise."""
+    return ["True," + ",".join(str(round(value * 20)) for point in corners for value in point) + ",False"]
 
 
 def bitmap(number, name, options="False,0,0,0,False,CR,100,False,70", linkage=",,"):
@@ -95,18 +136,24 @@ def timeline(*layers):
 
 
 def project():
-    ball, window, sea, floor, wheel1, wheel2, wheel3, wheel, cart = range(1, 10)
+    ball, sea, floor, wheel1, wheel2, wheel3, wheel, cart, window, flower, yellow_star, flag, house = range(1, 14)
     symbols = [
-        "100,,Sﾌｫﾙﾀﾞ,,,,絵,7,True",
+        "100,,Sﾌｫﾙﾀﾞ,,,,絵,6,True",
         bitmap(ball, "玉.png", linkage="ball,,ExportTop"),
-        bitmap(window, "窓.png"),
         bitmap(sea, "海.jpg", "False,0,0,0,False,CR,100,True,60"),
         bitmap(floor, "床.bmp"),
-        *(bitmap(number, f"車輪{number - 4}.gif") for number in (wheel1, wheel2, wheel3)),
+        *(bitmap(number, f"車輪{number - 3}.gif") for number in (wheel1, wheel2, wheel3)),
         f"{wheel},,ｺﾏ動画,,,,車輪,2",
         f"{cart},,ｽﾌﾟﾗｲﾄ,,,,荷車,100,60,50,60,False,0,0,0,0",
+        "101,,Sﾌｫﾙﾀﾞ,,,,図形,5,True",
+        vector(window, "丸窓.svg"),
+        vector(flower, "花.svg"),
+        vector(yellow_star, "星.svg"),
+        vector(flag, "旗.svg"),
+        vector(house, "家.svg", "True" + VECTOR.removeprefix("False")),
     ]
-    koma_row = "6,7,8"
+    # Positions in the library: the pictures of the wheel, then what each drawing morphs into.
+    references = ["5,6,7", "0", "13", "0", "0", "0"]
     cart_layers = timeline(
         layer(wheel, "左の車輪", key(1, 6, placement(18, 44, offset=(16, 16)))),
         layer(wheel, "右の車輪", key(1, 6, placement(82, 44, offset=(16, 16)))),
@@ -124,14 +171,23 @@ def project():
         layer(ball, "影の玉", key(1, 80, placement(320, 150, offset=(20, 20), opacity=60, blend=3))),
         layer(cart, "荷車", key(1, 80, placement(-40, 244, tail=PLACED_SPRITE, easing=-120), tween=True),
               key(81, 1, placement(440, 244, tail=PLACED_SPRITE)), instance="cart"),
+        layer(flower, "花から星", key(1, 50, placement(20, 20, tail=UPRIGHT), tween=True),
+              key(51, 31, placement(70, 30, tail=UPRIGHT))),
+        layer(flag, "旗",
+              key(1, 20, placement(330, 165, tail=UPRIGHT), tween=True),
+              key(21, 20, placement(330, 165, tail=bent((4, -8), (70, 10), (56, 84), (0, 80))), tween=True),
+              key(41, 40, placement(330, 165, tail=UPRIGHT), tween=True),
+              key(81, 1, placement(330, 165, tail=bent((6, 6), (64, -10), (66, 76), (0, 80))))),
+        layer(house, "家", key(1, 81, placement(30, 164, tail=UPRIGHT))),
         layer(sea, "海",
               key(1, 80, placement(150, -20, skew=0), tween=True), key(81, 1, placement(210, 0, skew=15))),
-        layer(window, "窓", key(1, 81, placement(200, 10)), mask=1),
+        layer(window, "丸窓", key(1, 81, placement(200, 10, tail=UPRIGHT)), mask=1),
         layer(floor, "床", key(1, 81, placement(0, 240))),
         [f"{BACKGROUND},,,0,,{SCRIPT},True,1", "1,1,True,False,True,250,240,230"],
     )
-    return ["KVF,0,9,0", "400,300,24,8", str(len(symbols)), *symbols, koma_row, *cart_layers, *main]
+    return ["KVF,0,9,0", "400,300,24,8", str(len(symbols)), *symbols, *references, *cart_layers, *main]
 
 
 draw_pictures()
+draw_vectors()
 Path("tour.kvf").write_bytes("".join(row + "\r\n" for row in project()).encode("cp932"))
