@@ -3,6 +3,6 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     tamber::clsVector vector;
-    if (tamber::ReadPdrBytes({data, size}, vector)) tamber::test::SaveArtwork(vector);
+    if (tamber::ReadPdrBytes({data, size}, vector)) tamber::test::UseArtwork(vector, size);
     return 0;
 }
