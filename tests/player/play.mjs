@@ -1,7 +1,7 @@
 #!/usr/bin/env node
-// Generates the movie of every case and looks at it in a real player.
+// Generates the movie of every case and looks at it in a real player; then compares drawings with another renderer.
 //
-//   node play.mjs TAMBER MODULES OUTPUT [CASE...]
+//   node play.mjs TAMBER MODULES OUTPUT [CASE... | drawings]
 //
 // TAMBER is the program, MODULES the folder with node_modules, OUTPUT where movies and the pictures of all looked-at
 // frames go. Exit status 0 when all is as expected, 1 when not.
@@ -13,6 +13,7 @@ import { inflateSync } from 'node:zlib';
 import { Stage } from './stage.mjs';
 import { differences } from './expect.mjs';
 import { movingSquare } from './swf-by-hand.mjs';
+import { compareDrawing, drawings, loadDrawings, movieOfDrawings } from './drawings.mjs';
 
 const casesFolder = path.join(path.dirname(fileURLToPath(import.meta.url)), 'cases');
 
@@ -73,6 +74,16 @@ async function checkCase(stage, tamber, name, output) {
   return [...headerDifferences(movie, description), ...await look(stage, movie, description, path.join(output, name))];
 }
 
+async function checkDrawings(stage, tamber, output, report) {
+  const folder = path.join(output, 'drawings');
+  await report('drawings', async () => {
+    await loadDrawings(stage, movieOfDrawings(tamber, folder));
+    return [];
+  });
+  for (const [index, name] of drawings.entries())
+    await report(`drawing ${name}`, () => compareDrawing(stage, index, folder));
+}
+
 async function main([tamber, modules, output, ...chosen]) {
   if (!output) {
     console.error('usage: node play.mjs TAMBER MODULES OUTPUT [CASE...]');
@@ -95,7 +106,9 @@ async function main([tamber, modules, output, ...chosen]) {
   };
   try {
     await report('(the runner itself)', () => checkRunner(stage, output));
-    for (const name of names) await report(name, () => checkCase(stage, path.resolve(tamber), name, output));
+    for (const name of names.filter((name) => name !== 'drawings'))
+      await report(name, () => checkCase(stage, path.resolve(tamber), name, output));
+    if (!chosen.length || chosen.includes('drawings')) await checkDrawings(stage, path.resolve(tamber), output, report);
   } finally {
     await stage.close();
   }
