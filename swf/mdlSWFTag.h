@@ -1,5 +1,7 @@
 #pragma once
 
+#include <bit>
+#include <cstring>
 #include <memory>
 
 #include "platform/types.h"
@@ -78,6 +80,41 @@ void SetBytes(Long byteCount, Long value);
 void SetByteArray(ByteView bytes);
 /// The low `bitCount` bits of `value`, most significant first; 1 to 32, else error 0x80040000.
 void SetBits(Long bitCount, Long value);
+/// Writes many bit fields in a row, with the stream's state at hand until its end. Nothing else may
+/// write meanwhile.
+class BitRun {
+public:
+    /// Makes room for `maxBits` bits.
+    explicit BitRun(std::size_t maxBits) : state_(Begin(maxBits)) {}
+    ~BitRun() { End(state_); }
+    BitRun(const BitRun&) = delete;
+    BitRun& operator=(const BitRun&) = delete;
+
+    /// Fields put side by side: 1 to 56 bits, higher ones 0.
+    void Put(Long bitCount, std::uint64_t value) {
+        state_.Pending = state_.Pending << bitCount | value;
+        state_.Count += bitCount;
+        std::uint64_t bytes = state_.Pending << (64 - state_.Count);
+        if constexpr (std::endian::native == std::endian::little)
+            bytes = __builtin_bswap64(bytes);
+        std::memcpy(state_.Target, &bytes, sizeof bytes);
+        state_.Target += state_.Count >> 3;
+        state_.Count &= 7;
+    }
+
+private:
+    /// Passed by value, so that a compiler keeps it in registers.
+    struct State {
+        Byte* Target;
+        std::uint64_t Pending;
+        Long Count;
+    };
+    static State Begin(std::size_t maxBits);
+    static void End(State state);
+
+    State state_;
+};
+
 /// Four bytes of a float, little-endian.
 void SetFloat(Single value);
 /// The text in the ANSI code page, or in UTF-8 from version 6 on where allowed.

@@ -1,13 +1,15 @@
 #include "swf/tags/clsSWFTShapeRecord.h"
 
 #include <algorithm>
+#include <bit>
 
 namespace tamber {
 
 namespace {
 
-constexpr Long MinEdgeBits = 3;
 constexpr Long MaxEdgeBits = 17;
+/// Bits of the longest edge record.
+constexpr std::size_t LongestEdge = 6 + 4 * 32;
 
 Long ClampDelta(Long delta, Long width) {
     if (width < MaxEdgeBits) return delta;
@@ -17,6 +19,61 @@ Long ClampDelta(Long delta, Long width) {
 /// Difference of two places, wrapped as the 32-bit stream holds it.
 Long Delta(Long to, Long from) {
     return static_cast<Long>(static_cast<std::uint32_t>(to) - static_cast<std::uint32_t>(from));
+}
+
+/// Bits that a number has beside its sign; those of several are joined by "or".
+std::uint32_t Magnitude(Long value) {
+    return static_cast<std::uint32_t>(value ^ (value >> 31));
+}
+
+/// Width of the fields of an edge: at least 3, which the second bit stands for.
+Long EdgeWidth(std::uint32_t magnitudes) {
+    return static_cast<Long>(std::bit_width(magnitudes | 2u)) + 1;
+}
+
+std::uint64_t Field(Long value, Long width) {
+    return static_cast<std::uint32_t>(value) & ((std::uint64_t{1} << width) - 1);
+}
+
+inline void SaveEdge(const clsSWFTShapeStraightEdge& edge, ShapePen& pen,
+                     mdlSWFTag::BitRun& run) {
+    const Long dx = Delta(edge.DrawX, pen.X);
+    const Long dy = Delta(edge.DrawY, pen.Y);
+    const Long width = std::min(EdgeWidth(Magnitude(dx) | Magnitude(dy)), MaxEdgeBits);
+    // An edge, straight, its width, and whether it has both directions.
+    const std::uint64_t head = 3u << 4 | static_cast<std::uint64_t>(width - 2);
+    if (dx != 0 && dy != 0) {
+        const std::uint64_t fields = Field(ClampDelta(dx, width), width) << width |
+                                     Field(ClampDelta(dy, width), width);
+        run.Put(7 + 2 * width, (head << 1 | 1) << (2 * width) | fields);
+    } else {
+        const bool vertical = dy != 0;
+        run.Put(8 + width, (head << 2 | (vertical ? 1u : 0u)) << width |
+                               Field(ClampDelta(vertical ? dy : dx, width), width));
+    }
+    pen.X = edge.DrawX;
+    pen.Y = edge.DrawY;
+}
+
+inline void SaveEdge(const clsSWFTShapeCurveEdge& edge, ShapePen& pen, mdlSWFTag::BitRun& run) {
+    const Long cx = Delta(edge.ControlX, pen.X);
+    const Long cy = Delta(edge.ControlY, pen.Y);
+    const Long ax = Delta(edge.AnchorX, edge.ControlX);
+    const Long ay = Delta(edge.AnchorY, edge.ControlY);
+    const Long width =
+        EdgeWidth(Magnitude(cx) | Magnitude(cy) | Magnitude(ax) | Magnitude(ay));
+    const std::uint64_t head = 2u << 4 | static_cast<std::uint64_t>((width - 2) & 15);
+    const std::uint64_t control = Field(cx, width) << width | Field(cy, width);
+    const std::uint64_t anchor = Field(ax, width) << width | Field(ay, width);
+    constexpr Long WidestAtOnce = 12;
+    if (width <= WidestAtOnce) {
+        run.Put(6 + 4 * width, (head << (2 * width) | control) << (2 * width) | anchor);
+    } else {
+        run.Put(6, head);
+        for (const Long delta : {cx, cy, ax, ay}) run.Put(width, Field(delta, width));
+    }
+    pen.X = edge.AnchorX;
+    pen.Y = edge.AnchorY;
 }
 
 }  // namespace
@@ -40,7 +97,8 @@ void SaveLineStyles(const LineStyleList& styles, const LineStyleList* ends, Long
 void clsSWFTShapeStyleChange::SaveNewStyles(ShapePen& pen) const {
     mdlSWFTag::SetBits(2, 1);
     mdlSWFTag::SetBits(4, 14);
-    mdlSWFTag::SetBits(pen.LineBits + 2 * pen.FillBits, 0);
+    for (const Long width : {pen.FillBits, pen.FillBits, pen.LineBits})
+        mdlSWFTag::SetBits(width, 0);
     mdlSWFTag::SetAlign();
     SaveFillStyles(colFillStyles, nullptr);
     SaveLineStyles(colLineStyles, nullptr, pen.Version);
@@ -79,37 +137,20 @@ void clsSWFTShapeStyleChange::Save(ShapePen& pen) const {
     if (blLineStyle) mdlSWFTag::SetBits(pen.LineBits, LineStyle);
 }
 
-void clsSWFTShapeStraightEdge::Save(ShapePen& pen) const {
-    const Long dx = Delta(DrawX, pen.X);
-    const Long dy = Delta(DrawY, pen.Y);
-    const Long width =
-        std::clamp(std::max(mdlSWFTag::BitLength(dx, false), mdlSWFTag::BitLength(dy, false)),
-                   MinEdgeBits, MaxEdgeBits);
-    mdlSWFTag::SetBits(2, 3);
-    mdlSWFTag::SetBits(4, width - 2);
-    if (dx != 0 && dy != 0) {
-        mdlSWFTag::SetBits(1, 1);
-        mdlSWFTag::SetBits(width, ClampDelta(dx, width));
-        mdlSWFTag::SetBits(width, ClampDelta(dy, width));
-    } else {
-        const bool vertical = dy != 0;
-        mdlSWFTag::SetBits(2, vertical ? 1 : 0);
-        mdlSWFTag::SetBits(width, ClampDelta(vertical ? dy : dx, width));
+void SaveEdges(std::span<const clsSWFTShapeRecord> edges, ShapePen& pen) {
+    // Room is made for a block at a time, and the pen is kept apart from memory within it.
+    constexpr std::size_t Block = 1024;
+    for (; !edges.empty(); edges = edges.subspan(std::min(Block, edges.size()))) {
+        mdlSWFTag::BitRun run(Block * LongestEdge);
+        ShapePen at = pen;
+        for (const clsSWFTShapeRecord& edge : edges.first(std::min(Block, edges.size()))) {
+            if (const auto* line = std::get_if<clsSWFTShapeStraightEdge>(&edge))
+                SaveEdge(*line, at, run);
+            else
+                SaveEdge(*std::get_if<clsSWFTShapeCurveEdge>(&edge), at, run);
+        }
+        pen = at;
     }
-    pen.X = DrawX;
-    pen.Y = DrawY;
-}
-
-void clsSWFTShapeCurveEdge::Save(ShapePen& pen) const {
-    const Long deltas[] = {Delta(ControlX, pen.X), Delta(ControlY, pen.Y), Delta(AnchorX, ControlX),
-                           Delta(AnchorY, ControlY)};
-    Long width = MinEdgeBits;
-    for (const Long delta : deltas) width = std::max(width, mdlSWFTag::BitLength(delta, false));
-    mdlSWFTag::SetBits(2, 2);
-    mdlSWFTag::SetBits(4, width - 2);
-    for (const Long delta : deltas) mdlSWFTag::SetBits(width, delta);
-    pen.X = AnchorX;
-    pen.Y = AnchorY;
 }
 
 }  // namespace tamber

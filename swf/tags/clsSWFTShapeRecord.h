@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <span>
 #include <variant>
 #include <vector>
 
@@ -58,8 +59,6 @@ class clsSWFTShapeStraightEdge {
 public:
     Long DrawX = 0;
     Long DrawY = 0;
-
-    void Save(ShapePen& pen) const;
 };
 
 /// Quadratic edge by an absolute control point to an absolute anchor.
@@ -69,12 +68,13 @@ public:
     Long ControlY = 0;
     Long AnchorX = 0;
     Long AnchorY = 0;
-
-    void Save(ShapePen& pen) const;
 };
 
 using clsSWFTShapeRecord = std::variant<std::shared_ptr<clsSWFTShapeStyleChange>,
                                         clsSWFTShapeStraightEdge, clsSWFTShapeCurveEdge>;
+
+/// Writes records that are all edges.
+void SaveEdges(std::span<const clsSWFTShapeRecord> edges, ShapePen& pen);
 
 /// 0 for a style change, 1 for a straight edge, 2 for a curve.
 inline Long RecordType(const clsSWFTShapeRecord& record) {

@@ -136,13 +136,16 @@ void clsSWFTShapeRecords::Save(Long fillBits, Long lineBits, Long version) const
     mdlSWFTag::SetBits(4, fillBits);
     mdlSWFTag::SetBits(4, lineBits);
     ShapePen pen{0, 0, fillBits, lineBits, version};
-    for (const clsSWFTShapeRecord& record : colShapeRecords) {
-        if (const auto* change = std::get_if<std::shared_ptr<clsSWFTShapeStyleChange>>(&record))
+    for (auto record = colShapeRecords.begin(); record != colShapeRecords.end();) {
+        if (const auto* change = std::get_if<std::shared_ptr<clsSWFTShapeStyleChange>>(&*record)) {
             (*change)->Save(pen);
-        else if (const auto* line = std::get_if<clsSWFTShapeStraightEdge>(&record))
-            line->Save(pen);
-        else if (const auto* curve = std::get_if<clsSWFTShapeCurveEdge>(&record))
-            curve->Save(pen);
+            ++record;
+            continue;
+        }
+        const auto end = std::find_if(record, colShapeRecords.end(),
+                                      [](const auto& next) { return RecordType(next) == 0; });
+        SaveEdges({record, end}, pen);
+        record = end;
     }
     mdlSWFTag::SetBits(6, 0);
 }
