@@ -9,7 +9,7 @@ namespace {
 
 constexpr Long MaxEdgeBits = 17;
 /// Bits of the longest edge record.
-constexpr std::size_t LongestEdge = 6 + 4 * 32;
+constexpr std::size_t LongestEdge = 6 + 4 * MaxEdgeBits;
 
 Long ClampDelta(Long delta, Long width) {
     if (width < MaxEdgeBits) return delta;
@@ -55,25 +55,62 @@ inline void SaveEdge(const clsSWFTShapeStraightEdge& edge, ShapePen& pen,
     pen.Y = edge.DrawY;
 }
 
-inline void SaveEdge(const clsSWFTShapeCurveEdge& edge, ShapePen& pen, mdlSWFTag::BitRun& run) {
+/// False, with nothing written, for a curve whose fields are wider than a record can tell.
+inline bool SaveEdge(const clsSWFTShapeCurveEdge& edge, ShapePen& pen, mdlSWFTag::BitRun& run) {
     const Long cx = Delta(edge.ControlX, pen.X);
     const Long cy = Delta(edge.ControlY, pen.Y);
     const Long ax = Delta(edge.AnchorX, edge.ControlX);
     const Long ay = Delta(edge.AnchorY, edge.ControlY);
     const Long width =
         EdgeWidth(Magnitude(cx) | Magnitude(cy) | Magnitude(ax) | Magnitude(ay));
-    const std::uint64_t head = 2u << 4 | static_cast<std::uint64_t>((width - 2) & 15);
+    const std::uint64_t head = 2u << 4 | static_cast<std::uint64_t>(width - 2);
     const std::uint64_t control = Field(cx, width) << width | Field(cy, width);
     const std::uint64_t anchor = Field(ax, width) << width | Field(ay, width);
     constexpr Long WidestAtOnce = 12;
     if (width <= WidestAtOnce) {
         run.Put(6 + 4 * width, (head << (2 * width) | control) << (2 * width) | anchor);
+    } else if (width <= MaxEdgeBits) {
+        run.Put(6 + 2 * width, head << (2 * width) | control);
+        run.Put(2 * width, anchor);
     } else {
-        run.Put(6, head);
-        for (const Long delta : {cx, cy, ax, ay}) run.Put(width, Field(delta, width));
+        return false;
     }
     pen.X = edge.AnchorX;
     pen.Y = edge.AnchorY;
+    return true;
+}
+
+Long Middle(Long a, Long b) {
+    return static_cast<Long>((std::int64_t{a} + b) / 2);
+}
+
+/// A curve too long for one record, as two halves, each again in halves as long as it must be.
+void SaveLongCurve(const clsSWFTShapeCurveEdge& edge, ShapePen& pen) {
+    {
+        mdlSWFTag::BitRun run(LongestEdge);
+        if (SaveEdge(edge, pen, run)) return;
+    }
+    const Long startX = Middle(pen.X, edge.ControlX);
+    const Long startY = Middle(pen.Y, edge.ControlY);
+    const Long endX = Middle(edge.ControlX, edge.AnchorX);
+    const Long endY = Middle(edge.ControlY, edge.AnchorY);
+    SaveLongCurve({startX, startY, Middle(startX, endX), Middle(startY, endY)}, pen);
+    SaveLongCurve({endX, endY, edge.AnchorX, edge.AnchorY}, pen);
+}
+
+/// Writes edges up to the first curve that is too long, and returns how many.
+std::size_t SaveBlock(std::span<const clsSWFTShapeRecord> edges, ShapePen& pen) {
+    mdlSWFTag::BitRun run(edges.size() * LongestEdge);
+    ShapePen at = pen;
+    std::size_t done = 0;
+    for (; done < edges.size(); ++done) {
+        if (const auto* line = std::get_if<clsSWFTShapeStraightEdge>(&edges[done]))
+            SaveEdge(*line, at, run);
+        else if (!SaveEdge(*std::get_if<clsSWFTShapeCurveEdge>(&edges[done]), at, run))
+            break;
+    }
+    pen = at;
+    return done;
 }
 
 }  // namespace
@@ -138,18 +175,15 @@ void clsSWFTShapeStyleChange::Save(ShapePen& pen) const {
 }
 
 void SaveEdges(std::span<const clsSWFTShapeRecord> edges, ShapePen& pen) {
-    // Room is made for a block at a time, and the pen is kept apart from memory within it.
+    // Room is made for a block at a time.
     constexpr std::size_t Block = 1024;
-    for (; !edges.empty(); edges = edges.subspan(std::min(Block, edges.size()))) {
-        mdlSWFTag::BitRun run(Block * LongestEdge);
-        ShapePen at = pen;
-        for (const clsSWFTShapeRecord& edge : edges.first(std::min(Block, edges.size()))) {
-            if (const auto* line = std::get_if<clsSWFTShapeStraightEdge>(&edge))
-                SaveEdge(*line, at, run);
-            else
-                SaveEdge(*std::get_if<clsSWFTShapeCurveEdge>(&edge), at, run);
-        }
-        pen = at;
+    while (!edges.empty()) {
+        const auto block = edges.first(std::min(Block, edges.size()));
+        const std::size_t done = SaveBlock(block, pen);
+        edges = edges.subspan(done);
+        if (done == block.size()) continue;
+        SaveLongCurve(std::get<clsSWFTShapeCurveEdge>(edges.front()), pen);
+        edges = edges.subspan(1);
     }
 }
 

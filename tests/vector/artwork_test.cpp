@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
+#include "platform/codepage.h"
+#include "swf/clsSWFAdmin.h"
 #include "vector/FreeTransformation.h"
 #include "vector/MorphCheck.h"
 #include "vector/ShapeFlattening.h"
@@ -180,6 +184,36 @@ TEST(Morph, the_first_difference_is_the_result) {
     auto end = TwoTriangles();
     fillLine(*end);
     EXPECT_EQ(CheckMorph(*start, *end, 7), 0);
+}
+
+TEST(Vector, a_curve_too_long_for_a_record_is_written_in_halves) {
+    clsVectorData2 shape;
+    shape.inSWFTShapeRecords->SetFill0(1);
+    shape.inSWFTShapeRecords->MovePenTo(0, 0);
+    shape.inSWFTShapeRecords->DrawCurveTo(100000, 0, 100000, 100000);
+    shape.colFillStyles->emplace_back(clsSWFTFillStyle::Solid);
+    clsSWFAdmin admin;
+    auto tag = admin.GetNewShape(3, shape);
+    admin.AddTag(1, tag, true);
+    auto place = std::make_shared<clsSWFTagPlaceObject>();
+    place->PlaceID = tag->ID;
+    place->depth = 1;
+    place->SetMatrix(1, 1, 0, 0, 0, 0, 0, 0, 0);
+    admin.AddPlaceObj(1, place);
+    const auto file = std::filesystem::path(testing::TempDir()) / "long_curve.swf";
+    ASSERT_TRUE(admin.Save(FromNarrow(file.string())));
+    clsVector read;
+    ASSERT_TRUE(read.LoadFromFile(FromNarrow(file.string())));
+    std::filesystem::remove(file);
+    const auto& records = read.inVector->ShapeDataTbl(1)->inSWFTShapeRecords->colShapeRecords;
+    ASSERT_EQ(records.size(), 3u);
+    const auto expect = [&records](std::size_t index, Long cx, Long cy, Long ax, Long ay) {
+        const auto& curve = std::get<clsSWFTShapeCurveEdge>(records[index]);
+        EXPECT_EQ((SwfPoint{curve.ControlX, curve.ControlY}), (SwfPoint{cx, cy}));
+        EXPECT_EQ((SwfPoint{curve.AnchorX, curve.AnchorY}), (SwfPoint{ax, ay}));
+    };
+    expect(1, 50000, 0, 75000, 25000);
+    expect(2, 100000, 50000, 100000, 100000);
 }
 
 TEST(Vector, a_rectangle_is_one_closed_shape) {
