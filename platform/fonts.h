@@ -1,0 +1,64 @@
+#pragma once
+
+#include <vector>
+
+#include "platform/types.h"
+
+namespace tamber {
+
+/// A face to draw with.
+struct LogFont {
+    String FaceName;
+    /// Height of the cell, from the ascent to the descent.
+    Long Height = 1024;
+    bool Bold = false;
+    bool Italic = false;
+
+    bool operator==(const LogFont&) const = default;
+};
+
+struct OutlinePoint {
+    Long X = 0;
+    Long Y = 0;
+    bool operator==(const OutlinePoint&) const = default;
+};
+
+/// A piece of a contour: lines to each point, or a quadratic spline whose points but the last are
+/// control points with implied middles between them.
+struct OutlineCurve {
+    static constexpr Long Lines = 1;
+    static constexpr Long Spline = 2;
+
+    Long Type = Lines;
+    std::vector<OutlinePoint> Points;
+};
+
+struct OutlineContour {
+    OutlinePoint Start;
+    std::vector<OutlineCurve> Curves;
+};
+
+/// The outline of one character in a cell 1024 units high; y grows downwards from the cell's top.
+struct GlyphOutlineRecord {
+    char16_t Character = 0;
+    LogFont Font;
+    /// Advance to the next character, units.
+    Long CellIncX = 0;
+    /// Distance of the base line from the cell's top, units.
+    Long Ascent = 0;
+    std::vector<OutlineContour> Contours;
+};
+
+/// Fills the record with a character's outline. A blank has no contours but its advance; so has, with
+/// the face's own replacement shape, a character that the face lacks. False, with an empty outline,
+/// when no face can be had at all, or the face's file is damaged. A height of 1 or less does nothing.
+bool GetCharOutline(GlyphOutlineRecord& record, char16_t character, const LogFont& font);
+
+/// A face of exactly this name, in any of its languages and letter case, is installed.
+bool FontInstalled(StringView name);
+
+/// Names of the installed faces, each once and sorted: that in Japanese where a face has one. With
+/// `japaneseOnly` only of faces that hold Japanese text. Never empty.
+std::vector<String> InstalledFonts(bool japaneseOnly);
+
+}  // namespace tamber
