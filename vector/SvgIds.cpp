@@ -90,9 +90,9 @@ bool ReadEntity(SvgDocument& document, StringView& text) {
 
 }  // namespace
 
-std::size_t ReadSvgEntities(SvgDocument& document, std::size_t from) {
+std::size_t ReadSvgEntities(SvgDocument& document, std::size_t from, std::size_t to) {
     static constexpr StringView Mark = u"<!ENTITY";
-    const std::size_t start = document.Text.find(u"<!DOCTYPE", from);
+    const std::size_t start = document.Text.substr(0, to).find(u"<!DOCTYPE", from);
     if (start == StringView::npos) return from;
     const std::size_t open = document.Text.find_first_of(u"[>", start);
     if (open == StringView::npos || document.Text[open] == u'>') return from;

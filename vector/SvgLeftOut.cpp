@@ -33,6 +33,7 @@ constexpr std::array<StringView, static_cast<std::size_t>(SvgFeature::Count)> Fe
     u"xlinkのないhref",
     u"縦横比の指定",
     u"小数点の続く数値",
+    u"接頭辞の付いた要素",
 };
 
 struct NamedFeature {
@@ -78,6 +79,7 @@ void SvgLeftOut::Note(SvgFeature feature) {
 }
 
 void SvgLeftOut::NoteElement(StringView name) {
+    if (name.starts_with(u"svg:")) Note(SvgFeature::PrefixedElement);
     for (const NamedFeature& element : Elements)
         if (name == element.Name) Note(element.Feature);
 }

@@ -33,6 +33,7 @@ enum class SvgFeature {
     PlainHref,
     AspectRatio,
     JoinedDecimals,
+    PrefixedElement,
     Count,
 };
 

@@ -9,7 +9,21 @@ namespace tamber {
 namespace {
 
 bool IsCommand(char16_t c) {
-    return StringView(u"MmLlHhVvCcSsQqTtAaZz").find(c) != StringView::npos;
+    switch (c | 0x20) {
+        case u'm':
+        case u'l':
+        case u'h':
+        case u'v':
+        case u'c':
+        case u's':
+        case u'q':
+        case u't':
+        case u'a':
+        case u'z':
+            return true;
+        default:
+            return false;
+    }
 }
 
 class PathParser {

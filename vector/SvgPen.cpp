@@ -12,10 +12,24 @@ namespace {
 constexpr std::size_t CheapMatrices = 16;
 constexpr std::size_t CurvesPerCubic = 4;
 
-/// Samples of a cubic along one axis, two to a quadratic curve.
-using CubicSamples = std::array<Single, CurvesPerCubic * 2 + 1>;
+/// One axis of a cubic as quadratic curves: the controls, then the ends.
+constexpr std::size_t FirstEnd = CurvesPerCubic;
+using CurvePoints = std::array<Long, CurvesPerCubic * 2>;
 
-CubicSamples Sample(Long start, Long control1, Long control2, Long end) {
+/// Powers of the parameter at the middles of the curves, then at their ends.
+using Powers = std::array<Single, CurvesPerCubic * 2>;
+constexpr Powers T1{0.125f, 0.375f, 0.625f, 0.875f, 0.25f, 0.5f, 0.75f, 1};
+
+constexpr Powers Times(Powers a, const Powers& b) {
+    for (std::size_t i = 0; i < a.size(); ++i) a[i] *= b[i];
+    return a;
+}
+constexpr Powers T2 = Times(T1, T1);
+constexpr Powers T3 = Times(T2, T1);
+
+/// Samples the cubic at the middle and the end of each curve. A curve through its middle sample has
+/// its control at twice that less the mean of its ends.
+CurvePoints SplitCubic(Long start, Long control1, Long control2, Long end) {
     const auto p0 = static_cast<Single>(start);
     const auto p1 = static_cast<Single>(control1);
     const auto p2 = static_cast<Single>(control2);
@@ -23,17 +37,18 @@ CubicSamples Sample(Long start, Long control1, Long control2, Long end) {
     const Single c = 3 * (p1 - p0);
     const Single b = 3 * (p2 - p1) - c;
     const Single a = p3 - p0 - c - b;
-    CubicSamples samples;
-    for (std::size_t i = 0; i < samples.size(); ++i) {
-        const Single t = static_cast<Single>(i) / (CurvesPerCubic * 2);
-        samples[i] = a * (t * t * t) + b * (t * t) + c * t + p0;
+    Powers samples;
+    for (std::size_t i = 0; i < samples.size(); ++i)
+        samples[i] = a * T3[i] + b * T2[i] + c * T1[i] + p0;
+    Single from = p0;
+    for (std::size_t i = 0; i < CurvesPerCubic; ++i) {
+        const Single to = samples[FirstEnd + i];
+        samples[i] = 2 * samples[i] - (from + to) / 2;
+        from = to;
     }
-    return samples;
-}
-
-/// Control of the quadratic curve through three samples from `i` on.
-Long ControlAt(const CubicSamples& samples, std::size_t i) {
-    return ToSvgTwips(2 * samples[i + 1] - (samples[i] + samples[i + 2]) / 2);
+    CurvePoints points;
+    for (std::size_t i = 0; i < points.size(); ++i) points[i] = ToSvgTwips(samples[i]);
+    return points;
 }
 
 }  // namespace
@@ -69,15 +84,14 @@ void SvgPen::DrawCurveTo(SwfPoint control, SwfPoint anchor) {
 }
 
 void SvgPen::DrawCubicTo(SwfPoint control1, SwfPoint control2, SwfPoint anchor) {
-    for (std::size_t i = 0; i < CurvesPerCubic; ++i) Spend();
+    Spend(CurvesPerCubic);
     const SwfPoint p1 = transformation_.MapPoint(control1.X, control1.Y);
     const SwfPoint p2 = transformation_.MapPoint(control2.X, control2.Y);
     const SwfPoint p3 = transformation_.MapPoint(anchor.X, anchor.Y);
-    const CubicSamples x = Sample(records_.CurrentX, p1.X, p2.X, p3.X);
-    const CubicSamples y = Sample(records_.CurrentY, p1.Y, p2.Y, p3.Y);
-    for (std::size_t i = 0; i < CurvesPerCubic * 2; i += 2)
-        records_.DrawCurveTo(ControlAt(x, i), ControlAt(y, i), ToSvgTwips(x[i + 2]),
-                             ToSvgTwips(y[i + 2]));
+    const CurvePoints x = SplitCubic(records_.CurrentX, p1.X, p2.X, p3.X);
+    const CurvePoints y = SplitCubic(records_.CurrentY, p1.Y, p2.Y, p3.Y);
+    for (std::size_t i = 0; i < CurvesPerCubic; ++i)
+        records_.DrawCurveTo(x[i], y[i], x[FirstEnd + i], y[FirstEnd + i]);
 }
 
 void SvgPen::Close(bool blLine) {

@@ -25,7 +25,7 @@ public:
     void TurnLineOn();
 
 private:
-    void Spend() { SvgBudget::Spend(budget_.Edges, edgeCost_); }
+    void Spend(std::size_t edges = 1) { SvgBudget::Spend(budget_.Edges, edges * edgeCost_); }
 
     clsSWFTShapeRecords& records_;
     const SvgTransformation& transformation_;

@@ -45,10 +45,11 @@ private:
     /// Place behind the name of the root element.
     std::size_t FindRoot() {
         static constexpr StringView Mark = u"<svg";
-        const std::size_t declaration = document_.Text.find(u"<?xml");
-        const std::size_t from =
-            ReadSvgEntities(document_, declaration == StringView::npos ? 0 : declaration);
-        const std::size_t found = document_.Text.find(Mark, from);
+        const std::size_t prologEnd = std::min(document_.Text.find(Mark), document_.Text.size());
+        const std::size_t declaration = document_.Text.substr(0, prologEnd).find(u"<?xml");
+        const std::size_t behind = ReadSvgEntities(
+            document_, declaration == StringView::npos ? 0 : declaration, prologEnd);
+        const std::size_t found = document_.Text.find(Mark, behind);
         return found == StringView::npos ? found : found + Mark.size();
     }
 

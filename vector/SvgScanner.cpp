@@ -1,6 +1,7 @@
 #include "vector/SvgScanner.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace tamber {
 
@@ -19,6 +20,20 @@ StringView TrimSvgSpace(StringView text) {
     while (!text.empty() && IsSvgSpace(text.front())) text.remove_prefix(1);
     while (!text.empty() && IsSvgSpace(text.back())) text.remove_suffix(1);
     return text;
+}
+
+std::size_t FindSvgChar(StringView text, char16_t c, std::size_t from) {
+    // Looks for the byte, which the C library does many at a time, then at the character it is in.
+    while (from < text.size()) {
+        const auto* start = reinterpret_cast<const char*>(text.data() + from);
+        const void* hit = std::memchr(start, c, (text.size() - from) * sizeof(char16_t));
+        if (hit == nullptr) break;
+        const auto offset = static_cast<std::size_t>(static_cast<const char*>(hit) - start);
+        from += offset / sizeof(char16_t);
+        if (text[from] == c) return from;
+        ++from;
+    }
+    return text.size();
 }
 
 void SvgScanner::SkipSpace() {
@@ -48,7 +63,7 @@ bool SvgScanner::PassMarkup() {
 
 StringView SvgScanner::NextTag() {
     while (true) {
-        position_ = std::min(text_.find(u'<', position_), text_.size());
+        position_ = FindSvgChar(text_, u'<', position_);
         if (AtEnd()) return {};
         if (PassMarkup()) continue;
         tagStart_ = position_;
@@ -76,12 +91,9 @@ void SvgScanner::ReadValue(SvgAttribute& attribute) {
     const char16_t quote = AtEnd() ? u'\0' : text_[position_];
     if (quote != u'"' && quote != u'\'') return;
     const std::size_t start = position_ + 1;
-    const std::size_t end = text_.find(quote, start);
-    if (end == StringView::npos) {
-        position_ = text_.size();
-        return;
-    }
-    position_ = end + 1;
+    const std::size_t end = FindSvgChar(text_, quote, start);
+    position_ = std::min(end + 1, text_.size());
+    if (end == text_.size()) return;
     if (quote == u'"')
         attribute.Value = text_.substr(start, end - start);
     else
@@ -107,7 +119,7 @@ bool SvgScanner::PassTagEnd() {
         ++position_;
         if (c == u'>') return position_ >= 2 && text_[position_ - 2] == u'/';
         if (c == u'"' || c == u'\'')
-            position_ = std::min(text_.find(c, position_), text_.size() - 1) + 1;
+            position_ = std::min(FindSvgChar(text_, c, position_) + 1, text_.size());
     }
     return false;
 }

@@ -10,6 +10,9 @@ constexpr bool IsSvgSpace(char16_t c) {
 }
 StringView TrimSvgSpace(StringView text);
 
+/// Place of a character below U+0100 from `from` on, or the text's length.
+std::size_t FindSvgChar(StringView text, char16_t c, std::size_t from);
+
 struct SvgAttribute {
     StringView Name;
     StringView Value;
