@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "platform/rounding.h"
 #include "vector/SvgColors.h"
 #include "vector/SvgGradients.h"
 #include "vector/SvgNumbers.h"

@@ -14,13 +14,16 @@ constexpr Long TwipsPerPixel = 20;
 /// Coordinates beyond this many twips either way are cut to it, so that sums of a few fit a Long.
 constexpr Long SvgFarthest = Long{1} << 29;
 
-/// Rounds half to even, to twips that are not beyond SvgFarthest; no number gives SvgFarthest.
-inline Long ToSvgTwips(double twips) {
-    constexpr double Farthest = SvgFarthest;
+/// Rounds half to even; for what a Long holds.
+inline Long RoundSvgTwips(double twips) {
     // From 2^52 up a double holds whole numbers only, so that this sum is rounded.
     constexpr double Whole = 3.0 * (std::int64_t{1} << 51);
-    const double near = std::max(-Farthest, std::min(Farthest, twips));
-    return static_cast<Long>((near + Whole) - Whole);
+    return static_cast<Long>((twips + Whole) - Whole);
+}
+/// Rounds to twips that are not beyond SvgFarthest; no number gives SvgFarthest.
+inline Long ToSvgTwips(double twips) {
+    constexpr double Farthest = SvgFarthest;
+    return RoundSvgTwips(std::max(-Farthest, std::min(Farthest, twips)));
 }
 /// Sum that is not beyond SvgFarthest.
 Long AddSvgTwips(Long a, Long b);

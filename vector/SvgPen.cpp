@@ -1,5 +1,6 @@
 #include "vector/SvgPen.h"
 
+#include <algorithm>
 #include <array>
 
 #include "vector/SvgNumbers.h"
@@ -47,7 +48,9 @@ CurvePoints SplitCubic(Long start, Long control1, Long control2, Long end) {
         from = to;
     }
     CurvePoints points;
-    for (std::size_t i = 0; i < points.size(); ++i) points[i] = ToSvgTwips(samples[i]);
+    // No sample lies beyond SvgFarthest, and so no control beyond three times that.
+    for (std::size_t i = 0; i < points.size(); ++i)
+        points[i] = std::clamp(RoundSvgTwips(samples[i]), -SvgFarthest, SvgFarthest);
     return points;
 }
 

@@ -6,7 +6,6 @@
 #include "platform/RuntimeError.h"
 #include "platform/files.h"
 #include "platform/paths.h"
-#include "platform/rounding.h"
 #include "vector/SvgBody.h"
 #include "vector/SvgDecoding.h"
 #include "vector/SvgIds.h"

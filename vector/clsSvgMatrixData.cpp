@@ -1,11 +1,8 @@
 #include "vector/clsSvgMatrixData.h"
 
-#include <algorithm>
 #include <cmath>
 
-#include "platform/rounding.h"
 #include "vector/SvgBudget.h"
-#include "vector/SvgNumbers.h"
 #include "vector/SvgScanner.h"
 
 namespace tamber {
@@ -94,20 +91,6 @@ void AddTransform(StringView name, StringView text, SvgMatrixList& matrices) {
     if (name == u"matrix") AddMatrix(arguments, matrices);
 }
 
-struct SinglePoint {
-    Single X;
-    Single Y;
-};
-
-SinglePoint Apply(const SvgMatrixList& matrices, SinglePoint point) {
-    for (const clsSvgMatrixData& m : matrices) {
-        const Single x = m.ScaleX * point.X + m.Skew1 * point.Y + static_cast<Single>(m.sftX);
-        const Single y = m.Skew0 * point.X + m.ScaleY * point.Y + static_cast<Single>(m.sftY);
-        point = {x, y};
-    }
-    return point;
-}
-
 }  // namespace
 
 void ParseTransformList(StringView text, SvgMatrixList& matrices) {
@@ -122,12 +105,6 @@ void ParseTransformList(StringView text, SvgMatrixList& matrices) {
         SvgBudget::Check(matrices.size() <= SvgBudget::MostMatrices);
         text.remove_prefix(close + 1);
     }
-}
-
-SwfPoint SvgTransformation::MapPoint(Long x, Long y) const {
-    const SinglePoint own = Apply(Own, {static_cast<Single>(x), static_cast<Single>(y)});
-    const SinglePoint point = Apply(Around, own);
-    return {ToSvgTwips(point.X), ToSvgTwips(point.Y)};
 }
 
 Single SvgTransformation::WidthScale() const {

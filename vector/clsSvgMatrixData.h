@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "swf/mdlSWFTag.h"
+#include "vector/SvgNumbers.h"
 
 namespace tamber {
 
@@ -28,9 +29,24 @@ struct SvgTransformation {
     const SvgMatrixList& Own;
     const SvgMatrixList& Around;
 
-    SwfPoint MapPoint(Long x, Long y) const;
+    SwfPoint MapPoint(Long x, Long y) const {
+        SinglePoint point{static_cast<Single>(x), static_cast<Single>(y)};
+        for (const clsSvgMatrixData& matrix : Own) point = Apply(matrix, point);
+        for (const clsSvgMatrixData& matrix : Around) point = Apply(matrix, point);
+        return {ToSvgTwips(point.X), ToSvgTwips(point.Y)};
+    }
     /// Sum of the scales along both axes, 2 where nothing is scaled.
     Single WidthScale() const;
+
+private:
+    struct SinglePoint {
+        Single X;
+        Single Y;
+    };
+    static SinglePoint Apply(const clsSvgMatrixData& m, SinglePoint p) {
+        return {m.ScaleX * p.X + m.Skew1 * p.Y + static_cast<Single>(m.sftX),
+                m.Skew0 * p.X + m.ScaleY * p.Y + static_cast<Single>(m.sftY)};
+    }
 };
 
 /// Transformations merged into one.
