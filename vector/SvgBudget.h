@@ -8,7 +8,7 @@ namespace tamber {
 /// that a small one cannot take minutes or all memory.
 struct SvgBudget {
     /// Bytes of the text, unpacked.
-    static constexpr std::size_t MostText = std::size_t{128} << 20;
+    static constexpr std::size_t MostText = std::size_t{64} << 20;
     /// Elements open at a time.
     static constexpr std::size_t MostLevels = 250'000;
     /// Transformations in force at a time, on an element or on a gradient.

@@ -48,16 +48,13 @@ void SvgScanner::PassText(StringView mark, std::size_t from) {
 /// Moves behind markup that is no element, from its "<".
 bool SvgScanner::PassMarkup() {
     const StringView rest = text_.substr(position_);
+    if (rest.size() < 2 || (rest[1] != u'!' && rest[1] != u'?')) return false;
     if (rest.starts_with(u"<!--"))
         PassText(u"-->", position_ + 4);
     else if (rest.starts_with(u"<![CDATA["))
         PassText(u"]]>", position_ + 9);
-    else if (rest.starts_with(u"<?"))
-        PassText(u"?>", position_ + 2);
-    else if (rest.starts_with(u"<!"))
-        PassText(u">", position_ + 2);
     else
-        return false;
+        PassText(rest[1] == u'?' ? u"?>" : u">", position_ + 2);
     return true;
 }
 
