@@ -12,7 +12,8 @@ namespace VectorForm {
 inline constexpr Long Plain = 0;
 /// For a mask or an export: one shape, one table of styles.
 inline constexpr Long Clip = 1;
-/// The start of a morph, for a place that shows no tween.
+/// The start of a morph, or a divided drawing as a whole, for a place that has one depth and no
+/// tween, as a koma.
 inline constexpr Long MorphStart = 2;
 }  // namespace VectorForm
 

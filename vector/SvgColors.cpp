@@ -175,12 +175,12 @@ Long HexDigit(char16_t c) {
 }
 
 /// Three digits, each of which counts twice, or six.
-Long HexColor(StringView digits) {
-    if (digits.size() != 3 && digits.size() != 6) return 0;
+std::optional<Long> HexColor(StringView digits) {
+    if (digits.size() != 3 && digits.size() != 6) return std::nullopt;
     Long color = 0;
     for (const char16_t c : digits) {
         const Long digit = HexDigit(c);
-        if (digit < 0) return 0;
+        if (digit < 0) return std::nullopt;
         color = color << 4 | digit;
         if (digits.size() == 3) color = color << 4 | digit;
     }
@@ -188,12 +188,12 @@ Long HexColor(StringView digits) {
 }
 
 /// Red, green and blue as decimal numbers between parentheses.
-Long RgbColor(StringView text) {
+std::optional<Long> RgbColor(StringView text) {
     const std::size_t open = text.find(u'(');
     const std::size_t close = text.find(u')', std::min(open, text.size()));
-    if (close == StringView::npos) return 0;
+    if (close == StringView::npos) return std::nullopt;
     StringView parts = text.substr(open + 1, close - open - 1);
-    if (std::count(parts.begin(), parts.end(), u',') != 2) return 0;
+    if (std::count(parts.begin(), parts.end(), u',') != 2) return std::nullopt;
     Long color = 0;
     for (int i = 0; i < 3; ++i) {
         const std::size_t comma = std::min(parts.find(u','), parts.size());
@@ -206,13 +206,14 @@ Long RgbColor(StringView text) {
 
 }  // namespace
 
-Long ParseSvgColor(StringView text) {
+std::optional<Long> FindSvgColor(StringView text) {
     if (text.starts_with(u'#')) return HexColor(text.substr(1));
     if (text.starts_with(u"rgb")) return RgbColor(text);
     const auto* found =
         std::lower_bound(ColorNames.begin(), ColorNames.end(), text,
                          [](const ColorName& color, StringView name) { return color.Name < name; });
-    return found != ColorNames.end() && found->Name == text ? found->Color : 0;
+    if (found == ColorNames.end() || found->Name != text) return std::nullopt;
+    return found->Color;
 }
 
 Long ToSvgRgba(Long color, Long alpha) {

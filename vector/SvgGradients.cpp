@@ -301,6 +301,8 @@ std::shared_ptr<clsSvgGradientData> FindSvgGradient(SvgDocument& document, Strin
     const auto* element = document.FindId<clsSvgIDInfo>(id);
     if (element != nullptr && document.Text.substr(element->SIndex).starts_with(u"<pattern"))
         document.LeftOut.Note(SvgFeature::Pattern);
+    else
+        document.LeftOut.Note(SvgFeature::Paint);
     return nullptr;
 }
 

@@ -30,6 +30,7 @@ constexpr std::array<StringView, static_cast<std::size_t>(SvgFeature::Count)> Fe
     u"破線",
     u"非表示の指定",
     u"currentColor",
+    u"色の指定",
     u"xlinkのないhref",
     u"縦横比の指定",
     u"小数点の続く数値",

@@ -30,6 +30,7 @@ enum class SvgFeature {
     Dashes,
     Hidden,
     CurrentColor,
+    Paint,
     PlainHref,
     AspectRatio,
     JoinedDecimals,

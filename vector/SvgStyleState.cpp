@@ -11,6 +11,8 @@ namespace tamber {
 namespace {
 
 constexpr Long MiterOne = 256;
+/// Characters of a reference to a gradient that count.
+constexpr std::size_t LongestReference = 1024;
 /// A miter limit takes 16 bits.
 constexpr Single MostMiter = 255;
 
@@ -62,11 +64,16 @@ bool SvgStyleState::ApplyPaint(const SvgAttribute& item, SvgLeftOut& leftOut) {
     if (!fill && item.Name != u"stroke") return false;
     const bool reference = item.Value.starts_with(u"url");
     if (item.Value == u"currentColor") leftOut.Note(SvgFeature::CurrentColor);
-    if (fill) FillText = item.Value;
+    // A reference is looked at again for each element that inherits it.
+    if (fill) FillText = item.Value.substr(0, LongestReference);
     if (!fill && reference) leftOut.Note(SvgFeature::StrokeGradient);
     if (fill && reference) return true;
     Long& color = fill ? FillColor : StrokeColor;
     color = item.Value == u"none" ? NoColor : ParseSvgColor(item.Value);
+    const bool percent = item.Value.find(u'%') != StringView::npos;
+    const bool known = reference || item.Value == u"currentColor" || item.Value == u"none";
+    if (!known && (percent || !FindSvgColor(item.Value)))
+        leftOut.Note(SvgFeature::Paint);
     return true;
 }
 

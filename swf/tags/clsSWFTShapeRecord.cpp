@@ -98,6 +98,20 @@ void SaveLongCurve(const clsSWFTShapeCurveEdge& edge, ShapePen& pen) {
     SaveLongCurve({endX, endY, edge.AnchorX, edge.AnchorY}, pen);
 }
 
+/// A curve too long for one record, its distances cut: both states of a morph need as many edges.
+void SaveCutCurve(const clsSWFTShapeCurveEdge& edge, ShapePen& pen) {
+    const auto cut = [](Long from, Long to) {
+        return from + std::clamp<Long>(Delta(to, from), -0x10000, 0xFFFF);
+    };
+    clsSWFTShapeCurveEdge shorter;
+    shorter.ControlX = cut(pen.X, edge.ControlX);
+    shorter.ControlY = cut(pen.Y, edge.ControlY);
+    shorter.AnchorX = cut(shorter.ControlX, edge.AnchorX);
+    shorter.AnchorY = cut(shorter.ControlY, edge.AnchorY);
+    mdlSWFTag::BitRun run(LongestEdge);
+    SaveEdge(shorter, pen, run);
+}
+
 /// Writes edges up to the first curve that is too long, and returns how many.
 std::size_t SaveBlock(std::span<const clsSWFTShapeRecord> edges, ShapePen& pen) {
     mdlSWFTag::BitRun run(edges.size() * LongestEdge);
@@ -182,7 +196,11 @@ void SaveEdges(std::span<const clsSWFTShapeRecord> edges, ShapePen& pen) {
         const std::size_t done = SaveBlock(block, pen);
         edges = edges.subspan(done);
         if (done == block.size()) continue;
-        SaveLongCurve(std::get<clsSWFTShapeCurveEdge>(edges.front()), pen);
+        const auto& curve = std::get<clsSWFTShapeCurveEdge>(edges.front());
+        if (pen.Version < 0)
+            SaveCutCurve(curve, pen);
+        else
+            SaveLongCurve(curve, pen);
         edges = edges.subspan(1);
     }
 }

@@ -82,15 +82,15 @@ TEST_F(CommandLineTest, info_names_references_filters_and_values) {
     const Outcome run = Tamber("info '" TAMBER_SOURCE_DIR "/examples/tour/tour.kvf' --json");
     ASSERT_EQ(run.Code, 0) << run.Errors;
     const auto info = nlohmann::json::parse(run.Output);
-    EXPECT_EQ(info["symbols"][8]["colKomas"], (std::vector<int>{6, 7, 8}));
-    EXPECT_EQ(info["symbols"][3]["options"]["JpegQuality"], "60");
-    EXPECT_EQ(info["symbols"][9]["layers"].size(), 3u);
+    EXPECT_EQ(info["symbols"][7]["colKomas"], (std::vector<int>{5, 6, 7}));
+    EXPECT_EQ(info["symbols"][2]["options"]["JpegQuality"], "60");
+    EXPECT_EQ(info["symbols"][8]["layers"].size(), 3u);
     const auto& ball = info["layers"][2]["keyFrames"][0]["placement"];
     EXPECT_EQ(ball["filters"]["blDropShadow"], "True");
     EXPECT_EQ(ball["filters"]["DropShadow.ColorA"], "60");
     EXPECT_EQ(ball["filters"]["c19"], "1");
     EXPECT_FALSE(ball["filters"].contains("more"));
-    EXPECT_EQ(info["layers"][8]["keyFrames"][0]["values"]["BackColorRed"], "230");
+    EXPECT_EQ(info["layers"].back()["keyFrames"][0]["values"]["BackColorRed"], "230");
     EXPECT_EQ(
         Tamber("generate '" TAMBER_SOURCE_DIR "/examples/tour/tour.kvf' -o t.swf --strict").Code,
         0);
