@@ -49,9 +49,12 @@ struct GlyphOutlineRecord {
     std::vector<OutlineContour> Contours;
 };
 
-/// Fills the record with a character's outline. A blank has no contours but its advance; so has, with
-/// the face's own replacement shape, a character that the face lacks. False, with an empty outline,
-/// when no face can be had at all, or the face's file is damaged. A height of 1 or less does nothing.
+/// Fills the record with a character's outline. A blank has no contours but its advance; so has,
+/// with the face's own replacement shape, a character that the face lacks. A font that is not
+/// installed, or whose file cannot be opened, is drawn with a substitute. False, with an empty
+/// outline, when no face can be had at all, or the glyph is damaged. A height of 1 or less does
+/// nothing, and is false; any other gives the same outline. A record that is filled again lends its
+/// memory to the new outline, which is much faster than a new record each time.
 bool GetCharOutline(GlyphOutlineRecord& record, char16_t character, const LogFont& font);
 
 /// A face of exactly this name, in any of its languages and letter case, is installed.
