@@ -2,6 +2,7 @@
 
 #include "app/mdlPrivateProfile.h"
 #include "document/clsPropertyBmp.h"
+#include "document/clsPropertyText.h"
 #include "document/clsPropertyVector.h"
 #include "document/clsSymbolData.h"
 #include "media/BitmapTreatment.h"
@@ -29,9 +30,9 @@ BitmapOptions OptionsOf(const clsPropertyBmp& record) {
 
 /// A drawing without what it was meant to show would look like a fault of the program.
 void TellLeftOut(StringView path, const std::vector<String>& features) {
-    String line = GetFileName(path) + u"：対応していない要素を除いて読み込みました（";
+    String line = GetFileName(path) + u"：次の要素には対応していないため除きました：";
     for (const String& feature : features) line += (&feature == &features[0] ? u"" : u"、") + feature;
-    CurrentUserInterface().Status(line + u"）");
+    CurrentUserInterface().Status(line);
 }
 
 }  // namespace
@@ -51,14 +52,19 @@ bool AssetReader::LoadBitmap(clsSymbolData& symbol) const {
 
 bool AssetReader::LoadVector(clsSymbolData& symbol) const {
     clsVector reader;
-    if (!reader.LoadFromFile(symbol.FilePathName)) return false;
+    const bool loaded = reader.LoadFromFile(symbol.FilePathName);
     if (!reader.LeftOut.empty()) TellLeftOut(symbol.FilePathName, reader.LeftOut);
+    if (!loaded) return false;
     symbol.Property<clsPropertyVector>()->SetArtwork(reader.inVector, reader.Width, reader.height);
     return true;
 }
 
 String AssetReader::DefaultFont() const {
     return mdlPrivateProfile::DefaultFont();
+}
+
+void AssetReader::SetTextSize(clsSymbolData& symbol) const {
+    measure_.SetTextSize(*symbol.Property<clsPropertyText>());
 }
 
 }  // namespace tamber

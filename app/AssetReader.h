@@ -1,6 +1,8 @@
 #pragma once
 
 #include "document/ProjectReader.h"
+#include "platform/fonts.h"
+#include "swf/TextMeasure.h"
 
 namespace tamber {
 
@@ -12,11 +14,12 @@ public:
     bool LoadVector(clsSymbolData& symbol) const override;
     bool LoadSound(clsSymbolData&) const override { return true; }
     bool LoadMovie(clsSymbolData&) const override { return true; }
-    /// Texts keep the font that the project names.
-    bool FontAvailable(StringView) const override { return true; }
+    bool FontAvailable(StringView name) const override { return FontInstalled(name); }
     String DefaultFont() const override;
-    /// The box that the project holds stays.
-    void SetTextSize(clsSymbolData&) const override {}
+    void SetTextSize(clsSymbolData& symbol) const override;
+
+private:
+    mutable TextMeasure measure_;
 };
 
 }  // namespace tamber

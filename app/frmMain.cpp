@@ -15,6 +15,7 @@
 #include "platform/UserInterface.h"
 #include "platform/paths.h"
 #include "platform/text.h"
+#include "swf/TextDefinition.h"
 #include "swf/mdlSWFAuthoring.h"
 
 namespace tamber {
@@ -174,6 +175,7 @@ bool frmMain::mnuAuthoring(StringView path) {
     request.Version = inProject.SWFVersion;
     request.Library = inProject.colSymbol.get();
     request.Layers = inProject.colMainLayer.get();
+    request.Fonts = RefreshFontAdmin(*inProject.colSymbol, inProject.SWFVersion);
     request.Path = path;
     request.blProgress = true;
     request.blCompress = mdlPrivateProfile::flgSWFCompress();

@@ -7,6 +7,9 @@
 #include "platform/rounding.h"
 #include "platform/text.h"
 #include "swf/mdlZlib.h"
+#include "swf/tags/clsSWFTagDefineEditText.h"
+#include "swf/tags/clsSWFTagDefineFont.h"
+#include "swf/tags/clsSWFTagDefineText.h"
 #include "swf/tags/clsSWFTagFileAttributes.h"
 #include "swf/tags/clsSWFTagSetBackgroundColor.h"
 
@@ -45,6 +48,7 @@ void clsSWFAdmin::InitSWF() {
     colDefineObj_ = std::make_shared<DefinitionList>();
     frames_.clear();
     DefineID = 0;
+    if (inFontAdmin) ReserveFonts();
     BackGroundColor = -1;
     blStreamWarning_ = true;
 }
@@ -73,9 +77,27 @@ void clsSWFAdmin::SetFrameLabel(Long frame, StringView name, bool blAnchor) {
     frames_[static_cast<std::size_t>(frame - 1)].SetLabelName(name, blAnchor);
 }
 
+/// Identifiers 1 to the number of fonts stand for the fonts.
+void clsSWFAdmin::ReserveFonts() {
+    for (Long i = 1; i <= inFontAdmin->FontCount(); ++i) {
+        inFontAdmin->FontObject(i)->InitAuthorFrame();
+        AddDefinition(std::make_shared<clsSWFTagDefineFont>());
+    }
+}
+
+void clsSWFAdmin::NoteFont(Long frame, const clsSWFTag& tag) {
+    Long font = 0;
+    if (const auto* text = dynamic_cast<const clsSWFTagDefineText*>(&tag)) font = text->FontID;
+    if (const auto* field = dynamic_cast<const clsSWFTagDefineEditText*>(&tag))
+        font = field->FontID;
+    if (font >= 1 && font <= inFontAdmin->FontCount())
+        inFontAdmin->FontObject(font)->AuthorFrame(frame);
+}
+
 bool clsSWFAdmin::AddTag(Long frame, SWFTagReference tag, bool blDefine) {
     if (frame < 1 || !tag) return false;
     if (frame > FrameCount()) FrameCount(frame);
+    if (blDefine && inFontAdmin) NoteFont(frame, *tag);
     frames_[static_cast<std::size_t>(frame - 1)].AddTag(std::move(tag), blDefine);
     return true;
 }
@@ -204,8 +226,29 @@ void clsSWFAdmin::FramesSave() {
         background.Color = BackGroundColor;
         background.Save();
     }
-    for (clsSWFrame& frame : frames_) frame.Save();
+    for (std::size_t i = 0; i < frames_.size(); ++i) {
+        if (i < 2) SaveFonts(i == 0);
+        frames_[i].Save();
+    }
     for (const auto& tag : colTailTag_) tag->Save();
+}
+
+/// Fonts that frame 1 needs, or those that later frames do.
+void clsSWFAdmin::SaveFonts(bool first) const {
+    if (!inFontAdmin) return;
+    for (Long i = 1; i <= inFontAdmin->FontCount(); ++i) {
+        const auto& font = inFontAdmin->FontObject(i);
+        if (font->AuthorFrame() == 0 || (font->AuthorFrame() == 1) != first) continue;
+        const std::size_t mark = font->FontName.rfind(u'_');
+        const StringView style = StringView(font->FontName).substr(mark + 1);
+        clsSWFTagDefineFont tag;
+        tag.ID = i;
+        tag.FontName = font->FontName.substr(0, mark);
+        tag.Bold = style.find(u"Bo") != StringView::npos;
+        tag.Italic = style.find(u"It") != StringView::npos;
+        tag.FontObject = font;
+        tag.Save();
+    }
 }
 
 void clsSWFAdmin::SaveHeader() {

@@ -5,6 +5,7 @@
 
 #include "swf/clsSWFTagPlaceObject.h"
 #include "swf/clsSWFrame.h"
+#include "swf/tags/clsFontAdmin.h"
 #include "swf/tags/clsSWFTagDefineBitsJPEG.h"
 #include "swf/tags/clsSWFTagDefineBitsLossless.h"
 #include "swf/tags/clsSWFTagDefineScalingGrid.h"
@@ -23,6 +24,9 @@ public:
     bool blCompress = false;
     /// Red in the low byte; negative: no background tag is written.
     Long BackGroundColor = -1;
+    /// Fonts of the movie, whose identifiers are the first ones; null for a sprite's own timeline and
+    /// a movie without text. Set before InitSWF.
+    std::shared_ptr<clsFontAdmin> inFontAdmin;
     /// The last identifier handed out.
     Long DefineID = 0;
     std::vector<std::shared_ptr<clsSWFTagDoAction>> colInitAction;
@@ -44,7 +48,8 @@ public:
     void FrameCount(Long count);
 
     void SetFrameLabel(Long frame, StringView name, bool blAnchor);
-    /// False for a frame below 1 or no tag. The frame table grows as needed.
+    /// False for a frame below 1 or no tag. The frame table grows as needed. The definition of a text
+    /// brings its font into the frame.
     bool AddTag(Long frame, SWFTagReference tag, bool blDefine);
     bool AddPlaceObj(Long frame, std::shared_ptr<clsSWFTagPlaceObject> tag);
     /// Counts a placement of `count` definitions from `id` on.
@@ -72,13 +77,17 @@ public:
     std::shared_ptr<clsSWFTagDefineScalingGrid> GetNewScalingGrid(Long id, Long xMin, Long xMax,
                                                                   Long yMin, Long yMax);
 
-    /// Writes background, frames and tail into the stream.
+    /// Writes background, fonts, frames and tail into the stream: fonts of frame 1 before it, others
+    /// behind it.
     void FramesSave();
     /// Writes the whole file. False when it could not be written; an earlier file then stays.
     bool Save(StringView path);
 
 private:
     void SaveHeader();
+    void SaveFonts(bool first) const;
+    void ReserveFonts();
+    void NoteFont(Long frame, const clsSWFTag& tag);
 
     std::shared_ptr<DefinitionList> colDefineObj_;
     std::vector<clsSWFrame> frames_;

@@ -15,8 +15,10 @@
 #include "document/clsPropertyVector.h"
 #include "platform/UserInterface.h"
 #include "platform/text.h"
+#include "swf/FitText.h"
 #include "swf/LayerPlacement.h"
 #include "swf/MovieLimits.h"
+#include "swf/TextDefinition.h"
 #include "swf/VectorDefinition.h"
 #include "swf/clsSWFAdmin.h"
 #include "swf/tags/clsSWFTagDefineSprite.h"
@@ -41,7 +43,8 @@ Long ReverseBytes(Long color) {
 
 /// Kinds whose definitions this generation can write.
 bool CanDefine(Long kind) {
-    return kind == KindBitmap || kind == KindVector || kind == KindSprite || kind == KindKoma;
+    return kind == KindBitmap || kind == KindText || kind == KindVector || kind == KindSprite ||
+           kind == KindKoma;
 }
 
 bool IsPlaced(Long kind) {
@@ -90,6 +93,7 @@ private:
     void DefineSpriteChildren(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long frame);
     std::vector<Long> DefineKomas(clsSWFAdmin& admin, const clsSymbolData& symbol, Long frame);
     void DefineBitmap(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
+    void DefineText(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
     void DefineVector(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
     void DefineSprite(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
     void AddScalingGrid(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long id, Long frame);
@@ -153,7 +157,8 @@ void Authoring::DefineExports(clsSWFAdmin& admin, Long mode) {
 Long Authoring::EnsureDefined(clsSWFAdmin& admin, const clsLayer* layer, clsSymbolData& symbol,
                               Long frame) {
     if (const auto* drawing = symbol.Property<clsPropertyVector>()) {
-        if (layer == nullptr && drawing->MorphSymbol()) symbol.DefineNum = VectorForm::MorphStart;
+        const bool several = drawing->MorphSymbol() || drawing->blDivide;
+        if (layer == nullptr && several) symbol.DefineNum = VectorForm::MorphStart;
         if (layer != nullptr && layer->ClippingDepth != 0) symbol.DefineNum = VectorForm::Clip;
     }
     const Long id =
@@ -166,6 +171,7 @@ Long Authoring::DefineSymbol(clsSWFAdmin& admin, clsSymbolData& symbol, Long fra
     if (nesting_ > DeepestNesting) return 0;
     ++nesting_;
     if (symbol.eType() == KindBitmap) DefineBitmap(admin, symbol, frame);
+    if (symbol.eType() == KindText) DefineText(admin, symbol, frame);
     if (symbol.eType() == KindVector) DefineVector(admin, symbol, frame);
     if (symbol.eType() == KindSprite) {
         DefineSpriteChildren(admin, *symbol.Property<clsPropertySprite>(), frame);
@@ -212,6 +218,16 @@ void Authoring::DefineBitmap(clsSWFAdmin& admin, clsSymbolData& symbol, Long fra
     admin.AddTag(frame, std::move(shape), true);
     const bool exportPicture = mdlSWFTag::swfVersion() >= BitmapExportVersion;
     AddExport(admin, symbol, exportPicture ? bitmapID : symbol.DefineID(), frame);
+}
+
+void Authoring::DefineText(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
+    if (admin.inFontAdmin && FollowsOutline(symbol)) {
+        const auto sprite = FitTextSprite(symbol, *admin.inFontAdmin);
+        symbol.DefineID(DefineSymbol(admin, *sprite, frame));
+    } else {
+        tamber::DefineText(admin, symbol, frame);
+    }
+    AddExport(admin, symbol, symbol.DefineID(), frame);
 }
 
 void Authoring::DefineVector(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
@@ -471,6 +487,8 @@ bool BuildMovie(const MovieRequest& request) {
     if (const String fault = MovieLimitFault(request); !fault.empty()) return Refuse(fault);
     mdlSWFTag::swfVersion(request.Version);
     clsSWFAdmin admin;
+    admin.inFontAdmin = request.Fonts;
+    admin.InitSWF();
     admin.SetDimension(0, request.Width, 0, request.Height, 0);
     admin.FrameRate = request.FrameRate;
     admin.Ver = request.Version;

@@ -3,6 +3,7 @@
 #include "document/clsLayer.h"
 #include "document/clsSymbolData.h"
 #include "platform/Collection.h"
+#include "swf/tags/clsFontAdmin.h"
 
 namespace tamber {
 
@@ -14,6 +15,8 @@ struct MovieRequest {
     Long Version = 6;
     const Collection<clsSymbolData>* Library = nullptr;
     const Collection<clsLayer>* Layers = nullptr;
+    /// Fonts of the library's texts; without them a movie has none.
+    std::shared_ptr<clsFontAdmin> Fonts;
     String Path;
     bool blProgress = false;
     bool blCompress = true;

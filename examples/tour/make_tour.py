@@ -19,6 +19,7 @@ FILTERS = {
 }
 BACKGROUND, LABEL, LAYER_FOLDER = -1, -2, -4
 SCRIPT = ",-1,0,0,,,"
+PLACED_TEXT = ["False,in,False,0,Left,False,20,,"]
 PLACED_SPRITE = ["False,in,False,0,Left,False,20,,"]
 
 
@@ -71,6 +72,7 @@ def draw_vectors():
     write_svg("丸窓.svg", 120, 110, f'<path d="{round_window}" fill="#000000"/>')
     write_svg("花.svg", 80, 80, f'<path d="{star(lambda step: 46 if step % 2 else 28)}" fill="#e0508c"/>')
     write_svg("星.svg", 80, 80, f'<path d="{star(lambda step: 38 if step % 8 == 0 else 16)}" fill="#ffc814"/>')
+    write_svg("弓.svg", 150, 40, '<path d="M0 38 Q75 -30 150 38" fill="none" stroke="#000000" stroke-width="1"/>')
     write_svg("旗.svg", 60, 80, '<rect x="0" y="0" width="4" height="80" fill="#604020"/>'
               '<path d="M4 4 L60 4 L60 40 L4 40 Z" fill="#ffffff" stroke="#c0c0c0" stroke-width="1"/>'
               '<path d="M32 10 C38.6 10 44 15.4 44 22 C44 28.6 38.6 34 32 34 C25.4 34 20 28.6 20 22 C20 15.4 25.4 10 32 10 Z" fill="#d01030"/>')
@@ -93,6 +95,12 @@ def vector(number, name, options=VECTOR):
 def bent(*corners):
     """The tail of a vector element whose corners lie elsewhere: pixels, from top left clockwise."""
     return ["True," + ",".join(str(round(value * 20)) for point in corners for value in point) + ",False"]
+
+
+def text(number, content, size, colour, *, field="", embed="", box=(0, 0), space=0, align=0, along="1,1,True,False,False,1"):
+    """field: the cells of a text field, empty for static text."""
+    cells = f"{content},{embed},IPAGothic,{box[0]},{box[1]},{size},0,{space},False,False,{colour},{align},{not field},{bool(field)}"
+    return f"{number},,ﾃｷｽﾄ,,,,{cells},{field + ',' if field else ''}False,0,0,{along}"
 
 
 def bitmap(number, name, options="False,0,0,0,False,CR,100,False,70", linkage=",,"):
@@ -136,7 +144,7 @@ def timeline(*layers):
 
 
 def project():
-    ball, sea, floor, wheel1, wheel2, wheel3, wheel, cart, window, flower, yellow_star, flag, house = range(1, 14)
+    ball, sea, floor, wheel1, wheel2, wheel3, wheel, cart, window, flower, yellow_star, flag, house, title, name, motto, bow = range(1, 18)
     symbols = [
         "100,,Sﾌｫﾙﾀﾞ,,,,絵,6,True",
         bitmap(ball, "玉.png", linkage="ball,,ExportTop"),
@@ -151,9 +159,15 @@ def project():
         vector(yellow_star, "星.svg"),
         vector(flag, "旗.svg"),
         vector(house, "家.svg", "True" + VECTOR.removeprefix("False")),
+        "102,,Sﾌｫﾙﾀﾞ,,,,文字,4,True",
+        text(title, "タンバーの旅", 24, "60,40,120"),
+        text(name, "お名前", 14, "0,0,0", field="False,True,True,False,True,False,False,player_name", box=(90, 22),
+             embed="お名前" + "".join(map(chr, [*range(48, 58), *range(65, 91), *range(97, 123)]))),
+        text(motto, "絵と図形と文字", 14, "200,60,40", align=2, along="1,1,True,True,False,2"),
+        vector(bow, "弓.svg"),
     ]
     # Positions in the library: the pictures of the wheel, then what each drawing morphs into.
-    references = ["5,6,7", "0", "13", "0", "0", "0"]
+    references = ["5,6,7", "0", "13", "0", "0", "0", "0", "0", "20", "0"]
     cart_layers = timeline(
         layer(wheel, "左の車輪", key(1, 6, placement(18, 44, offset=(16, 16)))),
         layer(wheel, "右の車輪", key(1, 6, placement(82, 44, offset=(16, 16)))),
@@ -171,6 +185,10 @@ def project():
         layer(ball, "影の玉", key(1, 80, placement(320, 150, offset=(20, 20), opacity=60, blend=3))),
         layer(cart, "荷車", key(1, 80, placement(-40, 244, tail=PLACED_SPRITE, easing=-120), tween=True),
               key(81, 1, placement(440, 244, tail=PLACED_SPRITE)), instance="cart"),
+        layer(title, "題", key(1, 20, placement(110, 262, opacity=0, tail=PLACED_TEXT), tween=True),
+              key(21, 61, placement(110, 262, tail=PLACED_TEXT))),
+        layer(name, "お名前", key(1, 81, placement(300, 264, tail=PLACED_TEXT)), instance="name_field"),
+        layer(motto, "弓なりの文", key(1, 81, placement(185, 124, tail=PLACED_TEXT))),
         layer(flower, "花から星", key(1, 50, placement(20, 20, tail=UPRIGHT), tween=True),
               key(51, 31, placement(70, 30, tail=UPRIGHT))),
         layer(flag, "旗",

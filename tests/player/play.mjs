@@ -48,6 +48,7 @@ async function look(stage, movie, { width, height, expectations }, picturePath) 
   const lines = [];
   await stage.load(movie, width, height);
   for (const expectation of [...expectations].sort((a, b) => a.frame - b.frame)) {
+    if (expectation.before) await stage.act(expectation.before);
     const { file, picture } = await stage.show(expectation.frame);
     writeFileSync(`${picturePath}-${expectation.frame}.png`, file);
     lines.push(...differences(picture, expectation));

@@ -70,6 +70,12 @@ export class Stage {
     return { file, picture: decodePng(file) };
   }
 
+  /** What a person does before the next frame: a click on the stage, then keys typed. */
+  async act({ click, type }) {
+    if (click) await this.page.mouse.click(click.x, click.y);
+    if (type) await this.page.keyboard.type(type);
+  }
+
   async close() {
     await this.browser?.close();
     this.server?.close();

@@ -123,6 +123,39 @@ TEST_F(VectorAuthoringTest, a_koma_shows_the_start_of_a_morph) {
     EXPECT_EQ(movie.Bodies(DefineMorph).size(), 1u);
 }
 
+TEST_F(VectorAuthoringTest, a_koma_shows_a_divided_drawing_whole) {
+    const auto drawing = AddVector(3);
+    drawing->Property<clsPropertyVector>()->blDivide = true;
+    auto koma = std::make_shared<clsSymbolData>(KindKoma);
+    koma->Property<clsPropertyKoma>()->colKomas->Add(drawing);
+    AddKeyFrame(*AddLayer(AddSymbol(koma)), 1, 1);
+    const ParsedMovie movie = Build();
+    ASSERT_EQ(movie.Bodies(DefineShape3).size(), 1u);
+    EXPECT_EQ(BoundsOf(movie.Bodies(DefineShape3)[0]), (SwfRect{0, 0, 240, 200}));
+}
+
+TEST_F(VectorAuthoringTest, a_morph_has_as_many_edges_at_its_end_however_long) {
+    const auto curve = [](Long reach) {
+        auto artwork = Rectangles(1);
+        artwork->colShapeData[0]->inSWFTShapeRecords->DrawCurveTo(reach, 0, reach, 100);
+        return artwork;
+    };
+    const auto bodySize = [&](Long reach) {
+        library.Clear();
+        layers.Clear();
+        const auto from = AddVector(1);
+        from->Property<clsPropertyVector>()->inVector = curve(100);
+        const auto to = AddVector(1);
+        to->Property<clsPropertyVector>()->inVector = curve(reach);
+        from->Property<clsPropertyVector>()->MorphSymbol(to);
+        AddKeyFrame(*AddLayer(from), 1, 1);
+        return Build().Bodies(DefineMorph).at(0).size();
+    };
+    // The longest curve of a record has 17 bits a field; a longer one is cut and takes no more
+    // than the bounds grow by.
+    EXPECT_LE(bodySize(900000), bodySize(65000) + 4);
+}
+
 TEST_F(VectorAuthoringTest, bitmaps_of_a_drawing_stand_in_frame_1_for_each_definition) {
     auto artwork = Rectangles(1);
     auto bitmap = std::make_shared<clsVectorBitmap>(20);

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "platform/fonts.h"
+#include "swf/tags/clsSWFTShapeRecords.h"
+
+namespace tamber {
+
+/// One glyph of an embedded font, in units of a cell of 1024.
+class clsFontData {
+public:
+    std::shared_ptr<clsSWFTShapeRecords> tagShapeRecords;
+    /// Advance to the next glyph.
+    Long CellIncX = 0;
+};
+
+/// One face in one style, with the characters that a movie needs of it.
+class clsFontObject {
+public:
+    explicit clsFontObject(String key) : FontName(std::move(key)) {}
+
+    /// As clsFontAdmin::MkFontName makes it.
+    const String FontName;
+
+    /// The embedded characters in the order of their codes: those of code page 932, or of Unicode.
+    const String& FontMap() const { return map_; }
+    Long GlyphCount() const { return static_cast<Long>(map_.size()); }
+    /// Glyph of the `index`-th character, from 1.
+    const clsFontData& FontData(Long index) const {
+        return data_.at(static_cast<std::size_t>(index - 1));
+    }
+    /// Characters are in the order of code page 932. A change sorts them anew.
+    bool blSJis() const { return sJis_; }
+    void blSJis(bool value);
+    /// First frame that needs the font, 0 while none does. A later one is not taken.
+    Long AuthorFrame() const { return authorFrame_; }
+    void AuthorFrame(Long frame);
+    void InitAuthorFrame() { authorFrame_ = 0; }
+
+    /// Position of a character, from 1; 0 when it is not embedded.
+    Long GetFontIndex(char16_t character) const;
+    /// Embeds a character, which must not be there yet.
+    void AddGlyph(char16_t character, const GlyphOutlineRecord& outline);
+
+private:
+    std::uint32_t CodeOf(char16_t character) const;
+
+    String map_;
+    std::vector<clsFontData> data_;
+    std::vector<std::uint32_t> codes_;
+    bool sJis_ = false;
+    Long authorFrame_ = 0;
+};
+
+/// Code of a character in code page 932, one byte or two.
+std::uint32_t AnsiCode(char16_t character);
+
+}  // namespace tamber

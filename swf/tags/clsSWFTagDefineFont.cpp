@@ -1,0 +1,111 @@
+#include "swf/tags/clsSWFTagDefineFont.h"
+
+#include <algorithm>
+
+#include "platform/codepage.h"
+
+namespace tamber {
+
+namespace {
+
+constexpr Long UnicodeVersion = 6;
+constexpr Long EncodingShiftJis = 4;
+constexpr Long EncodingAnsi = 1;
+constexpr Long LanguageLatin = 1;
+constexpr Long LanguageJapanese = 2;
+constexpr Long Descent = 1024;
+constexpr std::size_t LongestName = 255;
+
+bool IsDevice(StringView name) {
+    return name.starts_with(u'_');
+}
+
+/// The name of a device font for Japanese text tells itself by its second character.
+bool IsJapaneseDevice(StringView name) {
+    return name.size() > 1 && name[1] > 128;
+}
+
+}  // namespace
+
+bool clsSWFTagDefineFont::HasWideCodes() const {
+    if (mdlSWFTag::swfVersion() >= UnicodeVersion) return true;
+    return std::any_of(FontObject->FontMap().begin(), FontObject->FontMap().end(),
+                       [](char16_t c) { return AnsiCode(c) > 0xFF; });
+}
+
+void clsSWFTagDefineFont::SaveFlags() const {
+    const bool unicode = mdlSWFTag::swfVersion() >= UnicodeVersion;
+    const bool device = IsDevice(FontName);
+    const bool japanese = IsJapaneseDevice(FontName);
+    const Long glyphs = FontObject->GlyphCount() > 0 ? 1 : 0;
+    const Long encoding = device && !unicode ? (japanese ? EncodingShiftJis : EncodingAnsi) : 0;
+    mdlSWFTag::SetBits(1, glyphs);
+    mdlSWFTag::SetBits(3, encoding);
+    mdlSWFTag::SetBits(1, glyphs);
+    mdlSWFTag::SetBits(1, HasWideCodes() ? 1 : 0);
+    mdlSWFTag::SetBits(1, Italic ? 1 : 0);
+    mdlSWFTag::SetBits(1, Bold ? 1 : 0);
+    Long language = 0;
+    if (unicode) language = device && !japanese ? LanguageLatin : LanguageJapanese;
+    mdlSWFTag::SetBytes(1, language);
+}
+
+void clsSWFTagDefineFont::SaveName() const {
+    Bytes name = mdlSWFTag::StringBytes(FontName, false, true);
+    name.resize(std::min(name.size(), LongestName));
+    mdlSWFTag::SetBytes(1, static_cast<Long>(name.size()));
+    mdlSWFTag::SetByteArray(name);
+}
+
+void clsSWFTagDefineFont::SaveGlyphs() const {
+    const Long count = FontObject->GlyphCount();
+    const std::size_t table = mdlSWFTag::swfBytePos();
+    const auto patch = [table](Long entry) {
+        mdlSWFTag::PatchBytes(table + static_cast<std::size_t>(entry) * 4, 4,
+                              static_cast<Long>(mdlSWFTag::swfBytePos() - table));
+    };
+    for (Long i = 0; i <= count; ++i) mdlSWFTag::SetBytes(4, 0);
+    for (Long i = 1; i <= count; ++i) {
+        patch(i - 1);
+        FontObject->FontData(i).tagShapeRecords->Save(1, 0, 3);
+        mdlSWFTag::SetAlign();
+    }
+    patch(count);
+}
+
+void clsSWFTagDefineFont::SaveCodes() const {
+    const bool unicode = mdlSWFTag::swfVersion() >= UnicodeVersion;
+    const Long bytes = HasWideCodes() ? 2 : 1;
+    for (const char16_t c : FontObject->FontMap())
+        mdlSWFTag::SetBytes(bytes, unicode ? c : static_cast<Long>(AnsiCode(c)));
+}
+
+void clsSWFTagDefineFont::SaveLayout() const {
+    mdlSWFTag::SetBytes(2, 0);
+    mdlSWFTag::SetBytes(2, Descent);
+    mdlSWFTag::SetBytes(2, FontLeading);
+    const Long count = FontObject->GlyphCount();
+    for (Long i = 1; i <= count; ++i)
+        mdlSWFTag::SetBytes(2, FontObject->FontData(i).CellIncX + FontCharSpace);
+    for (Long i = 1; i <= count; ++i) mdlSWFTag::SetRect(0, 0, 0, 0);
+    mdlSWFTag::SetBytes(2, 0);
+}
+
+void clsSWFTagDefineFont::Save() {
+    if (!FontObject || (FontObject->GlyphCount() == 0 && !IsDevice(FontName))) return;
+    const std::size_t body = mdlSWFTag::BeginTag(TagNum());
+    mdlSWFTag::SetBytes(2, ID);
+    SaveFlags();
+    SaveName();
+    mdlSWFTag::SetBytes(2, FontObject->GlyphCount());
+    if (FontObject->GlyphCount() > 0) {
+        SaveGlyphs();
+        SaveCodes();
+        SaveLayout();
+    } else {
+        mdlSWFTag::SetBytes(2, 2);
+    }
+    mdlSWFTag::EndTag(body);
+}
+
+}  // namespace tamber
