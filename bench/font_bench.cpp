@@ -4,6 +4,9 @@
 
 #include "platform/codepage.h"
 #include "platform/fonts.h"
+#include "swf/tags/clsFontAdmin.h"
+#include "swf/tags/clsSWFTagDefineFont.h"
+#include "swf/tags/TextLayout.h"
 
 namespace tamber {
 namespace {
@@ -53,8 +56,42 @@ void KanjiByFreeType(benchmark::State& state) {
     FT_Done_FreeType(library);
 }
 
+/// All of them in one font, and the font's tag.
+void KanjiFontTag(benchmark::State& state) {
+    mdlSWFTag::swfVersion(6);
+    mdlSWFTag::InitBuffer();
+    for (auto _ : state) {
+        clsFontAdmin fonts;
+        fonts.SetOutLine({.FaceName = u"IPAGothic"}, Kanji());
+        clsSWFTagDefineFont tag;
+        tag.ID = 1;
+        tag.FontName = u"IPAGothic";
+        tag.FontObject = fonts.FontObject(1);
+        mdlSWFTag::swfBytePos(0);
+        tag.Save();
+        benchmark::DoNotOptimize(mdlSWFTag::swfBytePos());
+    }
+}
+
+/// A text of so many characters, 5,000 different ones among them, against a font that has them.
+void LookUps(benchmark::State& state) {
+    constexpr char16_t Different = 5000;
+    clsFontObject font(u"Font_");
+    for (char16_t i = 0; i < Different; ++i)
+        font.AddGlyph(static_cast<char16_t>(0x4E00 + i), GlyphOutlineRecord());
+    String text;
+    for (std::int64_t i = 0; i < state.range(0); ++i)
+        text += static_cast<char16_t>(0x4E00 + i * 1237 % Different);
+    for (auto _ : state) {
+        const TextLayout layout(text, font, {200, 0, 0});
+        benchmark::DoNotOptimize(layout.Width());
+    }
+}
+
 BENCHMARK(KanjiByFreeType)->Unit(benchmark::kMillisecond);
 BENCHMARK(KanjiOutlines)->Unit(benchmark::kMillisecond);
+BENCHMARK(KanjiFontTag)->Unit(benchmark::kMillisecond);
+BENCHMARK(LookUps)->Arg(5000)->Arg(100000)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 }  // namespace tamber

@@ -125,7 +125,8 @@ private:
 
 bool FollowsOutline(const clsSymbolData& symbol) {
     const auto* text = symbol.Property<clsPropertyText>();
-    return text != nullptr && !text->blDynamic && OutlineOf(*text) != nullptr;
+    return text != nullptr && !text->blDynamic && !clsFontAdmin::IsDeviceFont(text->FontName) &&
+           OutlineOf(*text) != nullptr;
 }
 
 std::shared_ptr<clsSymbolData> FitTextSprite(const clsSymbolData& symbol,

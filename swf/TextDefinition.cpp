@@ -1,12 +1,12 @@
 #include "swf/TextDefinition.h"
 
-#include "platform/rounding.h"
-
 namespace tamber {
 
 namespace {
 
 constexpr Long TwipsPerPixel = 20;
+/// Pixels that players keep between a field's border and its text.
+constexpr Long FieldMargin = 2;
 constexpr Long SmoothingVersion = 8;
 /// Code tables are in code page 932 below this version.
 constexpr Long UnicodeVersion = 6;
@@ -22,6 +22,21 @@ Long FontIdentifier(const clsSWFAdmin& admin, const clsPropertyText& text) {
 void AddSmoothing(clsSWFAdmin& admin, Long id, const clsPropertyText& text, Long frame) {
     if (mdlSWFTag::swfVersion() >= SmoothingVersion)
         admin.AddTag(frame, GetNewCSMTextSettings(id, text), true);
+}
+
+/// Static text in a font of the player's own, of which no glyphs can be embedded: a field that
+/// nobody can change, in the text's own box.
+clsPropertyText AsLockedField(const clsPropertyText& text) {
+    clsPropertyText field = text;
+    field.blDynamic = true;
+    field.blAutoSize = false;
+    field.blMultiLine = true;
+    field.blWordWrap = field.blInput = field.blSelect = false;
+    field.blBorder = field.blPassword = field.blHtml = false;
+    field.VariableName.clear();
+    field.Width = text.Width + 2 * FieldMargin;
+    field.height = text.height + 2 * FieldMargin;
+    return field;
 }
 
 }  // namespace
@@ -111,7 +126,9 @@ std::shared_ptr<clsSWFTagCSMTextSettings> GetNewCSMTextSettings(Long textID,
 }
 
 void DefineText(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
-    const auto& text = *symbol.Property<clsPropertyText>();
+    const auto& record = *symbol.Property<clsPropertyText>();
+    const bool locked = !record.blDynamic && clsFontAdmin::IsDeviceFont(record.FontName);
+    const clsPropertyText text = locked ? AsLockedField(record) : record;
     if (text.blDynamic) {
         auto tag = GetNewEditText(admin, text);
         symbol.DefineID(tag->ID);

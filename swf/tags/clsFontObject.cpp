@@ -1,7 +1,6 @@
 #include "swf/tags/clsFontObject.h"
 
 #include <algorithm>
-#include <numeric>
 
 #include "platform/codepage.h"
 
@@ -34,6 +33,16 @@ void DrawContour(clsSWFTShapeRecords& records, const OutlineContour& contour) {
         records.DrawLineTo(contour.Start.X, contour.Start.Y);
 }
 
+/// Records that the contours of an outline take at most.
+std::size_t RecordCount(const GlyphOutlineRecord& outline) {
+    std::size_t count = 1;
+    for (const OutlineContour& contour : outline.Contours) {
+        count += 2;
+        for (const OutlineCurve& curve : contour.Curves) count += curve.Points.size();
+    }
+    return count;
+}
+
 }  // namespace
 
 std::uint32_t AnsiCode(char16_t character) {
@@ -53,44 +62,39 @@ void clsFontObject::AuthorFrame(Long frame) {
 void clsFontObject::blSJis(bool value) {
     if (value == sJis_) return;
     sJis_ = value;
-    for (std::size_t i = 0; i < map_.size(); ++i) codes_[i] = CodeOf(map_[i]);
-    std::vector<std::size_t> order(map_.size());
-    std::iota(order.begin(), order.end(), std::size_t{0});
-    std::stable_sort(order.begin(), order.end(),
-                     [this](std::size_t a, std::size_t b) { return codes_[a] < codes_[b]; });
-    clsFontObject sorted(FontName);
-    for (const std::size_t i : order) {
-        sorted.map_ += map_[i];
-        sorted.data_.push_back(data_[i]);
-        sorted.codes_.push_back(codes_[i]);
-    }
-    map_ = std::move(sorted.map_);
-    data_ = std::move(sorted.data_);
-    codes_ = std::move(sorted.codes_);
+    for (Glyph& glyph : glyphs_) glyph.Code = CodeOf(glyph.Character);
+    sorted_ = false;
 }
 
-Long clsFontObject::GetFontIndex(char16_t character) const {
-    // Characters without a place in the code page share the code of "?".
-    const auto [first, last] = std::equal_range(codes_.begin(), codes_.end(), CodeOf(character));
-    for (auto code = first; code != last; ++code) {
-        const auto index = static_cast<std::size_t>(code - codes_.begin());
-        if (map_[index] == character) return static_cast<Long>(index) + 1;
-    }
-    return 0;
+void clsFontObject::Sort() const {
+    if (sorted_) return;
+    // Characters without a place in the code page share the code of "?" and keep their order.
+    std::stable_sort(glyphs_.begin(), glyphs_.end(),
+                     [](const Glyph& a, const Glyph& b) { return a.Code < b.Code; });
+    for (std::size_t i = 0; i < glyphs_.size(); ++i)
+        positions_[glyphs_[i].Character] = static_cast<Long>(i) + 1;
+    sorted_ = true;
+}
+
+String clsFontObject::FontMap() const {
+    Sort();
+    String map;
+    map.reserve(glyphs_.size());
+    for (const Glyph& glyph : glyphs_) map += glyph.Character;
+    return map;
 }
 
 void clsFontObject::AddGlyph(char16_t character, const GlyphOutlineRecord& outline) {
-    clsFontData glyph;
-    glyph.CellIncX = outline.CellIncX;
-    glyph.tagShapeRecords = std::make_shared<clsSWFTShapeRecords>();
-    glyph.tagShapeRecords->SetFill0(1);
-    for (const OutlineContour& contour : outline.Contours)
-        DrawContour(*glyph.tagShapeRecords, contour);
-    const std::uint32_t code = CodeOf(character);
-    const auto place = std::upper_bound(codes_.begin(), codes_.end(), code) - codes_.begin();
-    map_.insert(map_.begin() + place, character);
-    data_.insert(data_.begin() + place, std::move(glyph));
-    codes_.insert(codes_.begin() + place, code);
+    Glyph glyph{character, CodeOf(character), {}};
+    glyph.Data.CellIncX = outline.CellIncX;
+    glyph.Data.tagShapeRecords = std::make_shared<clsSWFTShapeRecords>();
+    clsSWFTShapeRecords& records = *glyph.Data.tagShapeRecords;
+    records.colShapeRecords.reserve(RecordCount(outline));
+    records.SetFill0(1);
+    for (const OutlineContour& contour : outline.Contours) DrawContour(records, contour);
+    sorted_ = sorted_ && (glyphs_.empty() || glyphs_.back().Code <= glyph.Code);
+    glyphs_.push_back(std::move(glyph));
+    positions_[character] = GlyphCount();
 }
 
 }  // namespace tamber

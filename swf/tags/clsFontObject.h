@@ -25,11 +25,12 @@ public:
     const String FontName;
 
     /// The embedded characters in the order of their codes: those of code page 932, or of Unicode.
-    const String& FontMap() const { return map_; }
-    Long GlyphCount() const { return static_cast<Long>(map_.size()); }
+    String FontMap() const;
+    Long GlyphCount() const { return static_cast<Long>(glyphs_.size()); }
     /// Glyph of the `index`-th character, from 1.
     const clsFontData& FontData(Long index) const {
-        return data_.at(static_cast<std::size_t>(index - 1));
+        Sort();
+        return glyphs_.at(static_cast<std::size_t>(index - 1)).Data;
     }
     /// Characters are in the order of code page 932. A change sorts them anew.
     bool blSJis() const { return sJis_; }
@@ -39,17 +40,30 @@ public:
     void AuthorFrame(Long frame);
     void InitAuthorFrame() { authorFrame_ = 0; }
 
+    bool Holds(char16_t character) const { return positions_[character] != 0; }
     /// Position of a character, from 1; 0 when it is not embedded.
-    Long GetFontIndex(char16_t character) const;
+    Long GetFontIndex(char16_t character) const {
+        Sort();
+        return positions_[character];
+    }
     /// Embeds a character, which must not be there yet.
     void AddGlyph(char16_t character, const GlyphOutlineRecord& outline);
 
 private:
-    std::uint32_t CodeOf(char16_t character) const;
+    struct Glyph {
+        char16_t Character = 0;
+        std::uint32_t Code = 0;
+        clsFontData Data;
+    };
 
-    String map_;
-    std::vector<clsFontData> data_;
-    std::vector<std::uint32_t> codes_;
+    std::uint32_t CodeOf(char16_t character) const;
+    /// Puts glyphs that came since into their places.
+    void Sort() const;
+
+    mutable std::vector<Glyph> glyphs_;
+    /// Of every character, in `glyphs_` from 1.
+    mutable std::vector<Long> positions_ = std::vector<Long>(0x10000);
+    mutable bool sorted_ = true;
     bool sJis_ = false;
     Long authorFrame_ = 0;
 };

@@ -29,8 +29,8 @@ bool IsJapaneseDevice(StringView name) {
 
 bool clsSWFTagDefineFont::HasWideCodes() const {
     if (mdlSWFTag::swfVersion() >= UnicodeVersion) return true;
-    return std::any_of(FontObject->FontMap().begin(), FontObject->FontMap().end(),
-                       [](char16_t c) { return AnsiCode(c) > 0xFF; });
+    const String map = FontObject->FontMap();
+    return std::any_of(map.begin(), map.end(), [](char16_t c) { return AnsiCode(c) > 0xFF; });
 }
 
 void clsSWFTagDefineFont::SaveFlags() const {
