@@ -31,7 +31,8 @@ BitmapOptions OptionsOf(const clsPropertyBmp& record) {
 /// A drawing without what it was meant to show would look like a fault of the program.
 void TellLeftOut(StringView path, const std::vector<String>& features) {
     String line = GetFileName(path) + u"：次の要素には対応していないため除きました：";
-    for (const String& feature : features) line += (&feature == &features[0] ? u"" : u"、") + feature;
+    for (const String& feature : features)
+        line += (&feature == &features[0] ? u"" : u"、") + feature;
     CurrentUserInterface().Status(line);
 }
 

@@ -137,8 +137,7 @@ int Info(const Options& options) {
 int RunWithoutWindow(const Options& options) {
     OwnEnvironment environment;
     Application application(environment);
-    const String path =
-        options.Words.empty() ? String() : u"\"" + PathOf(options.Words[0]) + u"\"";
+    const String path = options.Words.empty() ? String() : u"\"" + PathOf(options.Words[0]) + u"\"";
     if (!application.Main(path)) return CouldNot;
     application.Stop();
     std::fprintf(stderr, "Tamber: this build has no window; Tamber --help tells its commands\n");

@@ -18,7 +18,8 @@ public:
     /// The start sequence: other instance, screen, components, libraries, controller. False when
     /// the program ends at once; the user was told why and nothing is left loaded.
     bool Main(StringView commandLine);
-    /// The stop sequence; temporary files that the program's folder holds are deleted. A second call does nothing.
+    /// The stop sequence; temporary files that the program's folder holds are deleted. A second
+    /// call does nothing.
     void Stop();
 
     frmMain* Controller() { return controller_.get(); }

@@ -4,9 +4,9 @@
 
 #include "platform/codepage.h"
 #include "platform/fonts.h"
+#include "swf/tags/TextLayout.h"
 #include "swf/tags/clsFontAdmin.h"
 #include "swf/tags/clsSWFTagDefineFont.h"
-#include "swf/tags/TextLayout.h"
 
 namespace tamber {
 namespace {

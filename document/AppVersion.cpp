@@ -5,8 +5,8 @@
 namespace tamber {
 
 String VersionText(const AppVersionNumbers& version) {
-    String text = ToText(version.Major) + u"." + ToText(version.Minor) + u"." +
-                  ToText(version.Revision);
+    String text =
+        ToText(version.Major) + u"." + ToText(version.Minor) + u"." + ToText(version.Revision);
     if (version.Build != 0) text += u"." + ToText(version.Build);
     return text;
 }

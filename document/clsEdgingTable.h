@@ -29,8 +29,8 @@ public:
     bool RemovePoint(std::size_t index);
     /// Back to the two end points.
     void Reset();
-    /// Position of the control point nearest to `point`, end points left aside; nothing when none is
-    /// within `reach` in both time and progress.
+    /// Position of the control point nearest to `point`, end points left aside; nothing when none
+    /// is within `reach` in both time and progress.
     std::optional<std::size_t> FindPoint(EdgingPoint point, EdgingPoint reach) const;
 
     void Load(clsCSV& csv);

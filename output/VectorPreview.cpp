@@ -22,8 +22,7 @@ SwfRect Union(const SwfRect& a, const SwfRect& b) {
 }
 
 SwfRect StageOf(const clsPropertyVector& record, const clsPropertyVector* end) {
-    if (end == nullptr)
-        return {0, 0, record.Width * TwipsPerPixel, record.height * TwipsPerPixel};
+    if (end == nullptr) return {0, 0, record.Width * TwipsPerPixel, record.height * TwipsPerPixel};
     return Union(record.inVector2(false)->inSWFTShapeRecords->GetBounds(false),
                  end->inVector2(false)->inSWFTShapeRecords->GetBounds(false));
 }

@@ -28,9 +28,15 @@ Answer ConsoleUserInterface::Ask(StringView text, StringView title, Choices choi
     return choices == Choices::YesNoCancel ? Answer::Cancel : Answer::No;
 }
 
-String ConsoleUserInterface::OpenFileDialog(const FileDialog&) { return {}; }
-String ConsoleUserInterface::SaveFileDialog(const FileDialog&) { return {}; }
-String ConsoleUserInterface::SelectFolderDialog(StringView) { return {}; }
+String ConsoleUserInterface::OpenFileDialog(const FileDialog&) {
+    return {};
+}
+String ConsoleUserInterface::SaveFileDialog(const FileDialog&) {
+    return {};
+}
+String ConsoleUserInterface::SelectFolderDialog(StringView) {
+    return {};
+}
 
 void ConsoleUserInterface::Progress(StringView, Long done, Long total) {
     if (total <= 0 || isatty(STDERR_FILENO) == 0) return;

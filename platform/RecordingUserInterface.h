@@ -28,8 +28,7 @@ public:
     }
     Answer Ask(StringView text, StringView title, Choices choices) override {
         Questions.push_back({String(text), String(title)});
-        if (Answers.empty())
-            return choices == Choices::YesNoCancel ? Answer::Cancel : Answer::No;
+        if (Answers.empty()) return choices == Choices::YesNoCancel ? Answer::Cancel : Answer::No;
         const Answer answer = Answers.front();
         Answers.pop_front();
         return answer;

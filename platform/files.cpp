@@ -42,7 +42,9 @@ private:
     int descriptor_;
 };
 
-bool StepAllowed() { return !BeforeWriteStep() || BeforeWriteStep()(); }
+bool StepAllowed() {
+    return !BeforeWriteStep() || BeforeWriteStep()();
+}
 
 bool WriteAll(int descriptor, ByteView bytes) {
     while (!bytes.empty()) {

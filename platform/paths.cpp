@@ -12,7 +12,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-fs::path Native(StringView path) { return fs::path(ToNarrow(path)); }
+fs::path Native(StringView path) {
+    return fs::path(ToNarrow(path));
+}
 
 bool IsDrivePath(StringView path) {
     const bool letter = !path.empty() && ((path[0] >= u'a' && path[0] <= u'z') ||
@@ -153,8 +155,12 @@ String PathFromCell(StringView cell) {
     return path;
 }
 
-String ProgramFolder() { return ProgramFolderText(); }
-void ProgramFolder(StringView folder) { ProgramFolderText() = folder; }
+String ProgramFolder() {
+    return ProgramFolderText();
+}
+void ProgramFolder(StringView folder) {
+    ProgramFolderText() = folder;
+}
 
 String ReplaceAppDirToken(StringView path) {
     String result = ReplaceAll(path, u"$(TAMBERDIR)", ProgramFolder());

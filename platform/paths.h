@@ -30,7 +30,8 @@ String JoinPath(StringView folder, StringView name);
 
 /// Creates each missing level of a folder path. False when one cannot be made.
 bool MakeFolders(StringView path);
-/// Path of `path` as seen from the folder `base`; `path` as it stands when there is no relative one.
+/// Path of `path` as seen from the folder `base`; `path` as it stands when there is no relative
+/// one.
 String MakeRelativePath(StringView base, StringView path);
 /// Resolves "." and ".." segments, only when the path holds any; letter case stays.
 String NormalizePath(StringView path);

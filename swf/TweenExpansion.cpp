@@ -113,8 +113,7 @@ void ChooseMorphing(const Tween& tween, const TweenPath& path) {
     if (path.SegmentCount() == 1) start.blMatrixMorphing = start.CkMatrixMorphing(end);
     start.blColorMorphing = start.CkColorMorphing(end);
     if (!filters) return;
-    start.blFilterMorphing =
-        tween.blMorph ? start.FilterCount() > 0 : start.CkFilterMorphing(end);
+    start.blFilterMorphing = tween.blMorph ? start.FilterCount() > 0 : start.CkFilterMorphing(end);
 }
 
 void RemoveFrom(clsSWFAdmin& admin, Long frame, const clsSWFTagPlaceObject& tag) {

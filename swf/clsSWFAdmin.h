@@ -24,8 +24,8 @@ public:
     bool blCompress = false;
     /// Red in the low byte; negative: no background tag is written.
     Long BackGroundColor = -1;
-    /// Fonts of the movie, whose identifiers are the first ones; null for a sprite's own timeline and
-    /// a movie without text. Set before InitSWF.
+    /// Fonts of the movie, whose identifiers are the first ones; null for a sprite's own timeline
+    /// and a movie without text. Set before InitSWF.
     std::shared_ptr<clsFontAdmin> inFontAdmin;
     /// The last identifier handed out.
     Long DefineID = 0;
@@ -48,8 +48,8 @@ public:
     void FrameCount(Long count);
 
     void SetFrameLabel(Long frame, StringView name, bool blAnchor);
-    /// False for a frame below 1 or no tag. The frame table grows as needed. The definition of a text
-    /// brings its font into the frame.
+    /// False for a frame below 1 or no tag. The frame table grows as needed. The definition of a
+    /// text brings its font into the frame.
     bool AddTag(Long frame, SWFTagReference tag, bool blDefine);
     bool AddPlaceObj(Long frame, std::shared_ptr<clsSWFTagPlaceObject> tag);
     /// Counts a placement of `count` definitions from `id` on.
@@ -77,8 +77,8 @@ public:
     std::shared_ptr<clsSWFTagDefineScalingGrid> GetNewScalingGrid(Long id, Long xMin, Long xMax,
                                                                   Long yMin, Long yMax);
 
-    /// Writes background, fonts, frames and tail into the stream: fonts of frame 1 before it, others
-    /// behind it.
+    /// Writes background, fonts, frames and tail into the stream: fonts of frame 1 before it,
+    /// others behind it.
     void FramesSave();
     /// Writes the whole file. False when it could not be written; an earlier file then stays.
     bool Save(StringView path);

@@ -78,8 +78,7 @@ struct Timeline {
 /// One build: defines symbols on first need and walks the timelines.
 class Authoring {
 public:
-    Authoring(const MovieRequest& request, clsSWFAdmin& movie)
-        : request_(request), movie_(movie) {}
+    Authoring(const MovieRequest& request, clsSWFAdmin& movie) : request_(request), movie_(movie) {}
 
     void PreDefineFrameOne(clsSWFAdmin& admin);
     void DefineExports(clsSWFAdmin& admin, Long mode);
@@ -161,8 +160,7 @@ Long Authoring::EnsureDefined(clsSWFAdmin& admin, const clsLayer* layer, clsSymb
         if (layer == nullptr && several) symbol.DefineNum = VectorForm::MorphStart;
         if (layer != nullptr && layer->ClippingDepth != 0) symbol.DefineNum = VectorForm::Clip;
     }
-    const Long id =
-        symbol.DefineID() == 0 ? DefineSymbol(admin, symbol, frame) : symbol.DefineID();
+    const Long id = symbol.DefineID() == 0 ? DefineSymbol(admin, symbol, frame) : symbol.DefineID();
     symbol.DefineNum = VectorForm::Plain;
     return id;
 }
@@ -333,13 +331,12 @@ void Authoring::LeaveOut(const clsLayer& layer) {
 
 void Authoring::LeaveOutKomas(const clsLayer& layer) {
     const auto& komas = *layer.SymbolData()->Property<clsPropertyKoma>()->colKomas;
-    const bool whole = std::all_of(komas.begin(), komas.end(), [](const auto& koma) {
-        return CanDefine(koma->eType());
-    });
+    const bool whole = std::all_of(komas.begin(), komas.end(),
+                                   [](const auto& koma) { return CanDefine(koma->eType()); });
     if (whole || !leftOut_.insert(&layer).second) return;
-    ShowMessage(u"生成に対応していない種類のコマがあります。\r\nコマ動画（" + layer.LayerNameView() +
-                    u"）",
-                ProgramTitle, MessageIcon::Warning);
+    ShowMessage(
+        u"生成に対応していない種類のコマがあります。\r\nコマ動画（" + layer.LayerNameView() + u"）",
+        ProgramTitle, MessageIcon::Warning);
 }
 
 void Authoring::LeaveOutScripts(const clsLayer& layer) {
@@ -436,8 +433,7 @@ void Authoring::PlaceKomas(const Timeline& timeline, const clsLayer& layer,
 }
 
 /// Defines what a deformed key frame shows. It is divided where its layer has the depths.
-LayerPlacement::DeformedCharacter Authoring::Deform(const Timeline& timeline,
-                                                    const clsLayer& layer,
+LayerPlacement::DeformedCharacter Authoring::Deform(const Timeline& timeline, const clsLayer& layer,
                                                     const clsLayerObject& start,
                                                     const clsLayerObject* end) {
     const auto* from = start.ObjectAs<clsObjVector>();
@@ -445,8 +441,8 @@ LayerPlacement::DeformedCharacter Authoring::Deform(const Timeline& timeline,
     const auto& record = *layer.SymbolData()->Property<clsPropertyVector>();
     const DeformedVector deformed = DeformSymbol(*layer.SymbolData(), from, to);
     auto& own = *deformed.Start->Property<clsPropertyVector>();
-    const bool wanted = record.blDivide || (from != nullptr && from->blDivide) ||
-                        (to != nullptr && to->blDivide);
+    const bool wanted =
+        record.blDivide || (from != nullptr && from->blDivide) || (to != nullptr && to->blDivide);
     own.blDivide = wanted && layer.DepthCnt(true) == own.ShapeCount();
     if (layer.ClippingDepth != 0) deformed.Start->DefineNum = VectorForm::Clip;
     const Long frame = timeline.IsMain() ? std::min(start.StartFrame(), 2) : timeline.SpriteFrame;

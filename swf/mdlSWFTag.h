@@ -95,8 +95,7 @@ public:
         state_.Pending = state_.Pending << bitCount | value;
         state_.Count += bitCount;
         std::uint64_t bytes = state_.Pending << (64 - state_.Count);
-        if constexpr (std::endian::native == std::endian::little)
-            bytes = __builtin_bswap64(bytes);
+        if constexpr (std::endian::native == std::endian::little) bytes = __builtin_bswap64(bytes);
         std::memcpy(state_.Target, &bytes, sizeof bytes);
         state_.Target += state_.Count >> 3;
         state_.Count &= 7;

@@ -8,8 +8,8 @@ namespace tamber {
 struct LineOptions {
     bool blNoLineScale = false;  ///< width stays when the symbol is scaled
     bool blPixelHinting = false;
-    Long CapStyle = 0;   ///< 0 round, 1 none, 2 square
-    Long JoinStyle = 0;  ///< 0 round, 1 bevel, 2 miter
+    Long CapStyle = 0;       ///< 0 round, 1 none, 2 square
+    Long JoinStyle = 0;      ///< 0 round, 1 bevel, 2 miter
     Long MiterLimit = 1024;  ///< 1/256
 
     /// Copies of line styles with these options.

@@ -58,8 +58,7 @@ Long CheckMorph(const clsVectorData& start, const clsVectorData& end, Long versi
     if (start.colBitmap.size() != end.colBitmap.size()) return MorphCheck::FillKind;
     if (start.colShapeData.size() != end.colShapeData.size()) return MorphCheck::ShapeCount;
     for (std::size_t i = 0; i < start.colShapeData.size(); ++i)
-        if (const Long result =
-                CheckShapes(*start.colShapeData[i], *end.colShapeData[i], version))
+        if (const Long result = CheckShapes(*start.colShapeData[i], *end.colShapeData[i], version))
             return result;
     return MorphCheck::Possible;
 }

@@ -97,8 +97,7 @@ private:
     }
 
     Long ReachOf(const clsSWFTShapeStyleChange& change) const {
-        const Long before =
-            keepStyles_ ? 0 : static_cast<Long>(result_->colLineStyles->size());
+        const Long before = keepStyles_ ? 0 : static_cast<Long>(result_->colLineStyles->size());
         const Long index = change.LineStyle - before;
         if (change.LineStyle == 0 || index < 1 || index > static_cast<Long>(lines_.size()))
             return 0;

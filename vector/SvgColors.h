@@ -6,11 +6,13 @@
 
 namespace tamber {
 
-/// 0xRRGGBB from "#rgb", "#rrggbb", "rgb(r,g,b)" in decimal numbers or a colour keyword; nothing from
-/// any other text.
+/// 0xRRGGBB from "#rgb", "#rrggbb", "rgb(r,g,b)" in decimal numbers or a colour keyword; nothing
+/// from any other text.
 std::optional<Long> FindSvgColor(StringView text);
 /// As FindSvgColor, with 0 for a text that is no colour.
-inline Long ParseSvgColor(StringView text) { return FindSvgColor(text).value_or(0); }
+inline Long ParseSvgColor(StringView text) {
+    return FindSvgColor(text).value_or(0);
+}
 
 /// RGBA as styles hold it, red in the low byte, from 0xRRGGBB and alpha, 0 to 255.
 Long ToSvgRgba(Long color, Long alpha);

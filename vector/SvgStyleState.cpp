@@ -72,8 +72,7 @@ bool SvgStyleState::ApplyPaint(const SvgAttribute& item, SvgLeftOut& leftOut) {
     color = item.Value == u"none" ? NoColor : ParseSvgColor(item.Value);
     const bool percent = item.Value.find(u'%') != StringView::npos;
     const bool known = reference || item.Value == u"currentColor" || item.Value == u"none";
-    if (!known && (percent || !FindSvgColor(item.Value)))
-        leftOut.Note(SvgFeature::Paint);
+    if (!known && (percent || !FindSvgColor(item.Value))) leftOut.Note(SvgFeature::Paint);
     return true;
 }
 

@@ -24,8 +24,7 @@ clsSWFTFillStyle MapFill(const clsSWFTFillStyle& fill, const FreeTransformation&
         return mapped;
     }
     Single angle = 0;
-    const SwfPoint centre =
-        mapping.MapPoint({matrix->GradCenterX, matrix->GradCenterY}, &angle);
+    const SwfPoint centre = mapping.MapPoint({matrix->GradCenterX, matrix->GradCenterY}, &angle);
     matrix->GradCenterX = centre.X;
     matrix->GradCenterY = centre.Y;
     matrix->GradAngle += angle;
@@ -80,8 +79,7 @@ std::shared_ptr<clsVectorData2> clsVectorData2::FreeTransform(Long width, Long h
     result->colFillStyles->reserve(colFillStyles->size());
     for (const clsSWFTFillStyle& fill : *colFillStyles)
         result->colFillStyles->push_back(MapFill(fill, mapping));
-    result->inSWFTShapeRecords->colShapeRecords.reserve(
-        inSWFTShapeRecords->colShapeRecords.size());
+    result->inSWFTShapeRecords->colShapeRecords.reserve(inSWFTShapeRecords->colShapeRecords.size());
     RecordMapper mapper(*this, mapping, *result->inSWFTShapeRecords);
     for (const clsSWFTShapeRecord& record : inSWFTShapeRecords->colShapeRecords)
         std::visit(mapper, record);

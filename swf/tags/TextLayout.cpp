@@ -10,8 +10,8 @@ namespace {
 
 /// Widths of very long lines stay within a RECT field.
 Long Sum(Long a, Long b) {
-    return static_cast<Long>(std::clamp<std::int64_t>(std::int64_t{a} + b, -mdlSWFTag::MaxField,
-                                                      mdlSWFTag::MaxField));
+    return static_cast<Long>(
+        std::clamp<std::int64_t>(std::int64_t{a} + b, -mdlSWFTag::MaxField, mdlSWFTag::MaxField));
 }
 
 }  // namespace

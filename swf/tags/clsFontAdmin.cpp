@@ -31,8 +31,7 @@ void clsFontAdmin::SetOutLine(const LogFont& face, StringView text) {
     if (IsDeviceFont(face.FaceName)) return;
     GlyphOutlineRecord outline;
     for (const char16_t character : text) {
-        if (character == u'\r' || character == u'\n' || font->Holds(character))
-            continue;
+        if (character == u'\r' || character == u'\n' || font->Holds(character)) continue;
         (void)GetCharOutline(outline, character, face);
         font->AddGlyph(character, outline);
     }

@@ -35,16 +35,15 @@ std::uint64_t Field(Long value, Long width) {
     return static_cast<std::uint32_t>(value) & ((std::uint64_t{1} << width) - 1);
 }
 
-inline void SaveEdge(const clsSWFTShapeStraightEdge& edge, ShapePen& pen,
-                     mdlSWFTag::BitRun& run) {
+inline void SaveEdge(const clsSWFTShapeStraightEdge& edge, ShapePen& pen, mdlSWFTag::BitRun& run) {
     const Long dx = Delta(edge.DrawX, pen.X);
     const Long dy = Delta(edge.DrawY, pen.Y);
     const Long width = std::min(EdgeWidth(Magnitude(dx) | Magnitude(dy)), MaxEdgeBits);
     // An edge, straight, its width, and whether it has both directions.
     const std::uint64_t head = 3u << 4 | static_cast<std::uint64_t>(width - 2);
     if (dx != 0 && dy != 0) {
-        const std::uint64_t fields = Field(ClampDelta(dx, width), width) << width |
-                                     Field(ClampDelta(dy, width), width);
+        const std::uint64_t fields =
+            Field(ClampDelta(dx, width), width) << width | Field(ClampDelta(dy, width), width);
         run.Put(7 + 2 * width, (head << 1 | 1) << (2 * width) | fields);
     } else {
         const bool vertical = dy != 0;
@@ -61,8 +60,7 @@ inline bool SaveEdge(const clsSWFTShapeCurveEdge& edge, ShapePen& pen, mdlSWFTag
     const Long cy = Delta(edge.ControlY, pen.Y);
     const Long ax = Delta(edge.AnchorX, edge.ControlX);
     const Long ay = Delta(edge.AnchorY, edge.ControlY);
-    const Long width =
-        EdgeWidth(Magnitude(cx) | Magnitude(cy) | Magnitude(ax) | Magnitude(ay));
+    const Long width = EdgeWidth(Magnitude(cx) | Magnitude(cy) | Magnitude(ax) | Magnitude(ay));
     const std::uint64_t head = 2u << 4 | static_cast<std::uint64_t>(width - 2);
     const std::uint64_t control = Field(cx, width) << width | Field(cy, width);
     const std::uint64_t anchor = Field(ax, width) << width | Field(ay, width);

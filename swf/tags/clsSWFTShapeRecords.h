@@ -15,9 +15,7 @@ struct ShapeBounds {
 
     void Include(Long x, Long y, Long margin);
     /// All 0 while there is no point.
-    SwfRect Rectangle() const {
-        return XMin > XMax ? SwfRect{} : SwfRect{XMin, YMin, XMax, YMax};
-    }
+    SwfRect Rectangle() const { return XMin > XMax ? SwfRect{} : SwfRect{XMin, YMin, XMax, YMax}; }
 };
 
 /// The records of a shape, built by drawing commands in absolute twips.

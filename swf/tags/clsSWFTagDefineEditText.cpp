@@ -13,16 +13,14 @@ bool clsSWFTagDefineEditText::HasColor() const {
 }
 
 bool clsSWFTagDefineEditText::HasLayout() const {
-    return Alignment != 0 || LeftMargin != 0 || RightMargin != 0 || Indent != 0 ||
-           FontLeading != 0;
+    return Alignment != 0 || LeftMargin != 0 || RightMargin != 0 || Indent != 0 || FontLeading != 0;
 }
 
 void clsSWFTagDefineEditText::SaveFlags() const {
     const bool sizes = mdlSWFTag::swfVersion() >= AutoSizeVersion && blAutoSize;
-    for (const bool flag :
-         {!InitialText.empty(), blWordWrap, blMultiLine, blPassword, blReadOnly, HasColor(),
-          MaxLength != 0, FontID != 0, false, sizes, HasLayout(), blNoSelect, blBorder, false,
-          blHtml, blUseOutLines})
+    for (const bool flag : {!InitialText.empty(), blWordWrap, blMultiLine, blPassword, blReadOnly,
+                            HasColor(), MaxLength != 0, FontID != 0, false, sizes, HasLayout(),
+                            blNoSelect, blBorder, false, blHtml, blUseOutLines})
         mdlSWFTag::SetBits(1, flag ? 1 : 0);
 }
 

@@ -5,8 +5,9 @@
 
 namespace tamber {
 
-/// DefineFont2: identifier, flags, language, name, offsets, glyph shapes, codes, and the layout with
-/// the ascent at 0 and the descent at 1024, since glyphs are measured from the top of their cell.
+/// DefineFont2: identifier, flags, language, name, offsets, glyph shapes, codes, and the layout
+/// with the ascent at 0 and the descent at 1024, since glyphs are measured from the top of their
+/// cell.
 class clsSWFTagDefineFont : public clsSWFTag {
 public:
     Long ID = 0;

@@ -5,9 +5,9 @@
 
 namespace tamber {
 
-/// DefineText2: identifier, bounds, matrix, widths of the fields, then a record a line: flags, font,
-/// colour, place, size, and index and advance of each glyph. The layout is made at `Save`, when the
-/// glyphs of the font have their final places.
+/// DefineText2: identifier, bounds, matrix, widths of the fields, then a record a line: flags,
+/// font, colour, place, size, and index and advance of each glyph. The layout is made at `Save`,
+/// when the glyphs of the font have their final places.
 class clsSWFTagDefineText : public clsSWFTag {
 public:
     static constexpr Long Left = 0;

@@ -154,15 +154,13 @@ TEST_F(CommandLineTest, holds_on_to_sense_in_settings_and_output) {
     EXPECT_EQ(Tamber("--set FPS=1e39 --set CanvasWidth=99999").Code, 0);
     EXPECT_EQ(Tamber("none.kvf").Errors.substr(0, 6), "Tamber");
     EXPECT_NE(Tamber("none.kvf").Errors.find("ファイルが見つかりません。"), std::string::npos);
-    const std::string full =
-        "'" TAMBER_PROGRAM "' info " + hello + " > /dev/full 2>/dev/null";
+    const std::string full = "'" TAMBER_PROGRAM "' info " + hello + " > /dev/full 2>/dev/null";
     EXPECT_EQ(WEXITSTATUS(std::system(full.c_str())), 1);
     // Settings of the page travel in the project only when asked for.
     EXPECT_EQ(Tamber("convert " + hello + " a.kvf").Code, 0);
     EXPECT_EQ(TextOf(folder / "a.kvf").find("HTML,"), std::string::npos);
     EXPECT_EQ(Tamber("convert " + hello + " b.kvf --set flgHTMLtoProject=1 --set WIDTH=7").Code, 0);
-    EXPECT_NE(TextOf(folder / "b.kvf")
-                  .find("HTML,,7,0,,,True,True,False,high,,,True\r\n"),
+    EXPECT_NE(TextOf(folder / "b.kvf").find("HTML,,7,0,,,True,True,False,high,,,True\r\n"),
               std::string::npos);
 }
 

@@ -135,7 +135,7 @@ TEST_F(MainTest, caption_and_edit_context_name_what_is_edited) {
     controller.inProject.MainWidth = controller.inProject.MainHeight = 320;
     controller.inProject.FrameRate = 12.5f;
     EXPECT_EQ(controller.Caption(), u"Tamber Ver.0.9.0 [RichEdit版]");
-    controller.ProjectFileName = u"/work/海.kvf";
+    controller.ProjectFileName = u"/home/海.kvf";
     EXPECT_EQ(controller.Caption(), u"Tamber Ver.0.9.0 [RichEdit版] [海.kvf]");
     EXPECT_EQ(controller.CurrentEditContext().Text, u"メイン(SWF6,320*320,12.5)");
 

@@ -302,7 +302,8 @@ TEST_F(ProjectFile, ReadsOlderLayouts) {
 
 TEST_F(ProjectFile, AButtonMayEndBeforeItsGrid) {
     Project project;
-    ASSERT_TRUE(Load(u"KVF,0,9,0\r\n1,1,1,8\r\n1\r\n1,,ﾎﾞﾀﾝ,,,,B,True\r\n0,0,0,0\r\n0\r\n", project));
+    ASSERT_TRUE(
+        Load(u"KVF,0,9,0\r\n1,1,1,8\r\n1\r\n1,,ﾎﾞﾀﾝ,,,,B,True\r\n0,0,0,0\r\n0\r\n", project));
     EXPECT_TRUE((*project.colSymbol)(1)->Property<clsPropertyButton>()->blAutoHitTest);
     EXPECT_FALSE((*project.colSymbol)(1)->Property<clsPropertyButton>()->bl9Scale);
 }

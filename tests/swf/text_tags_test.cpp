@@ -100,12 +100,12 @@ TEST(DefineFont, has_the_told_bytes) {
     tag.FontName = u"F";
     tag.Bold = true;
     tag.FontObject = std::make_shared<clsFontObject>(font);
-    // Layout, wide offsets, wide codes, bold; Japanese; "F"; one glyph; its shape 8 bytes behind the
-    // table's start, the codes 10. The shape: 1 fill bit, no line bits; a change of fill 0 to 1; end:
-    // 0001 0000  00 0 0 1 0 1 0, 00000 and padding.
-    const Bytes version6{0x3F, 0x0C, 33,   0,    0,    0,    3,    0, 0x8D, 2, 1, 'F', 1,
-                         0,    8,    0,    0,    0,    11,   0,    0, 0,    0x10, 0x0A, 0x00,
-                         'A',  0,    0,    0,    0,    4,    0,    0, 0x04, 0x02, 0x08, 0x00, 0, 0};
+    // Layout, wide offsets, wide codes, bold; Japanese; "F"; one glyph; its shape 8 bytes behind
+    // the table's start, the codes 10. The shape: 1 fill bit, no line bits; a change of fill 0 to
+    // 1; end: 0001 0000  00 0 0 1 0 1 0, 00000 and padding.
+    const Bytes version6{0x3F, 0x0C, 33, 0, 0, 0,  3, 0,    0x8D, 2,    1,    'F',  1,
+                         0,    8,    0,  0, 0, 11, 0, 0,    0,    0x10, 0x0A, 0x00, 'A',
+                         0,    0,    0,  0, 4, 0,  0, 0x04, 0x02, 0x08, 0x00, 0,    0};
     EXPECT_EQ(Saved(tag, 6), version6);
     // Below version 6 one byte holds the code, and no language is told.
     const Bytes version5 = Saved(tag, 5);
@@ -121,12 +121,12 @@ TEST(DefineFont, tells_a_device_font_by_its_name) {
     tag.FontName = u"Font";
     EXPECT_TRUE(Saved(tag, 6).empty());
     tag.FontName = u"_sans";
-    EXPECT_EQ(Saved(tag, 8), (Bytes{0x3F, 0x0C, 14, 0, 0, 0, 1, 0, 0x04, 1, 5, '_', 's', 'a', 'n',
-                                    's', 0, 0, 2, 0}));
+    EXPECT_EQ(Saved(tag, 8), (Bytes{0x3F, 0x0C, 14,  0,   0,   0,   1, 0, 0x04, 1,
+                                    5,    '_',  's', 'a', 'n', 's', 0, 0, 2,    0}));
     tag.FontName = u"_等";
     // Shift-JIS (4) in the three bits behind the first.
-    EXPECT_EQ(Saved(tag, 5), (Bytes{0x3F, 0x0C, 12, 0, 0, 0, 1, 0, 0x40, 0, 3, '_', 0x93, 0x99, 0,
-                                    0, 2, 0}));
+    EXPECT_EQ(Saved(tag, 5),
+              (Bytes{0x3F, 0x0C, 12, 0, 0, 0, 1, 0, 0x40, 0, 3, '_', 0x93, 0x99, 0, 0, 2, 0}));
 }
 
 TEST(TextLayout, sets_lines_and_measures_them) {
@@ -161,8 +161,7 @@ TEST(DefineText, has_the_told_bytes) {
                          // First line: at 100, one glyph: 01 01100100 and padding.
                          0x8F, 1, 0, 0x12, 0, 0, 255, 100, 0, 0, 0, 200, 0, 1, 0x59, 0x00,
                          // Second line: at 0, two glyphs: 10 01100100, 00 01100100.
-                         0x8F, 1, 0, 0x12, 0, 0, 255, 0, 0, 200, 0, 200, 0, 2, 0x99, 0x06, 0x40,
-                         0};
+                         0x8F, 1, 0, 0x12, 0, 0, 255, 0, 0, 200, 0, 200, 0, 2, 0x99, 0x06, 0x40, 0};
     EXPECT_EQ(rest, expected);
 }
 
@@ -202,17 +201,16 @@ TEST(DefineEditText, has_the_told_bytes) {
     tag.VariableName = u"v";
     tag.InitialText = u"あ";
     // Text, read only, font; automatic size, outlines. Black has no colour.
-    EXPECT_EQ(Saved(tag, 6),
-              (Bytes{0x7F, 0x09, 16, 0, 0, 0, 5, 0, 0x08, 0x00, 0x89, 0x41, 1, 0, 240, 0, 'v', 0,
-                     0xE3, 0x81, 0x82, 0}));
+    EXPECT_EQ(Saved(tag, 6), (Bytes{0x7F, 0x09, 16, 0,   0, 0,   5, 0,    0x08, 0x00, 0x89,
+                                    0x41, 1,    0,  240, 0, 'v', 0, 0xE3, 0x81, 0x82, 0}));
     tag.FontColorBlue = 9;
     tag.Alignment = 2;
     tag.FontLeading = 40;
     tag.Width = 20;
     const Bytes bytes = Saved(tag, 5);
     // No automatic size below version 6; colour; layout.
-    const Bytes tail{0x8D, 0x21, 1, 0, 240, 0, 0, 0, 9, 255, 2, 0, 0, 0, 0, 0, 0, 40, 0, 'v', 0,
-                     0x82, 0xA0, 0};
+    const Bytes tail{0x8D, 0x21, 1, 0, 240, 0,  0, 0,   9, 255,  2,    0,
+                     0,    0,    0, 0, 0,   40, 0, 'v', 0, 0x82, 0xA0, 0};
     EXPECT_EQ(Bytes(bytes.end() - static_cast<std::ptrdiff_t>(tail.size()), bytes.end()), tail);
 }
 
@@ -221,8 +219,7 @@ TEST(CSMTextSettings, has_the_told_bytes) {
     tag.TextID = 7;
     tag.UseFlashType = 1;
     tag.Thickness = 1;
-    EXPECT_EQ(Saved(tag, 8),
-              (Bytes{0x8C, 0x12, 7, 0, 0x40, 0, 0, 0x80, 0x3F, 0, 0, 0, 0, 0}));
+    EXPECT_EQ(Saved(tag, 8), (Bytes{0x8C, 0x12, 7, 0, 0x40, 0, 0, 0x80, 0x3F, 0, 0, 0, 0, 0}));
 }
 
 TEST(Fonts, stand_before_or_behind_the_first_frame) {

@@ -112,7 +112,8 @@ TEST(FreeTransformation, points_lie_where_the_divided_sides_meet) {
         {{{{0, 0}, {100, 0}, {150, 100}, {50, 100}}}, {50, 50}, {75, 50}},
         // A trapezium: the middle of the top is (50, 0), of the bottom (50, 100).
         {{{{25, 0}, {75, 0}, {100, 100}, {0, 100}}}, {50, 50}, {50, 50}},
-        // Its left side at half height is (12.5, 50), its right one (87.5, 50); a quarter across the
+        // Its left side at half height is (12.5, 50), its right one (87.5, 50); a quarter across
+        // the
         // top is 37.5, across the bottom 25, and 31.25 half way down.
         {{{{25, 0}, {75, 0}, {100, 100}, {0, 100}}}, {25, 50}, {31, 50}},
         // Top and bottom fall together: upright lines have no direction, the middle counts.
@@ -159,13 +160,11 @@ TEST(Morph, the_first_difference_is_the_result) {
         change(*end);
         return CheckMorph(*start, *end, 8);
     };
-    const auto records = [](clsVectorData& end) -> auto& {
+    const auto records = [](clsVectorData & end) -> auto& {
         return end.colShapeData[1]->inSWFTShapeRecords->colShapeRecords;
     };
     EXPECT_EQ(check([](auto&) {}), 0);
-    EXPECT_EQ(check([](auto& e) {
-                  e.colBitmap.push_back(std::make_shared<clsVectorBitmap>(20));
-              }),
+    EXPECT_EQ(check([](auto& e) { e.colBitmap.push_back(std::make_shared<clsVectorBitmap>(20)); }),
               4);
     EXPECT_EQ(check([](auto& e) { e.colShapeData.pop_back(); }), 9);
     EXPECT_EQ(check([&](auto& e) { records(e).pop_back(); }), 3);
