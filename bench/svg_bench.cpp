@@ -51,6 +51,7 @@ BENCHMARK(ReadDrawing)
     ->Args({10000, 20})
     ->Args({100000, 20})
     ->Args({1000000, 20})
+    ->Args({100000, 100})
     ->Args({100000, 10000})
     ->Unit(benchmark::kMillisecond);
 
@@ -66,7 +67,11 @@ void Libxml2(benchmark::State& state) {
     }
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
 }
-BENCHMARK(Libxml2)->Args({100000, 20})->Args({100000, 10000})->Unit(benchmark::kMillisecond);
+BENCHMARK(Libxml2)
+    ->Args({100000, 20})
+    ->Args({100000, 100})
+    ->Args({100000, 10000})
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace tamber

@@ -33,7 +33,7 @@ constexpr Long readingGrowth = 128;
 constexpr std::size_t magicSize = 4;
 constexpr std::size_t compressedHead = 8;
 /// Bytes of a project text; far above any real one, and within the memory at hand.
-constexpr std::size_t largestText = std::size_t{128} << 20;
+constexpr std::size_t largestText = std::size_t{48} << 20;
 
 /// An asset could not be had; the user was told why.
 struct LoadStopped {};
