@@ -1,0 +1,234 @@
+#pragma once
+
+#include <array>
+#include <map>
+#include <string>
+
+#include "script/compiler/ActionCode.h"
+#include "script/compiler/ConstantFolder.h"
+#include "script/compiler/Diagnostics.h"
+#include "script/compiler/Node.h"
+
+namespace tamber {
+
+struct Builtin;
+
+/// Makes code of statements as they are read. Functions declared at the top go into a code of their
+/// own, which runs first.
+class CodeGenerator {
+public:
+    CodeGenerator(SymbolTable& symbols, Long version, Diagnostics& diagnostics);
+
+    /// One statement at the top.
+    void Generate(const Node& statement);
+    const ActionCode& Functions() const { return functions_; }
+    const ActionCode& Main() const { return main_; }
+
+private:
+    using Label = ActionCode::Label;
+
+    // What surrounds the code being made.
+    enum class ScopeKind : Byte { Loop, ForIn, Switch, TellTarget, Guard };
+    struct Scope {
+        ScopeKind Kind;
+        /// Where break and continue lead; of a guard, the end of its block.
+        Label Break = 0;
+        Label Continue = 0;
+        const Node* Statement = nullptr;
+        /// Of a guard, the variable that says how the block was left.
+        Symbol* Exit = nullptr;
+    };
+    static constexpr std::size_t NoRecord = SIZE_MAX;
+    /// Expressions in each other that are made by recursion on the left.
+    static constexpr int MaxDepth = 2000;
+
+    struct FunctionState {
+        const FunctionNode* Node = nullptr;
+        /// Of its registers; NoRecord when it has none of its own.
+        std::size_t Record = NoRecord;
+        std::size_t FirstScope = 0;
+        int Withs = 0;
+        Byte This = 0;
+        Byte Arguments = 0;
+        Byte Super = 0;
+        Byte Root = 0;
+        Byte Parent = 0;
+        Byte Global = 0;
+    };
+    /// Where a value lies.
+    enum class PlaceKind : Byte { Register, Variable, Property, Member, Index, Named };
+    struct Place {
+        PlaceKind Kind = PlaceKind::Variable;
+        Byte Register = 0;
+        Byte Property = 0;
+        /// The variable, the member, or in version 4 the path of the clip with the property.
+        Symbol* Name = nullptr;
+        const Node* Object = nullptr;
+        const Node* Key = nullptr;
+    };
+    struct ClassRecord {
+        /// Path of the base class; empty for none.
+        std::string Base;
+        /// True for a static member.
+        std::map<const Symbol*, bool> Members;
+    };
+    struct MemberFound {
+        bool IsFound = false;
+        bool IsStatic = false;
+        const Node* Class = nullptr;
+    };
+
+    // Statements.
+    void Statement(const Node& node);
+    void Statements(const Node* first);
+    void Var(const Node& node);
+    void If(const Node& node);
+    void While(const Node& node);
+    void DoWhile(const Node& node);
+    void For(const Node& node);
+    void Loop(const Node* condition, const Node& body, const Node* step, std::uint32_t line);
+    void ForIn(const Node& node);
+    void EnumerateObject(const Node& node);
+    void AssignEnumerated(const Node& target);
+    void Switch(const Node& node);
+    void SwitchTests(const Node& node, const std::vector<Label>& labels, Label end);
+    void TestOfCase(const Node& value);
+    void With(const Node& node);
+    void TellTarget(const Node& node);
+    void SetTarget(const Node& target);
+    void RestoreTarget();
+    void IfFrameLoaded(const Node& node);
+    void Try(const Node& node);
+    void GuardBlock(const Node* block, const Node& statement, Symbol* exit);
+    void Return(const Node& node);
+    void Throw(const Node& node);
+    void Leave(NodeKind kind);
+    void LeaveGuard(const Scope& scope, NodeKind kind);
+    void AfterGuard(const Node& statement, Symbol* exit);
+    void UnwindForIn();
+    Symbol* ExitName();
+    void SetLocal();
+    static bool HasLast(const Scope& scope);
+
+    // Expressions.
+    void Expression(const Node& node);
+    void Effect(const Node& node);
+    void EffectOfConditional(const Node& node);
+    void Condition(const Node& node, Label label, bool jumpIf);
+    void ConditionChain(const Node& node, Label label, bool jumpIf);
+    void ConditionValue(const Node& node, Label label, bool jumpIf);
+    void Binary(const Node& node);
+    void BinaryRest(const Node& node);
+    bool IsReversed(const Node& node) const;
+    bool IsMadeReversed(const Node& node) const;
+    void Reversed(const Node& node);
+    void SwapOperands(const Node& node);
+    static bool IsNegated(Operator op);
+    Opcode ActionOf(Operator op) const;
+    void Unary(const Node& node);
+    void Delete(const Node& target);
+    void Conditional(const Node& node);
+    void ObjectLiteral(const Node& node);
+    void ArrayLiteral(const Node& node);
+    void Name(const Node& node);
+    void This();
+    void Super();
+    bool IsSimple(const Node& node) const;
+    void PushInteger(Long value) { code_->PushNumber(value); }
+    void Numeric(double value);
+    void NumericOperand(const Node& node);
+    static bool TakesNumbers(Operator op);
+    static bool EndsInNot(const Node& condition);
+    void ReturnValue(const Node* value);
+    void PushLiteral(const Node& node);
+    void Text(std::string_view text) { code_->PushText(symbols_.InternCopy(text)); }
+    void Undefined();
+
+    // Places.
+    Place PlaceOf(const Node& node);
+    Place PlaceOfVersion4(const Node& node);
+    void PushPlace(const Place& place);
+    void Load(const Place& place);
+    void Store(const Place& place);
+    void Assign(const Node& node, bool isWanted);
+    void AssignPlain(const Place& place, const Node& value, bool isWanted);
+    void StoreWanted(const Place& place, bool isWanted);
+    void Change(const Place& place, const Node* value, Operator op, bool isWanted);
+    void ChangeComplex(const Place& place, const Node* value, Operator op, bool isWanted);
+    void ApplyChange(const Node* value, Operator op);
+    void Increment(const Node& node, bool isWanted);
+    void IncrementAfter(const Place& place, Operator op);
+    bool IsSimplePlace(const Place& place) const;
+    Byte Temporary();
+    bool SlashPathOf(const Node& node, std::string& path) const;
+
+    // Calls.
+    /// False when the call leaves no value.
+    bool Call(const Node& node);
+    bool BuiltinCall(const Builtin& builtin, const Node& node);
+    bool IsCallOfBuiltin(const Node& node) const;
+    void PlainCall(const Node& node);
+    void MethodCall(const Node& node);
+    bool CallInSlashPath(const Node& node);
+    bool CallInTarget(const std::string& path, Symbol* name, const Node& node);
+    void PushArguments(const Node& node);
+    void PushArgumentsBackward(const Node* first, std::uint32_t count);
+    void New(const Node& node);
+    void Goto(const Node& node, bool isPlay);
+    void Url(const Node& node, std::uint32_t flags);
+    void UrlOfLevel(const Node& url, const Node& level, std::uint32_t flags);
+    void PushLevel(const Node& level);
+    void UrlText(Symbol* url, const Node& target, bool isLevel, std::uint32_t flags);
+    std::uint32_t Method(const Node* node);
+    void FsCommand(const Node& node);
+    void Print(const Node& node, std::string_view scheme, bool isLevel);
+    void Duplicate(const Node& node);
+    void StartDrag(const Node& node);
+    bool PropertyNumber(const Node& node, Byte& number) const;
+    void PushProperty(const Node& node);
+    bool IsMethodOfClip(const Builtin& builtin) const;
+
+    // Functions and classes.
+    void Function(const Node& node);
+    void FunctionBody(const FunctionNode& function);
+    void ChoosePreloads(FunctionState& state, ActionCode::FunctionRecord& record) const;
+    void Bind(const FunctionNode& function, bool isBound);
+    void Class(const Node& node);
+    void Package(const Node& node);
+    void ClassPath(const Node& node);
+    void ClassOwner(const Node& node);
+    void Prototype(const Node& name);
+    void Constructor(const ClassNode& node);
+    void Inherit(const ClassNode& node);
+    void Implement(const ClassNode& node);
+    void Members(const ClassNode& node, bool isStatic);
+    void Accessor(const ClassNode& node, const MemberNode& member);
+    void HideMembers(const ClassNode& node);
+    bool Cast(const Node& node);
+    std::string DottedPath(const Node& node) const;
+    MemberFound FindMember(const Symbol* name) const;
+
+    Symbol* Known(std::string_view text) { return symbols_.Intern(text); }
+    void Complain(const Node& node, String text);
+    void NeedVersion5(const Node& node);
+
+    SymbolTable& symbols_;
+    Long version_;
+    Diagnostics& diagnostics_;
+    ConstantFolder folder_;
+    ActionCode functions_;
+    ActionCode main_;
+    /// Texts of small integers, made when first needed.
+    std::array<Symbol*, 10000> digits_{};
+    ActionCode* code_ = &main_;
+    FunctionState function_;
+    std::vector<Scope> scopes_;
+    std::vector<const Node*> spine_;
+    std::vector<ActionCode::Parameter> parameters_;
+    std::map<std::string, ClassRecord, std::less<>> classes_;
+    const ClassRecord* class_ = nullptr;
+    const Node* className_ = nullptr;
+    int depth_ = 0;
+};
+
+}  // namespace tamber

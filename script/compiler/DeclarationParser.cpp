@@ -1,0 +1,269 @@
+#include <utility>
+
+#include "script/compiler/Parser.h"
+#include "script/compiler/ParserLevel.h"
+
+namespace tamber {
+
+namespace {
+
+/// First version with functions that have registers of their own.
+constexpr Long FirstRegisterVersion = 7;
+/// A function has 255; what stands above is for values in between.
+constexpr int MaxRegister = 240;
+
+int PreloadedCount(const FunctionNode& function) {
+    return (function.UsesThis || function.IsMethod) + function.UsesArguments + function.UsesSuper +
+           function.UsesRoot + function.UsesParent + function.UsesGlobal;
+}
+
+}  // namespace
+
+Node* Parser::FunctionStatement() {
+    const std::uint32_t line = token_.Line;
+    Advance();
+    if (!Is(TokenKind::Identifier)) Fail(u"関数名が必要です。");
+    Symbol* name = TakeName(u"関数名");
+    Declare(name);
+    KeepNamed(name);
+    Node* node = FunctionRest(name, line);
+    node->Flag = true;
+    if (function_ == nullptr || blocks_ > 0) return node;
+    function_->Functions.Add(node);
+    return Make(NodeKind::Empty, line);
+}
+
+/// What stands behind the name: parameters, the type of the result, the body.
+Node* Parser::FunctionRest(Symbol* name, std::uint32_t line) {
+    const Level level(*this);
+    NeedVersion(5, "function", line);
+    Node* node = Make(NodeKind::Function, line);
+    FunctionNode* function = arena_.Make<FunctionNode>();
+    node->Function = function;
+    function->Name = name;
+    function->IsMethod = std::exchange(isMethodNext_, false);
+    function->Line = line;
+    function->Number = ++functionCount_;
+    function->Depth = function_ == nullptr ? 1 : function_->Depth + 1;
+    FunctionNode* const outer = std::exchange(function_, function);
+    const int loops = std::exchange(loops_, 0);
+    const int switches = std::exchange(switches_, 0);
+    const int blocks = std::exchange(blocks_, 0);
+    const int colons = std::exchange(colonsAwaited_, 0);
+    const std::size_t firstUse = uses_.size();
+    const std::size_t firstGuard = std::exchange(firstGuard_, guards_.size());
+    Parameters(*function);
+    SkipType();
+    Expect(TokenKind::OpenBrace, u"{");
+    NodeList body;
+    StatementsUntilBrace(body);
+    function->Body = body.First;
+    loops_ = loops;
+    switches_ = switches;
+    blocks_ = blocks;
+    colonsAwaited_ = colons;
+    firstGuard_ = firstGuard;
+    function_ = outer;
+    if (outer != nullptr && function->NeedsNames) outer->NeedsNames = true;
+    CloseFunction(*function, firstUse);
+    return node;
+}
+
+void Parser::CloseFunction(FunctionNode& function, std::size_t firstUse) {
+    if (version_ >= FirstRegisterVersion && !function.NeedsNames)
+        ChooseRegisters(function, firstUse);
+    for (NameNode* name = function.LastDeclared; name != nullptr; name = name->Previous)
+        name->Name->DeclaredIn = name->OuterDeclaration;
+    if (function.Depth == 1) uses_.clear();
+}
+
+void Parser::Parameters(FunctionNode& function) {
+    Expect(TokenKind::OpenParenthesis, u"(");
+    if (!Is(TokenKind::CloseParenthesis)) {
+        do {
+            Symbol* name = TakeName(u"引数の名前");
+            const NameNode* last = function.LastDeclared;
+            Declare(name, true);
+            if (function.LastDeclared == last)
+                Complain(token_.Line, name->Text, u"同じ名前の引数があります。");
+            ++function.ParameterCount;
+            SkipType();
+        } while (Accept(TokenKind::Comma));
+    }
+    Expect(TokenKind::CloseParenthesis, u")");
+}
+
+void Parser::Declare(Symbol* name, bool isParameter) {
+    if (function_ == nullptr || name->DeclaredIn == function_->Number) return;
+    NameNode* node = arena_.Make<NameNode>();
+    node->Name = name;
+    node->IsParameter = isParameter;
+    node->OuterDeclaration = name->DeclaredIn;
+    node->Previous = function_->LastDeclared;
+    (function_->Declared == nullptr ? function_->Declared : function_->LastDeclared->Next) = node;
+    function_->LastDeclared = node;
+    name->DeclaredIn = function_->Number;
+}
+
+/// Variables that only the function itself reaches, and none by a name, live in registers behind
+/// those that are filled before it starts.
+void Parser::ChooseRegisters(FunctionNode& function, std::size_t firstUse) {
+    for (std::size_t i = firstUse; i < uses_.size(); ++i)
+        if (uses_[i].Depth > function.Depth) uses_[i].Name->NamedIn = function.Number;
+    int next = 1 + PreloadedCount(function);
+    for (NameNode* name = function.Declared; name != nullptr && next < MaxRegister;
+         name = name->Next)
+        if (name->Name->NamedIn != function.Number) name->Register = static_cast<Byte>(next++);
+    function.RegisterCount = static_cast<Byte>(next);
+}
+
+Node* Parser::DottedName() {
+    Node* node = Make(NodeKind::Name, token_.Line);
+    node->Name = TakeName(u"クラス名");
+    while (Accept(TokenKind::Dot)) {
+        Node* member = Make(NodeKind::Member, token_.Line);
+        member->A = node;
+        member->Name = TakeMemberName();
+        if ((member->Count = node->Count + 1) > MaxDepth) Fail(u"名前が長すぎます。");
+        node = member;
+    }
+    return node;
+}
+
+/// `import a.b.C;` lets C stand for a.b.C. The classes of `import a.b.*;` are not known.
+Node* Parser::ImportStatement() {
+    const std::uint32_t line = token_.Line;
+    NeedVersion(6, token_.Text, line);
+    Advance();
+    Import import{nullptr, {TakeName(u"クラス名")}};
+    while (Accept(TokenKind::Dot)) {
+        if (Accept(TokenKind::Star)) {
+            diagnostics_.Warn(line, "*", u"クラスの名前を一つずつ書いて下さい。");
+            EndStatement();
+            return Make(NodeKind::Empty, line);
+        }
+        import.Path.push_back(TakeMemberName());
+    }
+    import.Name = import.Path.back();
+    if (import.Path.size() > 1) imports_.push_back(std::move(import));
+    EndStatement();
+    return Make(NodeKind::Empty, line);
+}
+
+bool Parser::IsClassAhead() {
+    if (!Is(TokenKind::Identifier)) return false;
+    const SpecialName name = token_.Name->Special;
+    return name >= SpecialName::Class && name <= SpecialName::Intrinsic &&
+           Peek().Kind == TokenKind::Identifier;
+}
+
+Node* Parser::ClassStatement() {
+    Node* node = Make(NodeKind::Class, token_.Line);
+    NeedVersion(6, token_.Text, token_.Line);
+    if (function_ != nullptr || inClass_) Fail(u"クラスは関数の外に書いて下さい。");
+    while (IsSpecial(SpecialName::Dynamic) || IsSpecial(SpecialName::Intrinsic)) Advance();
+    ClassNode* definition = arena_.Make<ClassNode>();
+    node->Class = definition;
+    definition->Line = token_.Line;
+    definition->IsInterface = IsSpecial(SpecialName::Interface);
+    if (!definition->IsInterface && !IsSpecial(SpecialName::Class)) Fail(u"class が必要です。");
+    Advance();
+    definition->Name = DottedName();
+    if (IsSpecial(SpecialName::Extends)) {
+        Advance();
+        definition->Base = ClassReference();
+    }
+    if (IsSpecial(SpecialName::Implements)) {
+        Advance();
+        do definition->Interfaces.Add(ClassReference());
+        while (Accept(TokenKind::Comma));
+    }
+    Expect(TokenKind::OpenBrace, u"{");
+    inClass_ = true;
+    while (!Is(TokenKind::CloseBrace)) ClassMember(*definition);
+    inClass_ = false;
+    Advance();
+    return node;
+}
+
+/// The name of a class, with what an import makes of it.
+Node* Parser::ClassReference() {
+    const Token first = token_;
+    Node* name = DottedName();
+    if (name->Kind != NodeKind::Name) return name;
+    Node* imported = Imported(name->Name, first.Line);
+    return imported != nullptr ? imported : name;
+}
+
+void Parser::ClassMember(ClassNode& node) {
+    bool isStatic = false;
+    while (IsSpecial(SpecialName::Public) || IsSpecial(SpecialName::Private) ||
+           IsSpecial(SpecialName::Static)) {
+        isStatic = isStatic || IsSpecial(SpecialName::Static);
+        Advance();
+    }
+    if (Accept(TokenKind::Semicolon)) return;
+    if (Is(TokenKind::Var)) return Field(node, isStatic);
+    if (Is(TokenKind::Function)) return Method(node, isStatic);
+    Fail(u"クラスのメンバーは var または function です。");
+}
+
+void Parser::Field(ClassNode& node, bool isStatic) {
+    do {
+        Advance();
+        MemberNode member;
+        member.IsStatic = isStatic;
+        member.Line = token_.Line;
+        member.Name = TakeName(u"変数名");
+        SkipType();
+        if (Accept(TokenKind::Assign)) member.Value = Assignment();
+        AddMember(node, member);
+    } while (Is(TokenKind::Comma));
+    EndStatement();
+}
+
+void Parser::Method(ClassNode& node, bool isStatic) {
+    MemberNode member;
+    member.Kind = MemberKind::Method;
+    member.IsStatic = isStatic;
+    member.Line = token_.Line;
+    Advance();
+    if ((IsSpecial(SpecialName::Get) || IsSpecial(SpecialName::Set)) &&
+        Peek().Kind != TokenKind::OpenParenthesis) {
+        member.Kind = IsSpecial(SpecialName::Get) ? MemberKind::Getter : MemberKind::Setter;
+        Advance();
+    }
+    member.Name = TakeMemberName();
+    if (node.IsInterface) {
+        Signature();
+        return EndStatement();
+    }
+    isMethodNext_ = !isStatic;
+    member.Value = FunctionRest(nullptr, member.Line);
+    const bool isConstructor =
+        member.Kind == MemberKind::Method && !isStatic && member.Name == node.Name->Name;
+    if (!isConstructor) return AddMember(node, member);
+    if (node.Constructor != nullptr)
+        Complain(member.Line, member.Name->Text, u"コンストラクタは一つだけです。");
+    node.Constructor = member.Value;
+}
+
+/// The parameters and the type of a function that has no body.
+void Parser::Signature() {
+    FunctionNode signature;
+    signature.Number = ++functionCount_;
+    signature.Depth = 1;
+    FunctionNode* const outer = std::exchange(function_, &signature);
+    Parameters(signature);
+    SkipType();
+    function_ = outer;
+    CloseFunction(signature, uses_.size());
+}
+
+void Parser::AddMember(ClassNode& node, const MemberNode& member) {
+    MemberNode* kept = arena_.Make<MemberNode>(member);
+    (node.FirstMember == nullptr ? node.FirstMember : node.LastMember->Next) = kept;
+    node.LastMember = kept;
+}
+
+}  // namespace tamber

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+#include "platform/types.h"
+
+namespace tamber {
+
+/// One message of the compiler.
+struct Diagnostic {
+    /// Counted from 1.
+    Long Line = 0;
+    /// The offending token, in the bytes of the source; empty at the end of the text.
+    std::string Token;
+    /// For a person.
+    String Text;
+};
+
+}  // namespace tamber

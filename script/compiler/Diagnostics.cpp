@@ -1,0 +1,70 @@
+#include "script/compiler/Diagnostics.h"
+
+#include <algorithm>
+
+#include "platform/codepage.h"
+#include "platform/text.h"
+
+namespace tamber {
+
+namespace {
+
+/// First version whose sources are UTF-8.
+constexpr Long FirstUtf8Version = 6;
+constexpr std::size_t MaxTokenLength = 60;
+constexpr std::size_t MaxTokenBytes = 4 * MaxTokenLength;
+
+bool ComesBefore(const Diagnostic& a, const Diagnostic& b) {
+    return a.Line < b.Line;
+}
+
+/// One line without single quotes, which enclose a token.
+String TokenText(const std::string& token, Long version) {
+    const ByteView bytes(reinterpret_cast<const Byte*>(token.data()), token.size());
+    String text = version >= FirstUtf8Version ? DecodeUtf8(bytes) : DecodeAnsi(bytes);
+    if (text.size() > MaxTokenLength) text = text.substr(0, MaxTokenLength) + u"...";
+    for (char16_t& letter : text) {
+        if (letter == u'\'') letter = u'"';
+        if (letter < u' ') letter = u' ';
+    }
+    return text;
+}
+
+String Place(const Diagnostic& diagnostic, Long version) {
+    String text = ToText(diagnostic.Line) + u"行目";
+    if (!diagnostic.Token.empty()) text += u" [" + TokenText(diagnostic.Token, version) + u"]";
+    return text + u" " + diagnostic.Text;
+}
+
+}  // namespace
+
+void Diagnostics::Error(std::uint32_t line, std::string_view token, String text) {
+    if (!IsFull())
+        errors_.push_back({static_cast<Long>(line), std::string(token.substr(0, MaxTokenBytes)),
+                           std::move(text)});
+}
+
+void Diagnostics::Warn(std::uint32_t line, std::string_view token, String text) {
+    if (warnings_.size() < MaxWarnings)
+        warnings_.push_back({static_cast<Long>(line), std::string(token.substr(0, MaxTokenBytes)),
+                             std::move(text)});
+}
+
+void Diagnostics::Sort() {
+    std::stable_sort(errors_.begin(), errors_.end(), ComesBefore);
+    std::stable_sort(warnings_.begin(), warnings_.end(), ComesBefore);
+}
+
+std::string DiagnosticText(const std::vector<Diagnostic>& errors,
+                           const std::vector<Diagnostic>& warnings, Long version) {
+    const Diagnostic& first = errors.front();
+    String text = u"Error: " + first.Text + u"\n";
+    for (std::size_t i = 1; i < errors.size(); ++i) text += Place(errors[i], version) + u"\n";
+    text += u"Line " + ToText(first.Line) + u": '" + TokenText(first.Token, version) + u"'\n";
+    for (std::size_t i = 0; i < warnings.size(); ++i)
+        text += (i == 0 ? u"Warning: " : u"") + Place(warnings[i], version) + u"\n";
+    const Bytes bytes = EncodeAnsi(text);
+    return {bytes.begin(), bytes.end()};
+}
+
+}  // namespace tamber

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "script/compiler/Diagnostic.h"
+
+namespace tamber {
+
+/// The messages of one run.
+class Diagnostics {
+public:
+    /// Errors and warnings behind these are counted but not kept.
+    static constexpr std::size_t MaxErrors = 20;
+    static constexpr std::size_t MaxWarnings = 50;
+
+    void Error(std::uint32_t line, std::string_view token, String text);
+    void Warn(std::uint32_t line, std::string_view token, String text);
+    bool HasErrors() const { return !errors_.empty(); }
+    bool IsFull() const { return errors_.size() >= MaxErrors; }
+    const std::vector<Diagnostic>& Errors() const { return errors_; }
+    const std::vector<Diagnostic>& Warnings() const { return warnings_; }
+    /// In the order of the lines.
+    void Sort();
+
+private:
+    std::vector<Diagnostic> errors_;
+    std::vector<Diagnostic> warnings_;
+};
+
+/// The text of a failed run, in code page 932, lines ended by LF: "Error: " and the first error's
+/// text, a line for each further error, "Line N: 'token'" for the first, then, when there are
+/// warnings, "Warning: " and the first, and a line for each other.
+std::string DiagnosticText(const std::vector<Diagnostic>& errors,
+                           const std::vector<Diagnostic>& warnings, Long version);
+
+}  // namespace tamber

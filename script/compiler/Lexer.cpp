@@ -1,0 +1,433 @@
+#include "script/compiler/Lexer.h"
+
+#include <array>
+#include <charconv>
+#include <limits>
+
+#include "platform/codepage.h"
+#include "script/compiler/Vocabulary.h"
+
+namespace tamber {
+
+namespace {
+
+constexpr Long FirstUtf8Version = 6;
+
+enum CharacterClass : Byte { Other, Blank, LetterClass, DigitClass };
+
+constexpr std::array<Byte, 256> MakeClasses() {
+    std::array<Byte, 256> classes{};
+    for (const char letter : {' ', '\t', '\r', '\n', '\v', '\f'})
+        classes[static_cast<Byte>(letter)] = Blank;
+    for (int c = 'a'; c <= 'z'; ++c) classes[static_cast<std::size_t>(c)] = LetterClass;
+    for (int c = 'A'; c <= 'Z'; ++c) classes[static_cast<std::size_t>(c)] = LetterClass;
+    for (int c = '0'; c <= '9'; ++c) classes[static_cast<std::size_t>(c)] = DigitClass;
+    for (std::size_t c = 0x80; c < 256; ++c) classes[c] = LetterClass;
+    classes['_'] = LetterClass;
+    classes['$'] = LetterClass;
+    return classes;
+}
+
+constexpr std::array<Byte, 256> Classes = MakeClasses();
+
+Byte ClassOf(char letter) {
+    return Classes[static_cast<Byte>(letter)];
+}
+
+bool IsNameCharacter(char letter) {
+    return ClassOf(letter) >= LetterClass;
+}
+
+/// Value of a digit of a base up to 16; 16 for what is none.
+unsigned DigitValue(char letter) {
+    if (letter >= '0' && letter <= '9') return static_cast<unsigned>(letter - '0');
+    if (letter >= 'a' && letter <= 'f') return static_cast<unsigned>(letter - 'a' + 10);
+    if (letter >= 'A' && letter <= 'F') return static_cast<unsigned>(letter - 'A' + 10);
+    return 16;
+}
+
+std::string_view Between(const char* from, const char* to) {
+    return {from, static_cast<std::size_t>(to - from)};
+}
+
+struct Sign {
+    std::string_view Text;
+    TokenKind Kind;
+};
+
+/// Of those that begin alike, the longest first.
+constexpr Sign Signs[] = {
+    {">>>=", TokenKind::UnsignedRightAssign},
+    {"===", TokenKind::StrictEqual},
+    {"!==", TokenKind::StrictNotEqual},
+    {"<<=", TokenKind::LeftAssign},
+    {">>=", TokenKind::RightAssign},
+    {">>>", TokenKind::UnsignedRight},
+    {"==", TokenKind::Equal},
+    {"!=", TokenKind::NotEqual},
+    {"<>", TokenKind::NotEqual},
+    {"<=", TokenKind::LessEqual},
+    {">=", TokenKind::GreaterEqual},
+    {"<<", TokenKind::Left},
+    {">>", TokenKind::Right},
+    {"&&", TokenKind::AndAnd},
+    {"||", TokenKind::OrOr},
+    {"++", TokenKind::PlusPlus},
+    {"--", TokenKind::MinusMinus},
+    {"+=", TokenKind::AddAssign},
+    {"-=", TokenKind::SubtractAssign},
+    {"*=", TokenKind::MultiplyAssign},
+    {"/=", TokenKind::DivideAssign},
+    {"%=", TokenKind::ModuloAssign},
+    {"&=", TokenKind::BitAndAssign},
+    {"|=", TokenKind::BitOrAssign},
+    {"^=", TokenKind::BitXorAssign},
+    {"(", TokenKind::OpenParenthesis},
+    {")", TokenKind::CloseParenthesis},
+    {"[", TokenKind::OpenBracket},
+    {"]", TokenKind::CloseBracket},
+    {"{", TokenKind::OpenBrace},
+    {"}", TokenKind::CloseBrace},
+    {";", TokenKind::Semicolon},
+    {",", TokenKind::Comma},
+    {".", TokenKind::Dot},
+    {":", TokenKind::Colon},
+    {"?", TokenKind::Question},
+    {"=", TokenKind::Assign},
+    {"+", TokenKind::Plus},
+    {"-", TokenKind::Minus},
+    {"*", TokenKind::Star},
+    {"/", TokenKind::Slash},
+    {"%", TokenKind::Percent},
+    {"&", TokenKind::BitAnd},
+    {"|", TokenKind::BitOr},
+    {"^", TokenKind::BitXor},
+    {"~", TokenKind::BitNot},
+    {"<", TokenKind::Less},
+    {">", TokenKind::Greater},
+    {"!", TokenKind::Not},
+};
+
+/// For each first character, those signs that begin with it as a range of a sorted copy.
+struct SignTable {
+    std::array<Sign, std::size(Signs)> Sorted{};
+    std::array<Byte, 129> First{};
+};
+
+constexpr SignTable MakeSignTable() {
+    SignTable table;
+    std::size_t count = 0;
+    for (std::size_t letter = 0; letter < 128; ++letter) {
+        table.First[letter] = static_cast<Byte>(count);
+        for (const Sign& sign : Signs)
+            if (static_cast<std::size_t>(sign.Text[0]) == letter) table.Sorted[count++] = sign;
+    }
+    table.First[128] = static_cast<Byte>(count);
+    return table;
+}
+
+constexpr SignTable Table = MakeSignTable();
+
+}  // namespace
+
+Lexer::Lexer(std::string_view source, Long version, SymbolTable& symbols, Diagnostics& diagnostics)
+    : at_(source.data()),
+      end_(source.data() + source.size()),
+      version_(version),
+      isUtf8_(version >= FirstUtf8Version),
+      symbols_(symbols),
+      diagnostics_(diagnostics) {
+    if (isUtf8_ && source.starts_with("\xEF\xBB\xBF")) at_ += 3;
+}
+
+void Lexer::Restore(const Mark& mark) {
+    at_ = mark.At;
+    line_ = mark.Line;
+}
+
+Token Lexer::Next() {
+    for (;;) {
+        Token token;
+        SkipBlanks(token);
+        token.Line = line_;
+        if (at_ == end_) return token;
+        const Byte kind = ClassOf(*at_);
+        if (kind == LetterClass) return ReadName(token);
+        if (kind == DigitClass || (*at_ == '.' && ClassOf(Ahead(1)) == DigitClass))
+            return ReadNumber(token);
+        if (*at_ == '"' || *at_ == '\'') return ReadString(token);
+        if (ReadPunctuation(token)) return token;
+        diagnostics_.Error(
+            line_, Between(at_, at_ + 1),
+            *at_ == '\0' ? u"NUL 文字は使用できません。" : u"使用できない文字です。");
+        ++at_;
+    }
+}
+
+bool Lexer::IsLead(char letter) const {
+    const auto byte = static_cast<Byte>(letter);
+    return !isUtf8_ && ((byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC));
+}
+
+void Lexer::Step() {
+    if (IsLead(*at_) && end_ - at_ > 1) ++at_;
+    ++at_;
+}
+
+/// U+3000.
+bool Lexer::SkipWideBlank() {
+    const std::string_view blank = isUtf8_ ? "\xE3\x80\x80" : "\x81\x40";
+    if (!Between(at_, end_).starts_with(blank)) return false;
+    at_ += blank.size();
+    return true;
+}
+
+void Lexer::SkipBlanks(Token& token) {
+    const std::uint32_t first = line_;
+    while (at_ != end_) {
+        const char letter = *at_;
+        if (letter == '\n' || (letter == '\r' && Ahead(1) != '\n')) {
+            ++line_;
+            ++at_;
+        } else if (ClassOf(letter) == Blank) {
+            ++at_;
+        } else if (letter == '/' && Ahead(1) == '/') {
+            SkipLineComment();
+        } else if (letter == '/' && Ahead(1) == '*') {
+            SkipBlockComment();
+        } else if (static_cast<Byte>(letter) < 0x80 || !SkipWideBlank()) {
+            break;
+        }
+    }
+    token.StartsLine = line_ != first;
+}
+
+void Lexer::SkipLineComment() {
+    while (at_ != end_ && *at_ != '\n' && *at_ != '\r') ++at_;
+}
+
+void Lexer::SkipBlockComment() {
+    const std::uint32_t first = line_;
+    at_ += 2;
+    while (at_ != end_) {
+        if (*at_ == '*' && Ahead(1) == '/') {
+            at_ += 2;
+            return;
+        }
+        if (*at_ == '\n' || (*at_ == '\r' && Ahead(1) != '\n')) ++line_;
+        Step();
+    }
+    diagnostics_.Error(first, "/*", u"コメントが閉じられていません。*/ が必要です。");
+}
+
+void Lexer::Take(Token& token, TokenKind kind, std::size_t length) {
+    token.Kind = kind;
+    token.Text = {at_, length};
+    at_ += length;
+}
+
+bool Lexer::ReadPunctuation(Token& token) {
+    const auto letter = static_cast<Byte>(*at_);
+    if (letter >= 128) return false;
+    const std::string_view rest = Between(at_, end_);
+    for (std::size_t i = Table.First[letter]; i < Table.First[letter + std::size_t{1}]; ++i) {
+        const Sign& sign = Table.Sorted[i];
+        if (sign.Text.size() == 1 || rest.starts_with(sign.Text)) {
+            Take(token, sign.Kind, sign.Text.size());
+            return true;
+        }
+    }
+    return false;
+}
+
+Token Lexer::ReadName(Token token) {
+    const char* begin = at_;
+    if (isUtf8_) {
+        const auto isWide = [&] {
+            return *at_ == '\xE3' && Between(at_, end_).starts_with("\xE3\x80\x80");
+        };
+        while (at_ != end_ && IsNameCharacter(*at_) && !isWide()) ++at_;
+    } else {
+        const auto isWide = [&] { return *at_ == '\x81' && Ahead(1) == '\x40'; };
+        while (at_ != end_ && IsNameCharacter(*at_) && !isWide()) Step();
+    }
+    token.Text = Between(begin, at_);
+    token.Name = symbols_.Intern(token.Text);
+    if (!token.Name->IsClassified) Classify(*token.Name, version_);
+    token.Kind = token.Name->Kind;
+    return token;
+}
+
+bool Lexer::ReadSlashPath(Token& token, PathForm form) {
+    const char* begin = token.Text.data();
+    const char* at = begin;
+    const auto is = [&](char letter) { return at != end_ && *at == letter; };
+    const auto skipName = [&] {
+        const char* first = at;
+        if (end_ - at >= 2 && at[0] == '.' && at[1] == '.') {
+            at += 2;
+        } else {
+            while (at != end_ && IsNameCharacter(*at)) at += IsLead(*at) && end_ - at > 1 ? 2 : 1;
+        }
+        return at != first;
+    };
+    const bool begins = is('/') || is(':') || (is('.') && end_ - at > 1 && at[1] == '.');
+    if (!begins && form == PathForm::Rooted) return false;
+    bool hasSlash = false;
+    bool hasColon = false;
+    if (!is('/') && !is(':')) skipName();
+    while (is('/')) {
+        hasSlash = true;
+        ++at;
+        if (!skipName() && !is(':')) break;
+    }
+    if (is(':')) {
+        ++at;
+        hasColon = skipName();
+        if (!hasColon) return false;
+    }
+    const bool isCall = hasSlash && at[-1] != '/' && is('(');
+    if (!begins && !hasColon && (!isCall || form != PathForm::WithColonOrCall)) return false;
+    token.Kind = TokenKind::SlashPath;
+    token.Text = Between(begin, at);
+    token.Name = symbols_.Intern(token.Text);
+    at_ = at;
+    return true;
+}
+
+Token Lexer::ReadNumber(Token token) {
+    const char* begin = at_;
+    token.Kind = TokenKind::Number;
+    if (*at_ == '0' && (Ahead(1) == 'x' || Ahead(1) == 'X')) {
+        at_ += 2;
+        ReadPrefixed(token, 16);
+        if (at_ == begin + 2)
+            diagnostics_.Error(line_, Between(begin, at_), u"16 進数の桁が必要です。");
+    } else {
+        const char* digits = begin;
+        while (digits != end_ && *digits >= '0' && *digits <= '7') ++digits;
+        const bool isOctal = *begin == '0' && digits - begin > 1 &&
+                             (digits == end_ || (*digits != '.' && *digits != '8' &&
+                                                 *digits != '9' && *digits != 'e'));
+        if (isOctal)
+            ReadPrefixed(token, 8);
+        else
+            ReadDecimal(token);
+    }
+    token.Text = Between(begin, at_);
+    if (at_ != end_ && IsNameCharacter(*at_)) {
+        while (at_ != end_ && IsNameCharacter(*at_)) Step();
+        diagnostics_.Error(line_, Between(begin, at_), u"数値の書き方が正しくありません。");
+    }
+    return token;
+}
+
+void Lexer::ReadPrefixed(Token& token, unsigned base) {
+    for (; at_ != end_ && DigitValue(*at_) < base; ++at_)
+        token.Number = token.Number * base + DigitValue(*at_);
+}
+
+void Lexer::ReadDecimal(Token& token) {
+    const char* begin = at_;
+    std::uint64_t whole = 0;
+    while (at_ != end_ && ClassOf(*at_) == DigitClass && at_ - begin < 15)
+        whole = whole * 10 + DigitValue(*at_++);
+    const char next = Ahead(0);
+    if (next != '.' && next != 'e' && next != 'E' && ClassOf(next) != DigitClass) {
+        token.Number = static_cast<double>(whole);
+        return;
+    }
+    const auto read = std::from_chars(begin, end_, token.Number);
+    at_ = read.ptr;
+    if (read.ec == std::errc::result_out_of_range) {
+        const std::string_view text = Between(begin, at_);
+        const bool isSmall = text.find("e-") != text.npos || text.find("E-") != text.npos;
+        token.Number = isSmall ? 0 : std::numeric_limits<double>::infinity();
+    }
+}
+
+Token Lexer::ReadString(Token token) {
+    const char* begin = at_;
+    const char quote = *at_++;
+    const char* plain = at_;
+    bool isPlain = true;
+    scratch_.clear();
+    token.Kind = TokenKind::Text;
+    while (at_ != end_ && *at_ != quote && *at_ != '\n' && *at_ != '\r') {
+        if (*at_ == '\\') {
+            scratch_.append(plain, at_);
+            isPlain = false;
+            ReadEscape(scratch_, token);
+            plain = at_;
+        } else if (*at_ == '\0') {
+            diagnostics_.Error(line_, {}, u"NUL 文字は使用できません。");
+            scratch_.append(plain, at_++);
+            isPlain = false;
+            plain = at_;
+        } else {
+            Step();
+        }
+    }
+    const bool isClosed = at_ != end_ && *at_ == quote;
+    const char* close = at_;
+    if (isClosed) ++at_;
+    token.Text = Between(begin, at_);
+    if (!isClosed)
+        diagnostics_.Error(token.Line, token.Text,
+                           u"文字列が閉じられていません。引用符が必要です。");
+    if (isPlain) {
+        token.Name = symbols_.Intern(Between(plain, close));
+    } else {
+        scratch_.append(plain, close);
+        token.Name = symbols_.InternCopy(scratch_);
+    }
+    return token;
+}
+
+std::uint32_t Lexer::ReadDigits(unsigned base, int count) {
+    std::uint32_t value = 0;
+    for (; count > 0 && at_ != end_ && DigitValue(*at_) < base; --count, ++at_)
+        value = value * base + DigitValue(*at_);
+    return value;
+}
+
+void Lexer::AppendCharacter(std::string& text, std::uint32_t code, const Token& token) {
+    if (code == 0) {
+        diagnostics_.Error(token.Line, "\\0", u"文字列に NUL 文字は使用できません。");
+    } else if (code < 0x80 || (!isUtf8_ && code < 0x100)) {
+        text += static_cast<char>(code);
+    } else {
+        const auto letter = static_cast<char16_t>(code);
+        const StringView one(&letter, 1);
+        const Bytes bytes = isUtf8_ ? EncodeUtf8(one) : EncodeAnsi(one);
+        text.append(bytes.begin(), bytes.end());
+    }
+}
+
+void Lexer::ReadEscape(std::string& text, const Token& token) {
+    ++at_;
+    if (at_ == end_ || *at_ == '\n' || *at_ == '\r') return;
+    const char letter = *at_;
+    if (letter >= '0' && letter <= '7') {
+        AppendCharacter(text, ReadDigits(8, letter <= '3' ? 3 : 2), token);
+        return;
+    }
+    if ((letter == 'x' || letter == 'u') && DigitValue(Ahead(1)) < 16) {
+        ++at_;
+        AppendCharacter(text, ReadDigits(16, letter == 'x' ? 2 : 4), token);
+        return;
+    }
+    constexpr std::string_view Names = "bfnrtv";
+    constexpr std::string_view Values = "\b\f\n\r\t\v";
+    const std::size_t which = Names.find(letter);
+    if (which != Names.npos) {
+        text += Values[which];
+        ++at_;
+        return;
+    }
+    const char* begin = at_;
+    Step();
+    text.append(begin, at_);
+}
+
+}  // namespace tamber

@@ -1,0 +1,526 @@
+#include "script/compiler/Parser.h"
+
+#include "platform/text.h"
+#include "script/compiler/ParserLevel.h"
+
+namespace tamber {
+
+Parser::Parser(std::string_view source, Long version, SymbolTable& symbols, Arena& arena,
+               Diagnostics& diagnostics)
+    : lexer_(source, version, symbols, diagnostics),
+      version_(version),
+      symbols_(symbols),
+      arena_(arena),
+      diagnostics_(diagnostics),
+      folder_(symbols, version) {
+    Advance();
+}
+
+Node* Parser::NextStatement() {
+    while (!Is(TokenKind::End) && !isHopeless_) {
+        if (Is(TokenKind::CloseBrace)) {
+            Complain(token_.Line, token_.Text, u"余分な } です。");
+            Advance();
+            continue;
+        }
+        try {
+            if (Node* statement = GuardedStatement()) return statement;
+        } catch (const HopelessError&) {
+            isHopeless_ = true;
+        }
+    }
+    return nullptr;
+}
+
+/// Null after an error.
+Node* Parser::GuardedStatement() {
+    const int loops = loops_;
+    const int switches = switches_;
+    const int colons = colonsAwaited_;
+    const int blocks = blocks_;
+    FunctionNode* const function = function_;
+    const bool inClass = inClass_;
+    const std::size_t firstGuard = firstGuard_;
+    const std::size_t guards = guards_.size();
+    try {
+        return Statement();
+    } catch (const SyntaxError&) {
+        loops_ = loops;
+        switches_ = switches;
+        colonsAwaited_ = colons;
+        blocks_ = blocks;
+        function_ = function;
+        firstGuard_ = firstGuard;
+        guards_.resize(guards);
+        inClass_ = inClass;
+        if (diagnostics_.IsFull()) throw HopelessError();
+        Recover();
+    }
+    return nullptr;
+}
+
+bool Parser::Accept(TokenKind kind) {
+    if (!Is(kind)) return false;
+    Advance();
+    return true;
+}
+
+void Parser::Expect(TokenKind kind, StringView what) {
+    if (!Accept(kind)) Fail(String(what) + u" が必要です。");
+}
+
+Token Parser::Peek() {
+    const Lexer::Mark mark = lexer_.Save();
+    const Token next = lexer_.Next();
+    lexer_.Restore(mark);
+    return next;
+}
+
+void Parser::Fail(const String& text) {
+    if (Is(TokenKind::End))
+        Complain(token_.Line, {}, text + u"（スクリプトの終わりです。）");
+    else
+        Complain(token_.Line, token_.Text, text);
+    throw SyntaxError();
+}
+
+void Parser::Complain(std::uint32_t line, std::string_view token, String text) {
+    if (!isHopeless_) diagnostics_.Error(line, token, std::move(text));
+}
+
+void Parser::NeedVersion(Long version, std::string_view token, std::uint32_t line) {
+    if (version_ < version)
+        Complain(line, token,
+                 u"SWF" + ToText(version_) + u"では使用できません。SWF" + ToText(version) +
+                     u"以降にして下さい。");
+}
+
+Symbol* Parser::TakeName(StringView what) {
+    if (!Is(TokenKind::Identifier)) Fail(String(what) + u"が必要です。");
+    Symbol* name = token_.Name;
+    Advance();
+    return name;
+}
+
+Symbol* Parser::TakeMemberName() {
+    if (!Is(TokenKind::Identifier) && !IsWord(token_.Kind)) Fail(u"メンバー名が必要です。");
+    Symbol* name = token_.Name;
+    Advance();
+    return name;
+}
+
+/// Steps to where a statement may begin: behind a semicolon, at a word that begins one, or at the
+/// brace that closes the block.
+void Parser::Recover() {
+    int braces = 0;
+    for (; !Is(TokenKind::End); Advance()) {
+        if (Is(TokenKind::OpenBrace)) ++braces;
+        if (Is(TokenKind::CloseBrace) && --braces < 0) return;
+        if (braces > 0) continue;
+        if (Is(TokenKind::CloseBrace) || Is(TokenKind::Semicolon)) {
+            Advance();
+            return;
+        }
+        if (token_.StartsLine && token_.Kind >= TokenKind::Break) return;
+    }
+}
+
+Node* Parser::Make(NodeKind kind, std::uint32_t line) {
+    Node* node = arena_.Make<Node>();
+    node->Kind = kind;
+    node->Line = line;
+    return node;
+}
+
+Node* Parser::Statement() {
+    const Level level(*this);
+    switch (token_.Kind) {
+        case TokenKind::OpenBrace:
+            return Block();
+        case TokenKind::Var:
+            return VarStatement();
+        case TokenKind::If:
+            return IfStatement();
+        case TokenKind::While:
+            return WhileStatement();
+        case TokenKind::Do:
+            return DoStatement();
+        case TokenKind::For:
+            return ForStatement();
+        case TokenKind::Break:
+        case TokenKind::Continue:
+            return JumpStatement();
+        case TokenKind::Return:
+            return ReturnStatement();
+        case TokenKind::Switch:
+            return SwitchStatement();
+        case TokenKind::With:
+            return WithStatement();
+        case TokenKind::TellTarget:
+            return TellTargetStatement();
+        case TokenKind::IfFrameLoaded:
+            return IfFrameLoadedStatement();
+        case TokenKind::Try:
+            return TryStatement();
+        case TokenKind::Throw:
+            return ThrowStatement();
+        case TokenKind::Function:
+            return FunctionStatement();
+        default:
+            return SimpleStatement();
+    }
+}
+
+Node* Parser::SimpleStatement() {
+    if (Is(TokenKind::Semicolon)) {
+        Advance();
+        return Make(NodeKind::Empty, token_.Line);
+    }
+    if (IsClassAhead()) return ClassStatement();
+    if (IsSpecial(SpecialName::Import) && Peek().Kind == TokenKind::Identifier)
+        return ImportStatement();
+    return ExpressionStatement();
+}
+
+Node* Parser::ExpressionStatement() {
+    Node* statement = Make(NodeKind::Expression, token_.Line);
+    atStatement_ = true;
+    statement->A = Expression();
+    EndStatement();
+    return statement;
+}
+
+void Parser::EndStatement() {
+    if (Accept(TokenKind::Semicolon)) return;
+    if (Is(TokenKind::End) || Is(TokenKind::CloseBrace) || Is(TokenKind::Else)) return;
+    if (!token_.StartsLine) Fail(u"; が必要です。");
+}
+
+Node* Parser::Block() {
+    Node* block = Make(NodeKind::Block, token_.Line);
+    Expect(TokenKind::OpenBrace, u"{");
+    NodeList list;
+    ++blocks_;
+    StatementsUntilBrace(list);
+    --blocks_;
+    block->A = list.First;
+    block->Count = list.Count;
+    return block;
+}
+
+/// The statement that a condition or a loop governs.
+Node* Parser::Body() {
+    if (Is(TokenKind::OpenBrace)) return Block();
+    ++blocks_;
+    Node* body = Statement();
+    --blocks_;
+    return body;
+}
+
+void Parser::StatementsUntilBrace(NodeList& list) {
+    const std::uint32_t line = token_.Line;
+    while (!Is(TokenKind::CloseBrace)) {
+        if (Is(TokenKind::End)) {
+            Complain(token_.Line, {},
+                     u"} が必要です。（" + ToText(static_cast<Long>(line)) +
+                         u"行目の { が閉じられていません。）");
+            throw HopelessError();
+        }
+        WarnOfUnreachable(list.Last);
+        if (Node* statement = GuardedStatement()) list.Add(statement);
+    }
+    Advance();
+}
+
+void Parser::WarnOfUnreachable(const Node* last) {
+    if (last == nullptr || Is(TokenKind::Function) || Is(TokenKind::Semicolon)) return;
+    if (last->Kind == NodeKind::Return || last->Kind == NodeKind::Break ||
+        last->Kind == NodeKind::Continue || last->Kind == NodeKind::Throw)
+        diagnostics_.Warn(token_.Line, token_.Text, u"この文は実行されません。");
+}
+
+Node* Parser::VarStatement() {
+    const std::uint32_t line = token_.Line;
+    Advance();
+    NodeList list;
+    do list.Add(Variable());
+    while (Accept(TokenKind::Comma));
+    EndStatement();
+    return Grouped(list, line);
+}
+
+/// The statements as one.
+Node* Parser::Grouped(const NodeList& list, std::uint32_t line) {
+    if (list.Count == 1) return list.First;
+    Node* block = Make(NodeKind::Block, line);
+    block->A = list.First;
+    block->Count = list.Count;
+    return block;
+}
+
+Node* Parser::Variable() {
+    Node* variable = Make(NodeKind::Var, token_.Line);
+    Symbol* name = TakeName(u"変数名");
+    variable->Name = name;
+    Declare(name);
+    NoteName(name, variable->Line);
+    SkipType();
+    if (Accept(TokenKind::Assign)) variable->A = Assignment();
+    return variable;
+}
+
+/// A type annotation, which the code does not hold.
+void Parser::SkipType() {
+    if (!Accept(TokenKind::Colon)) return;
+    do {
+        if (!Is(TokenKind::Identifier) && !IsWord(token_.Kind)) Fail(u"型の名前が必要です。");
+        Advance();
+    } while (Accept(TokenKind::Dot));
+}
+
+Node* Parser::Condition() {
+    Expect(TokenKind::OpenParenthesis, u"(");
+    const std::uint32_t line = token_.Line;
+    Node* condition = Expression();
+    if (condition->Kind == NodeKind::Assign && condition->Op == Operator::None)
+        diagnostics_.Warn(line, "=", u"条件の中に代入があります。比較は == です。");
+    Expect(TokenKind::CloseParenthesis, u")");
+    return condition;
+}
+
+Node* Parser::IfStatement() {
+    Node* first = nullptr;
+    Node** place = &first;
+    for (;;) {
+        *place = Make(NodeKind::If, token_.Line);
+        Node* node = *place;
+        Advance();
+        node->A = Condition();
+        node->B = Body();
+        if (!Accept(TokenKind::Else)) return first;
+        if (!Is(TokenKind::If)) {
+            node->C = Body();
+            return first;
+        }
+        place = &node->C;
+    }
+}
+
+Node* Parser::LoopBody() {
+    ++loops_;
+    Node* body = Body();
+    --loops_;
+    return body;
+}
+
+Node* Parser::WhileStatement() {
+    Node* node = Make(NodeKind::While, token_.Line);
+    Advance();
+    node->A = Condition();
+    node->B = LoopBody();
+    return node;
+}
+
+Node* Parser::DoStatement() {
+    Node* node = Make(NodeKind::DoWhile, token_.Line);
+    Advance();
+    node->B = LoopBody();
+    Expect(TokenKind::While, u"while");
+    node->A = Condition();
+    Accept(TokenKind::Semicolon);
+    return node;
+}
+
+Node* Parser::ForStatement() {
+    const std::uint32_t line = token_.Line;
+    Advance();
+    Expect(TokenKind::OpenParenthesis, u"(");
+    if (Is(TokenKind::Semicolon)) return ForRest(nullptr, line);
+    if (!Is(TokenKind::Var)) {
+        Node* start = Make(NodeKind::Expression, line);
+        start->A = Expression();
+        if (!Is(TokenKind::In)) return ForRest(start, line);
+        CheckTarget(*start->A);
+        return ForInRest(start->A, line);
+    }
+    Advance();
+    NodeList list;
+    do list.Add(Variable());
+    while (Accept(TokenKind::Comma));
+    if (Is(TokenKind::In) && list.Count == 1) return ForInRest(list.First, line);
+    return ForRest(Grouped(list, line), line);
+}
+
+Node* Parser::ForInRest(Node* target, std::uint32_t line) {
+    NeedVersion(5, "in", token_.Line);
+    Advance();
+    Node* node = Make(NodeKind::ForIn, line);
+    node->A = target;
+    node->B = Expression();
+    Expect(TokenKind::CloseParenthesis, u")");
+    node->C = LoopBody();
+    return node;
+}
+
+Node* Parser::ForRest(Node* start, std::uint32_t line) {
+    Node* node = Make(NodeKind::For, line);
+    node->A = start;
+    Expect(TokenKind::Semicolon, u";");
+    if (!Is(TokenKind::Semicolon)) node->B = Expression();
+    Expect(TokenKind::Semicolon, u";");
+    if (!Is(TokenKind::CloseParenthesis)) node->C = Expression();
+    Expect(TokenKind::CloseParenthesis, u")");
+    node->D = LoopBody();
+    return node;
+}
+
+Node* Parser::JumpStatement() {
+    const bool isBreak = Is(TokenKind::Break);
+    Node* node = Make(isBreak ? NodeKind::Break : NodeKind::Continue, token_.Line);
+    if (loops_ == 0 && (!isBreak || switches_ == 0))
+        Complain(token_.Line, token_.Text, u"繰り返しの中でのみ使用できます。");
+    NoteEscape(node->Kind);
+    Advance();
+    EndStatement();
+    return node;
+}
+
+/// A block that is read while its statement stands among the guards.
+Node* Parser::GuardedBlock(Node* statement, Node* (Parser::*read)()) {
+    guards_.push_back({statement, loops_, switches_});
+    Node* block = (this->*read)();
+    guards_.pop_back();
+    return block;
+}
+
+/// Marks the guards that a jump leaves.
+void Parser::NoteEscape(NodeKind kind) {
+    for (std::size_t i = guards_.size(); i-- > firstGuard_;) {
+        const Guard& guard = guards_[i];
+        if (kind == NodeKind::Return) {
+            guard.Statement->Count |= Node::EscapesByReturn;
+            continue;
+        }
+        if (guard.Loops != loops_) return;
+        if (kind == NodeKind::Break && guard.Switches != switches_) return;
+        guard.Statement->Count |=
+            kind == NodeKind::Break ? Node::EscapesByBreak : Node::EscapesByContinue;
+    }
+}
+
+Node* Parser::ReturnStatement() {
+    Node* node = Make(NodeKind::Return, token_.Line);
+    if (function_ == nullptr) Complain(token_.Line, token_.Text, u"関数の中でのみ使用できます。");
+    Advance();
+    NoteEscape(NodeKind::Return);
+    const bool isBare = Is(TokenKind::Semicolon) || Is(TokenKind::CloseBrace) ||
+                        Is(TokenKind::End) || Is(TokenKind::Else) || token_.StartsLine;
+    if (!isBare) node->A = Expression();
+    EndStatement();
+    return node;
+}
+
+Node* Parser::SwitchStatement() {
+    Node* node = Make(NodeKind::Switch, token_.Line);
+    Advance();
+    node->A = Condition();
+    Expect(TokenKind::OpenBrace, u"{");
+    NodeList cases;
+    bool hasDefault = false;
+    ++switches_;
+    while (!Is(TokenKind::CloseBrace)) {
+        if (Is(TokenKind::Default)) {
+            if (hasDefault) Complain(token_.Line, token_.Text, u"default は一つだけです。");
+            hasDefault = true;
+        }
+        cases.Add(CaseClause());
+    }
+    --switches_;
+    Advance();
+    node->B = cases.First;
+    node->Count = cases.Count;
+    return node;
+}
+
+Node* Parser::CaseClause() {
+    Node* node = Make(NodeKind::Case, token_.Line);
+    if (Accept(TokenKind::Case)) {
+        ++colonsAwaited_;
+        node->A = Expression();
+        --colonsAwaited_;
+    } else {
+        Expect(TokenKind::Default, u"case または default");
+    }
+    Expect(TokenKind::Colon, u":");
+    NodeList list;
+    ++blocks_;
+    while (!Is(TokenKind::Case) && !Is(TokenKind::Default) && !Is(TokenKind::CloseBrace)) {
+        if (Is(TokenKind::End)) Fail(u"} が必要です。");
+        WarnOfUnreachable(list.Last);
+        if (Node* statement = GuardedStatement()) list.Add(statement);
+    }
+    --blocks_;
+    node->B = list.First;
+    node->Count = list.Count;
+    return node;
+}
+
+Node* Parser::WithStatement() {
+    Node* node = Make(NodeKind::With, token_.Line);
+    NeedVersion(5, token_.Text, token_.Line);
+    Advance();
+    node->A = Condition();
+    if (function_ != nullptr) function_->NeedsNames = true;
+    node->B = GuardedBlock(node, &Parser::Body);
+    return node;
+}
+
+Node* Parser::TellTargetStatement() {
+    Node* node = Make(NodeKind::TellTarget, token_.Line);
+    Advance();
+    node->A = Condition();
+    node->B = Body();
+    return node;
+}
+
+/// With two arguments the first is a scene; frames are counted, and labels known, over all of them.
+Node* Parser::IfFrameLoadedStatement() {
+    Node* node = Make(NodeKind::IfFrameLoaded, token_.Line);
+    Advance();
+    Expect(TokenKind::OpenParenthesis, u"(");
+    node->A = Assignment();
+    if (Accept(TokenKind::Comma)) node->A = Assignment();
+    Expect(TokenKind::CloseParenthesis, u")");
+    node->B = Body();
+    return node;
+}
+
+Node* Parser::TryStatement() {
+    Node* node = Make(NodeKind::Try, token_.Line);
+    NeedVersion(7, token_.Text, token_.Line);
+    Advance();
+    node->A = GuardedBlock(node, &Parser::Block);
+    if (Accept(TokenKind::Catch)) {
+        Expect(TokenKind::OpenParenthesis, u"(");
+        node->Name = TakeName(u"変数名");
+        Declare(node->Name);
+        KeepNamed(node->Name);
+        SkipType();
+        Expect(TokenKind::CloseParenthesis, u")");
+        node->B = GuardedBlock(node, &Parser::Block);
+    }
+    if (Accept(TokenKind::Finally)) node->C = GuardedBlock(node, &Parser::Block);
+    if (node->B == nullptr && node->C == nullptr) Fail(u"catch または finally が必要です。");
+    return node;
+}
+
+Node* Parser::ThrowStatement() {
+    Node* node = Make(NodeKind::Throw, token_.Line);
+    NeedVersion(7, token_.Text, token_.Line);
+    Advance();
+    node->A = Expression();
+    EndStatement();
+    return node;
+}
+
+}  // namespace tamber

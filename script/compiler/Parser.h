@@ -1,0 +1,175 @@
+#pragma once
+
+#include "script/compiler/ConstantFolder.h"
+#include "script/compiler/Lexer.h"
+#include "script/compiler/Node.h"
+
+namespace tamber {
+
+/// Reads a program statement by statement. The nodes lie in the arena given.
+class Parser {
+public:
+    /// Statements, brackets, operators of one operand and the like that may stand in each other.
+    static constexpr int MaxDepth = 400;
+
+    Parser(std::string_view source, Long version, SymbolTable& symbols, Arena& arena,
+           Diagnostics& diagnostics);
+
+    /// The next statement at the top, or null at the end. After an error it goes on with the next
+    /// statement that can be read; after too many it ends.
+    Node* NextStatement();
+
+private:
+    /// Unwinds to the nearest list of statements.
+    struct SyntaxError {};
+    /// Ends the run.
+    struct HopelessError {};
+    /// Counts what stands in each other.
+    class Level;
+
+    // Tokens.
+    void Advance() { token_ = lexer_.Next(); }
+    bool Is(TokenKind kind) const { return token_.Kind == kind; }
+    bool IsSpecial(SpecialName name) const {
+        return token_.Kind == TokenKind::Identifier && token_.Name->Special == name;
+    }
+    bool Accept(TokenKind kind);
+    void Expect(TokenKind kind, StringView what);
+    Token Peek();
+    [[noreturn]] void Fail(const String& text);
+    void Complain(std::uint32_t line, std::string_view token, String text);
+    void NeedVersion(Long version, std::string_view token, std::uint32_t line);
+    Symbol* TakeName(StringView what);
+    Symbol* TakeMemberName();
+    void Recover();
+    Node* Make(NodeKind kind, std::uint32_t line);
+
+    // Statements.
+    Node* GuardedStatement();
+    Node* Statement();
+    Node* SimpleStatement();
+    Node* ExpressionStatement();
+    Node* Block();
+    Node* Grouped(const NodeList& list, std::uint32_t line);
+    Node* LoopBody();
+    Node* Body();
+    void StatementsUntilBrace(NodeList& list);
+    Node* GuardedBlock(Node* statement, Node* (Parser::*read)());
+    void NoteEscape(NodeKind kind);
+    void WarnOfUnreachable(const Node* last);
+    void EndStatement();
+    Node* VarStatement();
+    Node* Variable();
+    Node* IfStatement();
+    Node* Condition();
+    Node* WhileStatement();
+    Node* DoStatement();
+    Node* ForStatement();
+    Node* ForInRest(Node* target, std::uint32_t line);
+    Node* ForRest(Node* start, std::uint32_t line);
+    Node* JumpStatement();
+    Node* ReturnStatement();
+    Node* SwitchStatement();
+    Node* CaseClause();
+    Node* WithStatement();
+    Node* TellTargetStatement();
+    Node* IfFrameLoadedStatement();
+    Node* TryStatement();
+    Node* ThrowStatement();
+    Node* FunctionStatement();
+    Node* ImportStatement();
+    void SkipType();
+
+    // Expressions.
+    Node* Expression();
+    Node* Assignment();
+    Node* ConditionalRest(Node* condition);
+    Node* BinaryChain(int lowest);
+    Node* Unary();
+    Node* UnaryOperator(Operator op);
+    Node* IncrementBefore();
+    Node* Postfix();
+    Node* PostfixOf(Node* node);
+    Node* IncrementAfter(Node* target);
+    Node* NewExpression();
+    Node* Primary();
+    Node* Name();
+    Node* SpecialValue(SpecialName name, std::uint32_t line);
+    Node* Imported(const Symbol* name, std::uint32_t line);
+    /// Tells of a name that the version's players do not know.
+    void NoteName(Symbol* name, std::uint32_t line);
+    /// A use of a name as a variable.
+    void NoteUse(Symbol* name);
+    void NoteCall(Symbol* name);
+    /// Keeps a variable of the function out of the registers.
+    void KeepNamed(Symbol* name);
+    void NoteSpecial(SpecialName name);
+    Node* Parenthesised();
+    Node* ArrayLiteral();
+    Node* ObjectLiteral();
+    Node* PropertyKey();
+    void Arguments(Node* call);
+    bool IsSlashPathAhead();
+    void CheckTarget(const Node& target);
+    Node* MakeBinary(Operator op, Node* left, Node* right, std::uint32_t line);
+
+    // Functions and classes.
+    Node* FunctionRest(Symbol* name, std::uint32_t line);
+    void Parameters(FunctionNode& function);
+    void Declare(Symbol* name, bool isParameter = false);
+    void ChooseRegisters(FunctionNode& function, std::size_t firstUse);
+    Node* ClassStatement();
+    void CloseFunction(FunctionNode& function, std::size_t firstUse);
+    Node* DottedName();
+    Node* ClassReference();
+    void ClassMember(ClassNode& node);
+    void Field(ClassNode& node, bool isStatic);
+    void Method(ClassNode& node, bool isStatic);
+    void Signature();
+    void AddMember(ClassNode& node, const MemberNode& member);
+    bool IsClassAhead();
+
+    /// A use of a name at a depth of functions; functions around it keep the variable by its name.
+    struct Use {
+        Symbol* Name;
+        std::uint32_t Depth;
+    };
+    /// A statement whose body is a block of its own for the player: no jump leaves it.
+    struct Guard {
+        Node* Statement;
+        int Loops;
+        int Switches;
+    };
+    /// What an import makes of a short name.
+    struct Import {
+        Symbol* Name;
+        std::vector<Symbol*> Path;
+    };
+
+    Lexer lexer_;
+    Long version_;
+    SymbolTable& symbols_;
+    Arena& arena_;
+    Diagnostics& diagnostics_;
+    ConstantFolder folder_;
+    Token token_;
+    int depth_ = 0;
+    bool isHopeless_ = false;
+    bool atStatement_ = false;
+    int colonsAwaited_ = 0;
+    /// Blocks around the statement, within the function.
+    int blocks_ = 0;
+    int loops_ = 0;
+    int switches_ = 0;
+    bool inClass_ = false;
+    bool isMethodNext_ = false;
+    FunctionNode* function_ = nullptr;
+    std::uint32_t functionCount_ = 0;
+    /// The `with` and `try` statements around, within the function.
+    std::vector<Guard> guards_;
+    std::size_t firstGuard_ = 0;
+    std::vector<Use> uses_;
+    std::vector<Import> imports_;
+};
+
+}  // namespace tamber

@@ -1,0 +1,286 @@
+#include "script/compiler/CodeGenerator.h"
+
+namespace tamber {
+
+namespace {
+
+constexpr Long FirstObjectVersion = 5;
+/// Registers of a timeline's code for an object and its key; register 0 holds values.
+constexpr Byte ObjectRegister = 1;
+constexpr Byte KeyRegister = 2;
+
+}  // namespace
+
+CodeGenerator::Place CodeGenerator::PlaceOf(const Node& node) {
+    if (version_ < FirstObjectVersion) return PlaceOfVersion4(node);
+    switch (node.Kind) {
+        case NodeKind::Name: {
+            if (node.Name->Register != Symbol::NoRegister)
+                return {PlaceKind::Register, node.Name->Register, 0, node.Name};
+            const MemberFound found = FindMember(node.Name);
+            if (!found.IsFound) return {.Name = node.Name};
+            return {PlaceKind::Member, 0, 0, node.Name, found.IsStatic ? found.Class : nullptr};
+        }
+        case NodeKind::SlashPath:
+            return {.Name = node.Name};
+        case NodeKind::Member:
+            return {PlaceKind::Member, 0, 0, node.Name, node.A};
+        case NodeKind::Index:
+            return {PlaceKind::Index, 0, 0, nullptr, node.A, node.B};
+        default:
+            return {PlaceKind::Named, 0, 0, nullptr, node.B};
+    }
+}
+
+/// Dots become slashes: a.b.x is "a/b:x". A property is one of a clip, which its path names.
+CodeGenerator::Place CodeGenerator::PlaceOfVersion4(const Node& node) {
+    std::string path;
+    switch (node.Kind) {
+        case NodeKind::Name:
+            if (node.Name->Property != Symbol::NoProperty)
+                return {PlaceKind::Property, 0, node.Name->Property, Known("")};
+            return {.Name = SlashPathOf(node, path) && path != node.Name->Text
+                                ? symbols_.InternCopy(path)
+                                : node.Name};
+        case NodeKind::SlashPath:
+            return {.Name = node.Name};
+        case NodeKind::Member:
+            if (!SlashPathOf(*node.A, path)) break;
+            if (node.Name->Property != Symbol::NoProperty)
+                return {PlaceKind::Property, 0, node.Name->Property, symbols_.InternCopy(path)};
+            if (!path.empty()) path += ':';
+            return {.Name = symbols_.InternCopy(path.append(node.Name->Text))};
+        case NodeKind::Call:
+            return {PlaceKind::Named, 0, 0, nullptr, node.B};
+        default:
+            break;
+    }
+    NeedVersion5(node);
+    return {.Name = Known("")};
+}
+
+void CodeGenerator::NeedVersion5(const Node& node) {
+    Complain(node, u"SWF4では使用できません。SWF5以降にして下さい。");
+}
+
+/// The path of a clip that a name with dots stands for; false for what is no such name.
+bool CodeGenerator::SlashPathOf(const Node& node, std::string& path) const {
+    std::vector<const Node*> parts;
+    const Node* part = &node;
+    for (; part->Kind == NodeKind::Member; part = part->A) parts.push_back(part);
+    const auto add = [&](const Symbol& name) {
+        if (!path.empty() && path.back() != '/') path += '/';
+        path += name.Special == SpecialName::Parent ? ".." : name.Text;
+    };
+    if (part->Kind == NodeKind::SlashPath)
+        path = part->Name->Text;
+    else if (part->Kind == NodeKind::Name && part->Name->Special == SpecialName::Root)
+        path = "/";
+    else if (part->Kind == NodeKind::Name)
+        add(*part->Name);
+    else if (part->Kind != NodeKind::This)
+        return false;
+    while (!parts.empty()) {
+        add(*parts.back()->Name);
+        parts.pop_back();
+    }
+    return true;
+}
+
+/// What Load and Store need on the stack.
+void CodeGenerator::PushPlace(const Place& place) {
+    switch (place.Kind) {
+        case PlaceKind::Register:
+            return;
+        case PlaceKind::Variable:
+            return code_->PushText(place.Name);
+        case PlaceKind::Property:
+            code_->PushText(place.Name);
+            return PushInteger(place.Property);
+        case PlaceKind::Member:
+            if (place.Object == nullptr)
+                This();
+            else
+                Expression(*place.Object);
+            return code_->PushText(place.Name);
+        case PlaceKind::Index:
+            Expression(*place.Object);
+            return Expression(*place.Key);
+        default:
+            return Expression(*place.Object);
+    }
+}
+
+void CodeGenerator::Load(const Place& place) {
+    switch (place.Kind) {
+        case PlaceKind::Register:
+            return code_->PushRegister(place.Register);
+        case PlaceKind::Property:
+            return code_->Emit(Opcode::GetProperty);
+        case PlaceKind::Member:
+        case PlaceKind::Index:
+            return code_->Emit(Opcode::GetMember);
+        default:
+            return code_->Emit(Opcode::GetVariable);
+    }
+}
+
+void CodeGenerator::Store(const Place& place) {
+    switch (place.Kind) {
+        case PlaceKind::Register:
+            return code_->Emit(ItemKind::StoreRegister, place.Register);
+        case PlaceKind::Property:
+            return code_->Emit(Opcode::SetProperty);
+        case PlaceKind::Member:
+        case PlaceKind::Index:
+            return code_->Emit(Opcode::SetMember);
+        default:
+            return code_->Emit(Opcode::SetVariable);
+    }
+}
+
+void CodeGenerator::Assign(const Node& node, bool isWanted) {
+    const Place place = PlaceOf(*node.A);
+    if (node.Op == Operator::None)
+        AssignPlain(place, *node.B, isWanted);
+    else
+        Change(place, node.B, node.Op, isWanted);
+}
+
+void CodeGenerator::AssignPlain(const Place& place, const Node& value, bool isWanted) {
+    if (place.Kind == PlaceKind::Register) {
+        Expression(value);
+        Store(place);
+        if (!isWanted) code_->Emit(Opcode::Pop);
+    } else if (place.Kind == PlaceKind::Variable && isWanted && version_ >= FirstObjectVersion) {
+        Expression(value);
+        code_->Emit(Opcode::PushDuplicate);
+        PushPlace(place);
+        code_->Emit(Opcode::StackSwap);
+        Store(place);
+    } else {
+        PushPlace(place);
+        Expression(value);
+        StoreWanted(place, isWanted);
+    }
+}
+
+/// The place and the value lie on the stack. Version 4 reads what it has stored.
+void CodeGenerator::StoreWanted(const Place& place, bool isWanted) {
+    if (!isWanted) return Store(place);
+    if (version_ < FirstObjectVersion) {
+        Store(place);
+        PushPlace(place);
+        return Load(place);
+    }
+    code_->Emit(ItemKind::StoreRegister, 0);
+    Store(place);
+    code_->PushRegister(0);
+}
+
+bool CodeGenerator::IsSimplePlace(const Place& place) const {
+    const bool hasSimpleObject = place.Object == nullptr || IsSimple(*place.Object);
+    return hasSimpleObject && (place.Key == nullptr || IsSimple(*place.Key));
+}
+
+/// Stores in a place what an operator makes of its value; without an operand, one more or less.
+void CodeGenerator::Change(const Place& place, const Node* value, Operator op, bool isWanted) {
+    if (place.Kind == PlaceKind::Register) {
+        code_->PushRegister(place.Register);
+        ApplyChange(value, op);
+        Store(place);
+        if (!isWanted) code_->Emit(Opcode::Pop);
+    } else if (IsSimplePlace(place) || version_ < FirstObjectVersion) {
+        PushPlace(place);
+        PushPlace(place);
+        Load(place);
+        ApplyChange(value, op);
+        StoreWanted(place, isWanted);
+    } else {
+        ChangeComplex(place, value, op, isWanted);
+    }
+}
+
+/// What names the place is worked out once.
+void CodeGenerator::ChangeComplex(const Place& place, const Node* value, Operator op,
+                                  bool isWanted) {
+    if (place.Kind == PlaceKind::Named) {
+        Expression(*place.Object);
+        code_->Emit(Opcode::PushDuplicate);
+        Load(place);
+        ApplyChange(value, op);
+        return StoreWanted(place, isWanted);
+    }
+    if (place.Kind == PlaceKind::Member) {
+        Expression(*place.Object);
+        code_->Emit(Opcode::PushDuplicate);
+        code_->PushText(place.Name);
+        Load(place);
+        ApplyChange(value, op);
+        code_->PushText(place.Name);
+        code_->Emit(Opcode::StackSwap);
+        return StoreWanted(place, isWanted);
+    }
+    const bool isOwn = function_.Node != nullptr && function_.Record != NoRecord;
+    const Byte object = isOwn ? Temporary() : ObjectRegister;
+    const Byte key = isOwn ? Temporary() : KeyRegister;
+    PushPlace(place);
+    code_->Emit(ItemKind::StoreRegister, key);
+    code_->Emit(Opcode::StackSwap);
+    code_->Emit(ItemKind::StoreRegister, object);
+    code_->Emit(Opcode::StackSwap);
+    code_->PushRegister(object);
+    code_->PushRegister(key);
+    Load(place);
+    ApplyChange(value, op);
+    StoreWanted(place, isWanted);
+}
+
+/// A register of the function that nothing else uses.
+Byte CodeGenerator::Temporary() {
+    Byte& count = code_->Functions[function_.Record].RegisterCount;
+    return count < 255 ? count++ : static_cast<Byte>(254);
+}
+
+void CodeGenerator::ApplyChange(const Node* value, Operator op) {
+    if (value != nullptr) {
+        TakesNumbers(op) ? NumericOperand(*value) : Expression(*value);
+        code_->Emit(ActionOf(op));
+    } else if (version_ >= FirstObjectVersion) {
+        code_->Emit(op == Operator::Add ? Opcode::Increment : Opcode::Decrement);
+    } else {
+        PushInteger(1);
+        code_->Emit(op == Operator::Add ? Opcode::Add : Opcode::Subtract);
+    }
+}
+
+void CodeGenerator::Increment(const Node& node, bool isWanted) {
+    const Place place = PlaceOf(*node.A);
+    if (node.Flag || !isWanted)
+        Change(place, nullptr, node.Op, isWanted);
+    else
+        IncrementAfter(place, node.Op);
+}
+
+/// The value before; where that would have to pass below others, it is worked out from the new one.
+void CodeGenerator::IncrementAfter(const Place& place, Operator op) {
+    if (place.Kind == PlaceKind::Register) {
+        Load(place);
+        code_->Emit(Opcode::ToNumber);
+        return Change(place, nullptr, op, false);
+    }
+    if (place.Kind == PlaceKind::Variable && version_ >= FirstObjectVersion) {
+        PushPlace(place);
+        Load(place);
+        code_->Emit(Opcode::ToNumber);
+        code_->Emit(Opcode::PushDuplicate);
+        ApplyChange(nullptr, op);
+        PushPlace(place);
+        code_->Emit(Opcode::StackSwap);
+        return Store(place);
+    }
+    Change(place, nullptr, op, true);
+    ApplyChange(nullptr, op == Operator::Add ? Operator::Subtract : Operator::Add);
+}
+
+}  // namespace tamber

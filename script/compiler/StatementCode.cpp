@@ -1,0 +1,529 @@
+#include "script/compiler/CodeGenerator.h"
+
+namespace tamber {
+
+namespace {
+
+/// How a block of its own was left, in its variable.
+constexpr Long LeftByBreak = 1;
+constexpr Long LeftByContinue = 2;
+constexpr Long LeftByReturn = 3;
+
+/// First version with actions that copy and swap values.
+constexpr Long FirstStackVersion = 5;
+constexpr std::string_view ResultName = "$result";
+
+}  // namespace
+
+CodeGenerator::CodeGenerator(SymbolTable& symbols, Long version, Diagnostics& diagnostics)
+    : symbols_(symbols),
+      version_(version),
+      diagnostics_(diagnostics),
+      folder_(symbols, version),
+      functions_(version >= FirstStackVersion),
+      main_(version >= FirstStackVersion) {}
+
+void CodeGenerator::Generate(const Node& statement) {
+    if (statement.Kind == NodeKind::Function && statement.Flag) {
+        code_ = &functions_;
+        Function(statement);
+        code_ = &main_;
+    } else {
+        Statement(statement);
+    }
+}
+
+void CodeGenerator::Complain(const Node& node, String text) {
+    diagnostics_.Error(node.Line, {}, std::move(text));
+}
+
+void CodeGenerator::Statements(const Node* first) {
+    for (const Node* node = first; node != nullptr; node = node->Next) Statement(*node);
+}
+
+void CodeGenerator::Statement(const Node& node) {
+    switch (node.Kind) {
+        case NodeKind::Empty:
+            return;
+        case NodeKind::Expression:
+            return Effect(*node.A);
+        case NodeKind::Block:
+            return Statements(node.A);
+        case NodeKind::Var:
+            return Var(node);
+        case NodeKind::If:
+            return If(node);
+        case NodeKind::While:
+            return While(node);
+        case NodeKind::DoWhile:
+            return DoWhile(node);
+        case NodeKind::For:
+            return For(node);
+        case NodeKind::ForIn:
+            return ForIn(node);
+        case NodeKind::Break:
+        case NodeKind::Continue:
+            return Leave(node.Kind);
+        case NodeKind::Return:
+            return Return(node);
+        case NodeKind::Switch:
+            return Switch(node);
+        case NodeKind::With:
+            return With(node);
+        case NodeKind::TellTarget:
+            return TellTarget(node);
+        case NodeKind::IfFrameLoaded:
+            return IfFrameLoaded(node);
+        case NodeKind::Try:
+            return Try(node);
+        case NodeKind::Throw:
+            return Throw(node);
+        case NodeKind::Function:
+            return Function(node);
+        case NodeKind::Class:
+            return Class(node);
+        default:
+            return Effect(node);
+    }
+}
+
+/// On a timeline a variable is the clip's; version 4 has no other.
+void CodeGenerator::Var(const Node& node) {
+    if (node.Name->Register != Symbol::NoRegister) {
+        if (node.A != nullptr)
+            AssignPlain({PlaceKind::Register, node.Name->Register, 0, node.Name}, *node.A, false);
+    } else if (version_ < 5) {
+        if (node.A != nullptr) AssignPlain({.Name = node.Name}, *node.A, false);
+    } else {
+        code_->PushText(node.Name);
+        if (node.A != nullptr) Expression(*node.A);
+        code_->Emit(node.A != nullptr ? Opcode::DefineLocal : Opcode::DefineLocal2);
+    }
+}
+
+void CodeGenerator::If(const Node& first) {
+    const Label end = code_->NewLabel(first.Line);
+    const Node* node = &first;
+    for (; node != nullptr && node->Kind == NodeKind::If; node = node->C) {
+        const int known = folder_.ConditionOf(*node->A);
+        if (known == 0) continue;
+        if (known == 1) {
+            Statement(*node->B);
+            return code_->Place(end);
+        }
+        const Label otherwise = code_->NewLabel(node->Line);
+        if (node->C != nullptr && node->C->Kind != NodeKind::If && !EndsInNot(*node->A)) {
+            // The other way round there is nothing to negate.
+            Condition(*node->A, otherwise, true);
+            Statement(*node->C);
+            code_->Jump(end);
+            code_->Place(otherwise);
+            Statement(*node->B);
+            return code_->Place(end);
+        }
+        Condition(*node->A, otherwise, false);
+        Statement(*node->B);
+        if (node->C != nullptr) code_->Jump(end);
+        code_->Place(otherwise);
+    }
+    if (node != nullptr) Statement(*node);
+    code_->Place(end);
+}
+
+/// The test stands behind the body, and the loop is entered there.
+void CodeGenerator::Loop(const Node* condition, const Node& body, const Node* step,
+                         std::uint32_t line) {
+    const int known = condition == nullptr ? 1 : folder_.ConditionOf(*condition);
+    if (known == 0) return;
+    const Label begin = code_->NewLabel(line);
+    const Label end = code_->NewLabel(line);
+    const Label next = code_->NewLabel(line);
+    const Label test = code_->NewLabel(line);
+    const bool isReached = code_->IsReachable();
+    if (known < 0) code_->Jump(test);
+    code_->PlaceBackward(begin, isReached);
+    scopes_.push_back({ScopeKind::Loop, end, next});
+    Statement(body);
+    scopes_.pop_back();
+    code_->Place(next);
+    if (step != nullptr) Effect(*step);
+    code_->Place(test);
+    if (known < 0)
+        Condition(*condition, begin, true);
+    else
+        code_->Jump(begin);
+    code_->Place(end);
+}
+
+void CodeGenerator::While(const Node& node) {
+    Loop(node.A, *node.B, nullptr, node.Line);
+}
+
+void CodeGenerator::For(const Node& node) {
+    if (node.A != nullptr) Statement(*node.A);
+    Loop(node.B, *node.D, node.C, node.Line);
+}
+
+void CodeGenerator::DoWhile(const Node& node) {
+    const Label begin = code_->NewLabel(node.Line);
+    const Label end = code_->NewLabel(node.Line);
+    const Label next = code_->NewLabel(node.Line);
+    code_->PlaceBackward(begin);
+    scopes_.push_back({ScopeKind::Loop, end, next});
+    Statement(*node.B);
+    scopes_.pop_back();
+    code_->Place(next);
+    Condition(*node.A, begin, true);
+    code_->Place(end);
+}
+
+/// The player puts the names on the stack, above a null. A loop left early takes the rest off.
+void CodeGenerator::ForIn(const Node& node) {
+    const Label begin = code_->NewLabel(node.Line);
+    const Label end = code_->NewLabel(node.Line);
+    const Label rest = code_->NewLabel(node.Line);
+    EnumerateObject(*node.B);
+    code_->PlaceBackward(begin);
+    code_->Emit(ItemKind::StoreRegister, 0);
+    code_->Emit(ItemKind::PushNull);
+    code_->Emit(Opcode::Equals2);
+    code_->JumpIf(end);
+    AssignEnumerated(*node.A);
+    scopes_.push_back({ScopeKind::ForIn, rest, begin});
+    Statement(*node.C);
+    scopes_.pop_back();
+    code_->Jump(begin);
+    code_->Place(rest);
+    if (code_->IsReachable()) UnwindForIn();
+    code_->Place(end);
+}
+
+/// Version 5 enumerates by name only, so what has none is kept in a variable.
+void CodeGenerator::EnumerateObject(const Node& object) {
+    if (version_ >= 6) {
+        Expression(object);
+        code_->Emit(Opcode::Enumerate2);
+    } else if (object.Kind == NodeKind::Name) {
+        code_->PushText(object.Name);
+        code_->Emit(Opcode::Enumerate);
+    } else {
+        Symbol* name = symbols_.InternCopy("$in" + std::to_string(scopes_.size()));
+        code_->PushText(name);
+        Expression(object);
+        code_->Emit(Opcode::DefineLocal);
+        code_->PushText(name);
+        code_->Emit(Opcode::Enumerate);
+    }
+}
+
+/// Register 0 holds the name.
+void CodeGenerator::AssignEnumerated(const Node& target) {
+    if (target.Kind == NodeKind::Var && target.Name->Register == Symbol::NoRegister) {
+        code_->PushText(target.Name);
+        code_->PushRegister(0);
+        return code_->Emit(Opcode::DefineLocal);
+    }
+    const Place place = target.Kind == NodeKind::Var
+                            ? Place{PlaceKind::Register, target.Name->Register, 0, target.Name}
+                            : PlaceOf(target);
+    if (place.Kind == PlaceKind::Register) {
+        code_->PushRegister(0);
+        code_->Emit(ItemKind::StoreRegister, place.Register);
+        return code_->Emit(Opcode::Pop);
+    }
+    if (IsSimplePlace(place)) {
+        PushPlace(place);
+        code_->PushRegister(0);
+    } else {
+        // What names the place may use register 0.
+        const Place kept{.Name = symbols_.InternCopy("$name" + std::to_string(scopes_.size()))};
+        PushPlace(kept);
+        code_->PushRegister(0);
+        code_->Emit(Opcode::DefineLocal);
+        PushPlace(place);
+        PushPlace(kept);
+        Load(kept);
+    }
+    Store(place);
+}
+
+void CodeGenerator::UnwindForIn() {
+    const Label next = code_->NewLabel(0);
+    code_->PlaceBackward(next);
+    code_->Emit(ItemKind::PushNull);
+    code_->Emit(Opcode::Equals2);
+    code_->Emit(Opcode::Not);
+    code_->JumpIf(next);
+}
+
+/// The tests use register 0, or a variable where they could change it.
+void CodeGenerator::Switch(const Node& node) {
+    const Label end = code_->NewLabel(node.Line);
+    std::vector<Label> labels;
+    for (const Node* clause = node.B; clause != nullptr; clause = clause->Next)
+        labels.push_back(code_->NewLabel(clause->Line));
+    SwitchTests(node, labels, end);
+    scopes_.push_back({ScopeKind::Switch, end});
+    std::size_t i = 0;
+    for (const Node* clause = node.B; clause != nullptr; clause = clause->Next) {
+        code_->Place(labels[i++]);
+        Statements(clause->B);
+    }
+    scopes_.pop_back();
+    code_->Place(end);
+}
+
+void CodeGenerator::SwitchTests(const Node& node, const std::vector<Label>& labels, Label end) {
+    Symbol* kept = nullptr;
+    bool mayCall = false;
+    for (const Node* clause = node.B; clause != nullptr; clause = clause->Next)
+        mayCall = mayCall || (clause->A != nullptr && !IsSimple(*clause->A));
+    const bool usesVariable = version_ < 5 || mayCall;
+    if (usesVariable) {
+        kept = symbols_.InternCopy("$switch" + std::to_string(scopes_.size()));
+        code_->PushText(kept);
+        Expression(*node.A);
+        SetLocal();
+    } else {
+        Expression(*node.A);
+        code_->Emit(ItemKind::StoreRegister, 0);
+    }
+    bool isFirst = !usesVariable;
+    Label otherwise = end;
+    std::size_t i = 0;
+    for (const Node* clause = node.B; clause != nullptr; clause = clause->Next, ++i) {
+        if (clause->A == nullptr) {
+            otherwise = labels[i];
+            continue;
+        }
+        if (kept != nullptr) {
+            code_->PushText(kept);
+            code_->Emit(Opcode::GetVariable);
+        } else if (!isFirst) {
+            code_->PushRegister(0);
+        }
+        isFirst = false;
+        Expression(*clause->A);
+        TestOfCase(*clause->A);
+        code_->JumpIf(labels[i]);
+    }
+    if (isFirst) code_->Emit(Opcode::Pop);
+    code_->Jump(otherwise);
+}
+
+void CodeGenerator::TestOfCase(const Node& value) {
+    if (version_ >= 6)
+        code_->Emit(Opcode::StrictEquals);
+    else if (version_ == 5)
+        code_->Emit(Opcode::Equals2);
+    else
+        code_->Emit(value.Kind == NodeKind::Text ? Opcode::StringEquals : Opcode::Equals);
+}
+
+/// The name and the value lie on the stack.
+void CodeGenerator::SetLocal() {
+    code_->Emit(function_.Node != nullptr ? Opcode::DefineLocal : Opcode::SetVariable);
+}
+
+void CodeGenerator::With(const Node& node) {
+    Symbol* exit = ExitName();
+    Expression(*node.A);
+    const bool isLeft = (node.Count & (Node::EscapesByBreak | Node::EscapesByContinue)) != 0;
+    if (isLeft) {
+        code_->PushText(exit);
+        PushInteger(0);
+        SetLocal();
+    }
+    code_->BeginWith(node.Line);
+    ++function_.Withs;
+    GuardBlock(node.B, node, exit);
+    --function_.Withs;
+    code_->EndWith();
+    AfterGuard(node, exit);
+}
+
+/// Differs from that of each guard around.
+Symbol* CodeGenerator::ExitName() {
+    return symbols_.InternCopy("$exit" + std::to_string(scopes_.size()));
+}
+
+/// A block that the player runs by itself: what leaves it goes to its end first, with a mark.
+void CodeGenerator::GuardBlock(const Node* block, const Node& statement, Symbol* exit) {
+    if (block == nullptr) return;
+    const Label end = code_->NewLabel(statement.Line);
+    scopes_.push_back({ScopeKind::Guard, end, end, &statement, exit});
+    Statement(*block);
+    scopes_.pop_back();
+    code_->Place(end);
+}
+
+void CodeGenerator::AfterGuard(const Node& statement, Symbol* exit) {
+    const auto follow = [&](std::uint32_t flag, Long mark, NodeKind kind) {
+        if ((statement.Count & flag) == 0) return;
+        const Label stays = code_->NewLabel(statement.Line);
+        code_->PushText(exit);
+        code_->Emit(Opcode::GetVariable);
+        PushInteger(mark);
+        code_->Emit(Opcode::Equals2);
+        code_->Emit(Opcode::Not);
+        code_->JumpIf(stays);
+        Leave(kind);
+        code_->Place(stays);
+    };
+    follow(Node::EscapesByBreak, LeftByBreak, NodeKind::Break);
+    follow(Node::EscapesByContinue, LeftByContinue, NodeKind::Continue);
+    if (statement.Kind == NodeKind::Try && statement.C != nullptr)
+        follow(Node::EscapesByReturn, LeftByReturn, NodeKind::Return);
+}
+
+void CodeGenerator::LeaveGuard(const Scope& scope, NodeKind kind) {
+    code_->PushText(scope.Exit);
+    PushInteger(kind == NodeKind::Break      ? LeftByBreak
+                : kind == NodeKind::Continue ? LeftByContinue
+                                             : LeftByReturn);
+    code_->Emit(Opcode::SetVariable);
+    code_->Jump(scope.Break);
+}
+
+/// Whether it is a try with a `finally`, which runs before a function ends.
+bool CodeGenerator::HasLast(const Scope& scope) {
+    return scope.Kind == ScopeKind::Guard && scope.Statement->Kind == NodeKind::Try &&
+           scope.Statement->C != nullptr;
+}
+
+/// Goes to where break, continue or return lead, out of what stands between. The value of a return
+/// that passes a `finally` waits in a variable.
+void CodeGenerator::Leave(NodeKind kind) {
+    for (std::size_t i = scopes_.size(); i-- > function_.FirstScope;) {
+        const Scope& scope = scopes_[i];
+        const bool isLoop = scope.Kind == ScopeKind::Loop || scope.Kind == ScopeKind::ForIn;
+        if (kind == NodeKind::Continue && isLoop) return code_->Jump(scope.Continue);
+        if (kind == NodeKind::Break && (isLoop || scope.Kind == ScopeKind::Switch))
+            return code_->Jump(scope.Break);
+        if (scope.Kind == ScopeKind::ForIn && code_->IsReachable()) UnwindForIn();
+        if (scope.Kind == ScopeKind::TellTarget) code_->Emit(ItemKind::SetTarget, Known("")->Index);
+        if (scope.Kind == ScopeKind::Guard && (kind != NodeKind::Return || HasLast(scope)))
+            return LeaveGuard(scope, kind);
+    }
+    if (kind != NodeKind::Return) return;
+    code_->PushText(Known(ResultName));
+    code_->Emit(Opcode::GetVariable);
+    code_->Emit(Opcode::Return);
+}
+
+void CodeGenerator::Return(const Node& node) {
+    bool isKept = false;
+    for (std::size_t i = function_.FirstScope; i < scopes_.size(); ++i)
+        isKept = isKept || scopes_[i].Kind == ScopeKind::ForIn ||
+                 scopes_[i].Kind == ScopeKind::TellTarget || HasLast(scopes_[i]);
+    if (!isKept) return ReturnValue(node.A);
+    code_->PushText(Known(ResultName));
+    if (node.A != nullptr)
+        Expression(*node.A);
+    else
+        Undefined();
+    code_->Emit(Opcode::DefineLocal);
+    Leave(NodeKind::Return);
+}
+
+void CodeGenerator::ReturnValue(const Node* value) {
+    if (value != nullptr && value->Kind == NodeKind::Conditional) {
+        const Label then = code_->NewLabel(value->Line);
+        const bool isSwapped = EndsInNot(*value->A);
+        Condition(*value->A, then, !isSwapped);
+        ReturnValue(isSwapped ? value->B : value->C);
+        code_->Place(then);
+        return ReturnValue(isSwapped ? value->C : value->B);
+    }
+    if (value != nullptr)
+        Expression(*value);
+    else
+        Undefined();
+    code_->Emit(Opcode::Return);
+}
+
+/// Names that a loop between here and the nearest try has left on the stack would reach a loop
+/// around that.
+void CodeGenerator::Throw(const Node& node) {
+    std::size_t loops = 0;
+    bool isCaught = false;
+    for (std::size_t i = scopes_.size(); i-- > function_.FirstScope && !isCaught;) {
+        if (scopes_[i].Kind == ScopeKind::ForIn) ++loops;
+        isCaught =
+            scopes_[i].Kind == ScopeKind::Guard && scopes_[i].Statement->Kind == NodeKind::Try;
+    }
+    const bool isKept = isCaught && loops > 0;
+    if (isKept) code_->PushText(Known(ResultName));
+    Expression(*node.A);
+    if (isKept) {
+        SetLocal();
+        for (; loops > 0; --loops) UnwindForIn();
+        code_->PushText(Known(ResultName));
+        code_->Emit(Opcode::GetVariable);
+    }
+    code_->Emit(Opcode::Throw);
+}
+
+/// Inside another target that one is set again, and otherwise the script's own clip.
+void CodeGenerator::RestoreTarget() {
+    code_->Emit(ItemKind::SetTarget, Known("")->Index);
+    for (std::size_t i = function_.FirstScope; i < scopes_.size(); ++i)
+        if (scopes_[i].Kind == ScopeKind::TellTarget) SetTarget(*scopes_[i].Statement->A);
+}
+
+void CodeGenerator::SetTarget(const Node& target) {
+    std::string path;
+    if (target.Kind == NodeKind::Text || target.Kind == NodeKind::SlashPath) {
+        code_->Emit(ItemKind::SetTarget, target.Name->Index);
+    } else if (version_ < 5 && target.Kind == NodeKind::Member && SlashPathOf(target, path)) {
+        code_->Emit(ItemKind::SetTarget, symbols_.InternCopy(path)->Index);
+    } else {
+        Expression(target);
+        code_->Emit(Opcode::SetTarget2);
+    }
+}
+
+void CodeGenerator::TellTarget(const Node& node) {
+    SetTarget(*node.A);
+    scopes_.push_back({ScopeKind::TellTarget, 0, 0, &node});
+    Statement(*node.B);
+    scopes_.pop_back();
+    RestoreTarget();
+}
+
+/// The action skips one action when the frame is not there: the jump to the body.
+void CodeGenerator::IfFrameLoaded(const Node& node) {
+    const Label body = code_->NewLabel(node.Line);
+    const Label end = code_->NewLabel(node.Line);
+    const Node& frame = *node.A;
+    if (frame.Kind == NodeKind::Number && frame.Value >= 1 && frame.Value <= 65535) {
+        code_->Emit(ItemKind::WaitForFrame, static_cast<std::uint32_t>(frame.Value) - 1);
+    } else {
+        Expression(frame);
+        code_->Emit(ItemKind::WaitForFrame2);
+    }
+    code_->JumpUnlessSkipped(body);
+    code_->Jump(end);
+    code_->Place(body);
+    Statement(*node.B);
+    code_->Place(end);
+}
+
+void CodeGenerator::Try(const Node& node) {
+    Symbol* exit = ExitName();
+    if (node.Count != 0) {
+        code_->PushText(exit);
+        PushInteger(0);
+        SetLocal();
+    }
+    code_->BeginTry({node.Name, node.Line, node.B != nullptr, node.C != nullptr});
+    GuardBlock(node.A, node, exit);
+    code_->EndTryBlock(ItemKind::TryBodyEnd);
+    GuardBlock(node.B, node, exit);
+    code_->EndTryBlock(ItemKind::HandlerEnd);
+    GuardBlock(node.C, node, exit);
+    code_->EndTryBlock(ItemKind::TryEnd);
+    AfterGuard(node, exit);
+}
+
+}  // namespace tamber

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "script/compiler/Builtin.h"
+#include "script/compiler/Symbol.h"
+
+namespace tamber {
+
+/// First version in which upper and lower case are told apart.
+inline constexpr Long FirstCaseVersion = 7;
+
+/// Looks up what a name means in a version: keyword, property, built-in function. Below version 7
+/// without regard to case.
+void Classify(Symbol& symbol, Long version);
+
+/// Name of a property of a movie clip; empty for a number that none has.
+std::string_view PropertyName(std::size_t number);
+
+/// Whether a call of the name, that of a class of the player, is a cast that converts nothing.
+bool IsPlayerClass(std::string_view name);
+
+}  // namespace tamber
