@@ -1,4 +1,5 @@
 #include <benchmark/benchmark.h>
+#include <librsvg/rsvg.h>
 #include <libxml/parser.h>
 
 #include <string>
@@ -55,7 +56,27 @@ BENCHMARK(ReadDrawing)
     ->Args({100000, 10000})
     ->Unit(benchmark::kMillisecond);
 
-/// The yardstick for ReadDrawing: the same text into a tree.
+/// A yardstick for ReadDrawing: what rsvg-convert reads of the same text before it draws.
+void Librsvg(benchmark::State& state) {
+    const Bytes text = Drawing(state.range(0), state.range(1));
+    for (auto _ : state) {
+        GInputStream* stream = g_memory_input_stream_new_from_data(
+            text.data(), static_cast<gssize>(text.size()), nullptr);
+        RsvgHandle* handle = rsvg_handle_new_from_stream_sync(
+            stream, nullptr, RSVG_HANDLE_FLAG_UNLIMITED, nullptr, nullptr);
+        if (handle == nullptr) state.SkipWithError("not read");
+        g_clear_object(&handle);
+        g_object_unref(stream);
+    }
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
+}
+BENCHMARK(Librsvg)
+    ->Args({100000, 20})
+    ->Args({100000, 100})
+    ->Args({100000, 10000})
+    ->Unit(benchmark::kMillisecond);
+
+/// A harder one, for it parses no numbers: the same text into a tree.
 void Libxml2(benchmark::State& state) {
     const Bytes text = Drawing(state.range(0), state.range(1));
     for (auto _ : state) {

@@ -48,7 +48,7 @@ void AddLine(const SvgStyleState& state, Long width, clsVectorData2& shape) {
 template <std::size_t Count>
 class Lengths {
 public:
-    explicit Lengths(const std::array<StringView, Count>& names) : names_(names) {}
+    explicit Lengths(const std::array<std::string_view, Count>& names) : names_(names) {}
 
     bool Take(const SvgAttribute& attribute) {
         const auto found = std::find(names_.begin(), names_.end(), attribute.Name);
@@ -59,7 +59,7 @@ public:
     Long operator[](std::size_t index) const { return values_[index]; }
 
 private:
-    std::array<StringView, Count> names_;
+    std::array<std::string_view, Count> names_;
     std::array<Long, Count> values_{};
 };
 
@@ -68,7 +68,7 @@ private:
 void SvgBody::ParseSvgBody(SvgScanner& scanner, const SvgStyleState& state) {
     const std::size_t outside = Matrices.size();
     Levels levels{{state, outside}};
-    for (StringView name = scanner.NextTag(); !name.empty() && name != u"/svg";
+    for (std::string_view name = scanner.NextTag(); !name.empty() && name != "/svg";
          name = scanner.NextTag()) {
         ReadTag(scanner, name, levels);
         if (uses_.empty()) progress_.At(scanner.Position());
@@ -76,15 +76,15 @@ void SvgBody::ParseSvgBody(SvgScanner& scanner, const SvgStyleState& state) {
     Matrices.resize(outside);
 }
 
-void SvgBody::ReadTag(SvgScanner& scanner, StringView name, Levels& levels) {
-    if (name.front() == u'/') {
-        if (name == u"/g" || name == u"/symbol") CloseLevel(levels);
+void SvgBody::ReadTag(SvgScanner& scanner, std::string_view name, Levels& levels) {
+    if (name.front() == '/') {
+        if (name == "/g" || name == "/symbol") CloseLevel(levels);
         scanner.PassTagEnd();
-    } else if (name == u"g" || name == u"symbol") {
+    } else if (name == "g" || name == "symbol") {
         OpenLevel(scanner, levels);
-    } else if (name == u"a" || name == u"switch") {
+    } else if (name == "a" || name == "switch") {
         scanner.PassTagEnd();
-    } else if (name == u"use") {
+    } else if (name == "use") {
         ReadSvgUseElement(scanner, levels.back().State);
     } else {
         if (!ReadShape(scanner, name, levels.back().State)) document_.LeftOut.NoteElement(name);
@@ -108,12 +108,12 @@ void SvgBody::CloseLevel(Levels& levels) {
     levels.pop_back();
 }
 
-bool SvgBody::ReadShape(SvgScanner& scanner, StringView name, const SvgStyleState& state) {
-    if (name == u"path" || name == u"polyline" || name == u"polygon")
+bool SvgBody::ReadShape(SvgScanner& scanner, std::string_view name, const SvgStyleState& state) {
+    if (name == "path" || name == "polyline" || name == "polygon")
         ReadSvgPathElement(scanner, name, state);
-    else if (name == u"rect")
+    else if (name == "rect")
         ReadSvgRectElement(scanner, state);
-    else if (name == u"line")
+    else if (name == "line")
         ReadSvgLineElement(scanner, state);
     else
         return false;
@@ -122,9 +122,9 @@ bool SvgBody::ReadShape(SvgScanner& scanner, StringView name, const SvgStyleStat
 
 void SvgBody::ParseSvgAttributes(SvgScanner& scanner, SvgStyleState& state, SvgMatrixList& matrices,
                                  const TakeAttribute& take) {
-    StringView transform;
+    std::string_view transform;
     for (SvgAttribute attribute; scanner.NextAttribute(attribute);) {
-        if (attribute.Name == u"transform")
+        if (attribute.Name == "transform")
             transform = attribute.Value;
         else if (!take(attribute))
             state.Apply(attribute, document_);
@@ -132,26 +132,26 @@ void SvgBody::ParseSvgAttributes(SvgScanner& scanner, SvgStyleState& state, SvgM
     ParseTransformList(transform, matrices);
 }
 
-void SvgBody::ReadSvgPathElement(SvgScanner& scanner, StringView name, SvgStyleState state) {
+void SvgBody::ReadSvgPathElement(SvgScanner& scanner, std::string_view name, SvgStyleState state) {
     SvgMatrixList own;
-    StringView d;
-    StringView points;
+    std::string_view d;
+    std::string_view points;
     ParseSvgAttributes(scanner, state, own, [&](const SvgAttribute& attribute) {
-        if (attribute.Name == u"d")
+        if (attribute.Name == "d")
             d = attribute.Value;
-        else if (attribute.Name == u"points")
+        else if (attribute.Name == "points")
             points = attribute.Value;
         else
             return false;
         return true;
     });
     const bool fill = state.WantsFill();
-    if (name == u"path") {
+    if (name == "path") {
         if (d.empty()) return;
         AddShape(state, own, fill,
                  [&](SvgPen& pen) { ParseSvgPathData(d, fill, pen, document_.LeftOut); });
     } else if (!points.empty()) {
-        const bool polygon = name == u"polygon";
+        const bool polygon = name == "polygon";
         AddShape(state, own, fill, [&](SvgPen& pen) {
             DrawSvgPoints(points, fill, polygon, pen, document_.LeftOut);
         });
@@ -160,8 +160,8 @@ void SvgBody::ReadSvgPathElement(SvgScanner& scanner, StringView name, SvgStyleS
 
 void SvgBody::ReadSvgRectElement(SvgScanner& scanner, SvgStyleState state) {
     SvgMatrixList own;
-    Lengths<4> lengths({u"x", u"y", u"width", u"height"});
-    Lengths<2> radii({u"rx", u"ry"});
+    Lengths<4> lengths({"x", "y", "width", "height"});
+    Lengths<2> radii({"rx", "ry"});
     ParseSvgAttributes(scanner, state, own, [&](const SvgAttribute& attribute) {
         return lengths.Take(attribute) || radii.Take(attribute);
     });
@@ -182,7 +182,7 @@ void SvgBody::ReadSvgRectElement(SvgScanner& scanner, SvgStyleState state) {
 
 void SvgBody::ReadSvgLineElement(SvgScanner& scanner, SvgStyleState state) {
     SvgMatrixList own;
-    Lengths<4> ends({u"x1", u"y1", u"x2", u"y2"});
+    Lengths<4> ends({"x1", "y1", "x2", "y2"});
     ParseSvgAttributes(scanner, state, own,
                        [&](const SvgAttribute& attribute) { return ends.Take(attribute); });
     AddShape(state, own, false, [&](SvgPen& pen) {
@@ -193,10 +193,10 @@ void SvgBody::ReadSvgLineElement(SvgScanner& scanner, SvgStyleState state) {
 
 void SvgBody::ReadSvgUseElement(SvgScanner& scanner, SvgStyleState state) {
     const std::size_t outside = Matrices.size();
-    Lengths<4> lengths({u"x", u"y", u"width", u"height"});
-    StringView target;
+    Lengths<4> lengths({"x", "y", "width", "height"});
+    std::string_view target;
     ParseSvgAttributes(scanner, state, Matrices, [&](const SvgAttribute& attribute) {
-        if (attribute.Name != u"xlink:href") return lengths.Take(attribute);
+        if (attribute.Name != "xlink:href") return lengths.Take(attribute);
         target = attribute.Value;
         return true;
     });
@@ -207,12 +207,12 @@ void SvgBody::ReadSvgUseElement(SvgScanner& scanner, SvgStyleState state) {
         shift.sftY = lengths[1];
         Matrices.push_back(shift);
     }
-    if (target.starts_with(u'#')) target.remove_prefix(1);
+    if (target.starts_with('#')) target.remove_prefix(1);
     DrawUse(target, scanner.TagStart(), state);
     Matrices.resize(outside);
 }
 
-void SvgBody::DrawUse(StringView id, std::size_t place, const SvgStyleState& state) {
+void SvgBody::DrawUse(std::string_view id, std::size_t place, const SvgStyleState& state) {
     const auto* element = document_.FindId<clsSvgIDInfo>(id);
     if (element == nullptr) return;
     const bool within = place >= element->SIndex && place < element->EIndex;
@@ -249,7 +249,7 @@ void SvgBody::AddShape(const SvgStyleState& state, const SvgMatrixList& own, boo
 
 clsSWFTFillStyle SvgBody::MakeFill(const SvgStyleState& state,
                                    const SvgTransformation& transformation, const Draw& draw) {
-    if (state.FillText.starts_with(u"url")) {
+    if (state.FillText.starts_with("url")) {
         if (const auto gradient = FindSvgGradient(document_, state.FillText)) {
             const SwfRect extent = gradient->NeedsBounds() ? ExtentOf(draw) : SwfRect();
             clsSWFTFillStyle fill = MakeSvgGradientFill(document_, *gradient, transformation,

@@ -33,16 +33,16 @@ private:
     /// Takes an attribute that is no part of the style; false when it means nothing to the element.
     using TakeAttribute = std::function<bool(const SvgAttribute&)>;
 
-    void ReadTag(SvgScanner& scanner, StringView name, Levels& levels);
+    void ReadTag(SvgScanner& scanner, std::string_view name, Levels& levels);
     void OpenLevel(SvgScanner& scanner, Levels& levels);
     void CloseLevel(Levels& levels);
-    bool ReadShape(SvgScanner& scanner, StringView name, const SvgStyleState& state);
-    void ReadSvgPathElement(SvgScanner& scanner, StringView name, SvgStyleState state);
+    bool ReadShape(SvgScanner& scanner, std::string_view name, const SvgStyleState& state);
+    void ReadSvgPathElement(SvgScanner& scanner, std::string_view name, SvgStyleState state);
     void ReadSvgRectElement(SvgScanner& scanner, SvgStyleState state);
     void ReadSvgLineElement(SvgScanner& scanner, SvgStyleState state);
     void ReadSvgUseElement(SvgScanner& scanner, SvgStyleState state);
     /// Draws what a reuse at `place` of the text refers to, unless it would contain itself.
-    void DrawUse(StringView id, std::size_t place, const SvgStyleState& state);
+    void DrawUse(std::string_view id, std::size_t place, const SvgStyleState& state);
     /// Reads attributes into the state, transformations onto the list, the rest through `take`.
     void ParseSvgAttributes(SvgScanner& scanner, SvgStyleState& state, SvgMatrixList& matrices,
                             const TakeAttribute& take);

@@ -8,9 +8,9 @@ namespace tamber {
 
 /// 0xRRGGBB from "#rgb", "#rrggbb", "rgb(r,g,b)" in decimal numbers or a colour keyword; nothing
 /// from any other text.
-std::optional<Long> FindSvgColor(StringView text);
+std::optional<Long> FindSvgColor(std::string_view text);
 /// As FindSvgColor, with 0 for a text that is no colour.
-inline Long ParseSvgColor(StringView text) {
+inline Long ParseSvgColor(std::string_view text) {
     return FindSvgColor(text).value_or(0);
 }
 

@@ -67,14 +67,15 @@ private:
     bool ready_;
 };
 
-bool DeclaresUtf8(StringView head) {
-    static constexpr StringView Mark = u"<?xml";
+bool DeclaresUtf8(std::string_view head) {
+    static constexpr std::string_view Mark = "<?xml";
     const std::size_t found = head.find(Mark);
-    if (found == StringView::npos) return false;
+    if (found == std::string_view::npos) return false;
     SvgLeftOut ignored;
     SvgScanner scanner(head, found + Mark.size(), ignored);
     for (SvgAttribute attribute; scanner.NextAttribute(attribute);)
-        if (attribute.Name == u"encoding") return FoldCase(attribute.Value) == u"utf-8";
+        if (attribute.Name == "encoding")
+            return EqualsNoCase(FromNarrow(attribute.Value), u"utf-8");
     return false;
 }
 
@@ -93,11 +94,14 @@ std::optional<Bytes> UnpackSvgz(ByteView file) {
     return GzipReader(file).Read();
 }
 
-String DecodeSvg(ByteView bytes) {
+std::string_view DecodeSvg(ByteView bytes, std::string& decoded) {
+    const std::string_view raw(reinterpret_cast<const char*>(bytes.data()), bytes.size());
     // Both encodings hold ASCII as it is.
-    if (IsAscii(bytes)) return {bytes.begin(), bytes.end()};
-    const ByteView head = bytes.first(std::min(bytes.size(), HeadSize));
-    return DeclaresUtf8(DecodeAnsi(head)) ? DecodeUtf8(bytes) : DecodeAnsi(bytes);
+    if (IsAscii(bytes)) return raw;
+    const String text =
+        DeclaresUtf8(raw.substr(0, HeadSize)) ? DecodeUtf8(bytes) : DecodeAnsi(bytes);
+    decoded = ToNarrow(ReplaceAll(text, u"\u3000", u" "));
+    return decoded;
 }
 
 }  // namespace tamber

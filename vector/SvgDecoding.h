@@ -1,6 +1,8 @@
 #pragma once
 
 #include <optional>
+#include <string>
+#include <string_view>
 
 #include "platform/types.h"
 
@@ -10,7 +12,9 @@ namespace tamber {
 /// when it is damaged or too large.
 std::optional<Bytes> UnpackSvgz(ByteView file);
 
-/// Text of a drawing: in UTF-8 when its declaration says so, else in code page 932.
-String DecodeSvg(ByteView bytes);
+/// Text of a drawing as UTF-8, with plain spaces for ideographic ones: the file is in UTF-8 when
+/// its declaration says so, else in code page 932. The view is of `bytes` themselves where they are
+/// all ASCII, else of `decoded`.
+std::string_view DecodeSvg(ByteView bytes, std::string& decoded);
 
 }  // namespace tamber

@@ -25,12 +25,12 @@ constexpr std::size_t MostStops = 15;
 /// Gradients that may lie between one and the colours it takes over.
 constexpr int MostLinks = 16;
 
-SvgCoordinate ParseCoordinate(StringView text) {
+SvgCoordinate ParseCoordinate(std::string_view text) {
     return {ParseSvgLengthPercent(text), HasSvgPercent(text)};
 }
 
-StringView CutHash(StringView reference) {
-    if (reference.starts_with(u'#')) reference.remove_prefix(1);
+std::string_view CutHash(std::string_view reference) {
+    if (reference.starts_with('#')) reference.remove_prefix(1);
     return reference;
 }
 
@@ -39,7 +39,7 @@ class GradientReader {
 public:
     GradientReader(SvgDocument& document, SvgScanner& scanner, bool radial)
         : document_(document), scanner_(scanner), radial_(radial) {
-        gradient_->GradName = radial ? u"Radial" : u"Linear";
+        gradient_->GradName = radial ? "Radial" : "Linear";
         if (radial)
             gradient_->StartX.Value = gradient_->StartY.Value = 0.5f;
         else
@@ -59,17 +59,17 @@ public:
 
 private:
     void ReadAttribute(const SvgAttribute& attribute) {
-        const StringView name = attribute.Name;
-        const StringView value = attribute.Value;
-        if (name == u"id")
+        const std::string_view name = attribute.Name;
+        const std::string_view value = attribute.Value;
+        if (name == "id")
             id_ = value;
-        else if (name == u"gradientUnits")
-            gradient_->UserSpaceOnUse = value == u"userSpaceOnUse";
-        else if (name == u"xlink:href")
+        else if (name == "gradientUnits")
+            gradient_->UserSpaceOnUse = value == "userSpaceOnUse";
+        else if (name == "xlink:href")
             gradient_->linkName = CutHash(value);
-        else if (name == u"spreadMethod")
-            gradient_->Spread = value == u"reflect" ? 1 : value == u"repeat" ? 2 : 0;
-        else if (name == u"gradientTransform")
+        else if (name == "spreadMethod")
+            gradient_->Spread = value == "reflect" ? 1 : value == "repeat" ? 2 : 0;
+        else if (name == "gradientTransform")
             ParseTransformList(value, gradient_->colGradientMatrix);
         else if (!(radial_ ? ReadRadial(attribute) : ReadLinear(attribute)))
             document_.LeftOut.NoteAttribute(name, value);
@@ -77,13 +77,13 @@ private:
 
     bool ReadLinear(const SvgAttribute& attribute) {
         const SvgCoordinate place = ParseCoordinate(attribute.Value);
-        if (attribute.Name == u"x1")
+        if (attribute.Name == "x1")
             gradient_->StartX = place;
-        else if (attribute.Name == u"y1")
+        else if (attribute.Name == "y1")
             gradient_->StartY = place;
-        else if (attribute.Name == u"x2")
+        else if (attribute.Name == "x2")
             gradient_->EndX = place;
-        else if (attribute.Name == u"y2")
+        else if (attribute.Name == "y2")
             gradient_->EndY = place;
         else
             return false;
@@ -92,16 +92,16 @@ private:
 
     bool ReadRadial(const SvgAttribute& attribute) {
         const SvgCoordinate place = ParseCoordinate(attribute.Value);
-        if (attribute.Name == u"cx") {
+        if (attribute.Name == "cx") {
             gradient_->StartX = place;
-        } else if (attribute.Name == u"cy") {
+        } else if (attribute.Name == "cy") {
             gradient_->StartY = place;
-        } else if (attribute.Name == u"r") {
+        } else if (attribute.Name == "r") {
             gradient_->r = place;
-        } else if (attribute.Name == u"fx") {
+        } else if (attribute.Name == "fx") {
             gradient_->EndX = place;
             focusX_ = true;
-        } else if (attribute.Name == u"fy") {
+        } else if (attribute.Name == "fy") {
             gradient_->EndY = place;
             focusY_ = true;
         } else {
@@ -111,14 +111,14 @@ private:
     }
 
     void ReadStops() {
-        for (StringView name = scanner_.NextTag(); !name.empty(); name = scanner_.NextTag()) {
-            if (name == u"/linearGradient" || name == u"/radialGradient") {
+        for (std::string_view name = scanner_.NextTag(); !name.empty(); name = scanner_.NextTag()) {
+            if (name == "/linearGradient" || name == "/radialGradient") {
                 scanner_.PassTagEnd();
                 return;
             }
-            if (name == u"stop")
+            if (name == "stop")
                 ReadStop();
-            else if (name.front() != u'/')
+            else if (name.front() != '/')
                 scanner_.SkipElement();
         }
     }
@@ -128,17 +128,17 @@ private:
         Long opacity = 255;
         Long place = 0;
         const auto take = [&](const SvgAttribute& item) {
-            if (item.Name == u"offset")
+            if (item.Name == "offset")
                 place = SvgShare(item.Value, 255);
-            else if (item.Name == u"stop-color")
+            else if (item.Name == "stop-color")
                 color = ParseSvgColor(item.Value);
-            else if (item.Name == u"stop-opacity")
+            else if (item.Name == "stop-opacity")
                 opacity = SvgShare(item.Value, 255);
             else
                 document_.LeftOut.NoteAttribute(item.Name, item.Value);
         };
         for (SvgAttribute attribute; scanner_.NextAttribute(attribute);) {
-            if (attribute.Name == u"style")
+            if (attribute.Name == "style")
                 ForEachSvgStyleItem(attribute.Value, document_, take);
             else
                 take(attribute);
@@ -153,7 +153,7 @@ private:
     SvgDocument& document_;
     SvgScanner& scanner_;
     bool radial_;
-    StringView id_;
+    std::string_view id_;
     std::shared_ptr<clsSvgGradientData> gradient_ = std::make_shared<clsSvgGradientData>();
     bool focusX_ = false;
     bool focusY_ = false;
@@ -287,19 +287,19 @@ void CopyColors(const clsSvgGradientData& colors, Long spread, Long alpha,
 
 }  // namespace
 
-void ReadSvgGradient(SvgDocument& document, SvgScanner& scanner, StringView name) {
-    GradientReader(document, scanner, name == u"radialGradient").Read();
+void ReadSvgGradient(SvgDocument& document, SvgScanner& scanner, std::string_view name) {
+    GradientReader(document, scanner, name == "radialGradient").Read();
 }
 
-std::shared_ptr<clsSvgGradientData> FindSvgGradient(SvgDocument& document, StringView fill) {
-    const std::size_t start = fill.find(u'#');
-    if (start == StringView::npos) return nullptr;
-    const std::size_t end = fill.find(u')', start);
-    if (end == StringView::npos) return nullptr;
-    const StringView id = fill.substr(start + 1, end - start - 1);
+std::shared_ptr<clsSvgGradientData> FindSvgGradient(SvgDocument& document, std::string_view fill) {
+    const std::size_t start = fill.find('#');
+    if (start == std::string_view::npos) return nullptr;
+    const std::size_t end = fill.find(')', start);
+    if (end == std::string_view::npos) return nullptr;
+    const std::string_view id = fill.substr(start + 1, end - start - 1);
     if (const auto* found = document.FindId<std::shared_ptr<clsSvgGradientData>>(id)) return *found;
     const auto* element = document.FindId<clsSvgIDInfo>(id);
-    if (element != nullptr && document.Text.substr(element->SIndex).starts_with(u"<pattern"))
+    if (element != nullptr && document.Text.substr(element->SIndex).starts_with("<pattern"))
         document.LeftOut.Note(SvgFeature::Pattern);
     else
         document.LeftOut.Note(SvgFeature::Paint);
@@ -319,8 +319,8 @@ clsSWFTFillStyle MakeSvgGradientFill(const SvgDocument& document,
         return fill;
     }
     const GradientFill maker(gradient, transformation, bounds);
-    clsSWFTFillStyle fill = gradient.GradName == u"Radial" ? maker.MakeRadialGradientFill()
-                                                           : maker.MakeLinearGradientFill();
+    clsSWFTFillStyle fill = gradient.GradName == "Radial" ? maker.MakeRadialGradientFill()
+                                                          : maker.MakeLinearGradientFill();
     CopyColors(colors, gradient.Spread, alpha, *fill.StyleAs<clsSWFTFillLinearRadial>());
     return fill;
 }

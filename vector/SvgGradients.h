@@ -7,10 +7,10 @@
 namespace tamber {
 
 /// Reads a gradient element, whose tag name was read last, to its end, and enters it under its id.
-void ReadSvgGradient(SvgDocument& document, SvgScanner& scanner, StringView name);
+void ReadSvgGradient(SvgDocument& document, SvgScanner& scanner, std::string_view name);
 
 /// The gradient that a fill such as "url(#id)" refers to; null when there is none.
-std::shared_ptr<clsSvgGradientData> FindSvgGradient(SvgDocument& document, StringView fill);
+std::shared_ptr<clsSvgGradientData> FindSvgGradient(SvgDocument& document, std::string_view fill);
 
 /// Makes the fill of a shape; `bounds` is its extent before any transformation, `alpha` 0 to 255.
 /// A gradient without colours gives a style without an object.

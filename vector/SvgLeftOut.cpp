@@ -38,36 +38,36 @@ constexpr std::array<StringView, static_cast<std::size_t>(SvgFeature::Count)> Fe
 };
 
 struct NamedFeature {
-    StringView Name;
+    std::string_view Name;
     SvgFeature Feature;
 };
 
 constexpr NamedFeature Elements[] = {
-    {u"text", SvgFeature::Text},
-    {u"image", SvgFeature::Image},
-    {u"circle", SvgFeature::Circle},
-    {u"ellipse", SvgFeature::Ellipse},
-    {u"style", SvgFeature::StyleSheet},
-    {u"animate", SvgFeature::Animation},
-    {u"animateTransform", SvgFeature::Animation},
-    {u"animateMotion", SvgFeature::Animation},
-    {u"set", SvgFeature::Animation},
-    {u"script", SvgFeature::Script},
-    {u"foreignObject", SvgFeature::ForeignObject},
-    {u"svg", SvgFeature::NestedSvg},
+    {"text", SvgFeature::Text},
+    {"image", SvgFeature::Image},
+    {"circle", SvgFeature::Circle},
+    {"ellipse", SvgFeature::Ellipse},
+    {"style", SvgFeature::StyleSheet},
+    {"animate", SvgFeature::Animation},
+    {"animateTransform", SvgFeature::Animation},
+    {"animateMotion", SvgFeature::Animation},
+    {"set", SvgFeature::Animation},
+    {"script", SvgFeature::Script},
+    {"foreignObject", SvgFeature::ForeignObject},
+    {"svg", SvgFeature::NestedSvg},
 };
 
 constexpr NamedFeature Attributes[] = {
-    {u"class", SvgFeature::StyleSheet},
-    {u"clip-path", SvgFeature::Clipping},
-    {u"mask", SvgFeature::Mask},
-    {u"filter", SvgFeature::Filter},
-    {u"marker", SvgFeature::Marker},
-    {u"marker-start", SvgFeature::Marker},
-    {u"marker-mid", SvgFeature::Marker},
-    {u"marker-end", SvgFeature::Marker},
-    {u"stroke-dasharray", SvgFeature::Dashes},
-    {u"href", SvgFeature::PlainHref},
+    {"class", SvgFeature::StyleSheet},
+    {"clip-path", SvgFeature::Clipping},
+    {"mask", SvgFeature::Mask},
+    {"filter", SvgFeature::Filter},
+    {"marker", SvgFeature::Marker},
+    {"marker-start", SvgFeature::Marker},
+    {"marker-mid", SvgFeature::Marker},
+    {"marker-end", SvgFeature::Marker},
+    {"stroke-dasharray", SvgFeature::Dashes},
+    {"href", SvgFeature::PlainHref},
 };
 
 }  // namespace
@@ -79,20 +79,19 @@ void SvgLeftOut::Note(SvgFeature feature) {
     Names.emplace_back(FeatureNames[index]);
 }
 
-void SvgLeftOut::NoteElement(StringView name) {
-    if (name.starts_with(u"svg:")) Note(SvgFeature::PrefixedElement);
+void SvgLeftOut::NoteElement(std::string_view name) {
+    if (name.starts_with("svg:")) Note(SvgFeature::PrefixedElement);
     for (const NamedFeature& element : Elements)
         if (name == element.Name) Note(element.Feature);
 }
 
-void SvgLeftOut::NoteAttribute(StringView name, StringView value) {
-    if (value.empty() || value == u"none") {
-        if (name == u"display" && value == u"none") Note(SvgFeature::Hidden);
+void SvgLeftOut::NoteAttribute(std::string_view name, std::string_view value) {
+    if (value.empty() || value == "none") {
+        if (name == "display" && value == "none") Note(SvgFeature::Hidden);
         return;
     }
-    if (name == u"visibility" && value != u"visible" && value != u"inherit")
-        Note(SvgFeature::Hidden);
-    if (name == u"preserveAspectRatio" && value != u"xMidYMid" && value != u"xMidYMid meet")
+    if (name == "visibility" && value != "visible" && value != "inherit") Note(SvgFeature::Hidden);
+    if (name == "preserveAspectRatio" && value != "xMidYMid" && value != "xMidYMid meet")
         Note(SvgFeature::AspectRatio);
     for (const NamedFeature& attribute : Attributes)
         if (name == attribute.Name) Note(attribute.Feature);

@@ -43,9 +43,9 @@ class SvgLeftOut {
 public:
     void Note(SvgFeature feature);
     /// Notes what the name of an element that is not drawn stands for, if it leaves a gap.
-    void NoteElement(StringView name);
+    void NoteElement(std::string_view name);
     /// Notes an attribute or style item that has no effect here, unless its value is "none".
-    void NoteAttribute(StringView name, StringView value);
+    void NoteAttribute(std::string_view name, std::string_view value);
 
     std::vector<String> Names;
 

@@ -10,8 +10,8 @@ namespace tamber {
 
 namespace {
 
-bool IsSign(char16_t c) {
-    return c == u'-' || c == u'+';
+bool IsSign(char c) {
+    return c == '-' || c == '+';
 }
 
 /// A number without its sign as digits and a power of ten.
@@ -26,11 +26,11 @@ constexpr int MostExponent = 9999;
 
 /// Reads digits from `at` on and returns the place behind them. The exponent follows the digits
 /// that are left out, and in a fraction those that are not.
-std::size_t ReadDigits(StringView text, std::size_t at, bool fraction, Decimal& number) {
+std::size_t ReadDigits(std::string_view text, std::size_t at, bool fraction, Decimal& number) {
     std::uint64_t digits = number.Digits;
     const std::size_t start = at;
     for (; at < text.size() && IsSvgDigit(text[at]) && digits < MostDigits; ++at)
-        digits = digits * 10 + (text[at] - u'0');
+        digits = digits * 10 + (text[at] - '0');
     const std::size_t kept = at;
     while (at < text.size() && IsSvgDigit(text[at])) ++at;
     number.Digits = digits;
@@ -39,16 +39,16 @@ std::size_t ReadDigits(StringView text, std::size_t at, bool fraction, Decimal& 
 }
 
 /// Reads an exponent at `at`, if there is one, and returns the place behind it.
-std::size_t ReadExponent(StringView text, std::size_t at, Decimal& number) {
+std::size_t ReadExponent(std::string_view text, std::size_t at, Decimal& number) {
     const std::size_t start = at;
-    if (at >= text.size() || (text[at] != u'e' && text[at] != u'E')) return start;
+    if (at >= text.size() || (text[at] != 'e' && text[at] != 'E')) return start;
     ++at;
-    const bool negative = at < text.size() && text[at] == u'-';
+    const bool negative = at < text.size() && text[at] == '-';
     if (at < text.size() && IsSign(text[at])) ++at;
     if (at >= text.size() || !IsSvgDigit(text[at])) return start;
     int exponent = 0;
     for (; at < text.size() && IsSvgDigit(text[at]); ++at)
-        exponent = std::min(exponent * 10 + (text[at] - u'0'), MostExponent);
+        exponent = std::min(exponent * 10 + (text[at] - '0'), MostExponent);
     number.Exponent += negative ? -exponent : exponent;
     return at;
 }
@@ -70,13 +70,13 @@ Single ValueOf(const Decimal& number, bool negative) {
 }
 
 struct Unit {
-    StringView Name;
+    std::string_view Name;
     Single Pixels;
 };
 
 constexpr Unit Units[] = {
-    {u"pt", 1.25f}, {u"pc", 15}, {u"mm", 3.543307f}, {u"cm", 35.43307f},
-    {u"in", 90},    {u"em", 15}, {u"ex", 10.5f},
+    {"pt", 1.25f}, {"pc", 15}, {"mm", 3.543307f}, {"cm", 35.43307f},
+    {"in", 90},    {"em", 15}, {"ex", 10.5f},
 };
 
 /// The number that a length begins with, and the pixels of its unit.
@@ -85,13 +85,13 @@ struct Length {
     Single Pixels = 1;
 };
 
-Length ReadLength(StringView text) {
+Length ReadLength(std::string_view text) {
     std::size_t end = 0;
-    while (end < text.size() && (IsSvgDigit(text[end]) || text[end] == u'.' || IsSign(text[end])))
+    while (end < text.size() && (IsSvgDigit(text[end]) || text[end] == '.' || IsSign(text[end])))
         ++end;
     Length length;
     length.Number = ParseSvgNumber(text.substr(0, end));
-    const StringView name = text.substr(end, 2);
+    const std::string_view name = text.substr(end, 2);
     for (const Unit& unit : Units)
         if (name == unit.Name) length.Pixels = unit.Pixels;
     return length;
@@ -104,20 +104,20 @@ Long AddSvgTwips(Long a, Long b) {
     return static_cast<Long>(std::clamp<std::int64_t>(sum, -SvgFarthest, SvgFarthest));
 }
 
-Single ParseSvgNumber(StringView text, std::size_t* end) {
+Single ParseSvgNumber(std::string_view text, std::size_t* end) {
     Decimal number;
-    const bool negative = !text.empty() && text.front() == u'-';
+    const bool negative = !text.empty() && text.front() == '-';
     std::size_t at = !text.empty() && IsSign(text.front()) ? 1 : 0;
     at = ReadDigits(text, at, false, number);
-    if (at < text.size() && text[at] == u'.') at = ReadDigits(text, at + 1, true, number);
+    if (at < text.size() && text[at] == '.') at = ReadDigits(text, at + 1, true, number);
     at = ReadExponent(text, at, number);
     if (end != nullptr) *end = at;
     return ValueOf(number, negative);
 }
 
 bool SvgNumberReader::NextOdd(Long& twips) {
-    if (AtEnd() || !(IsSvgDigit(Current()) || IsSign(Current()) || Current() == u'.')) return false;
-    const StringView rest = text_.substr(position_);
+    if (AtEnd() || !(IsSvgDigit(Current()) || IsSign(Current()) || Current() == '.')) return false;
+    const std::string_view rest = text_.substr(position_);
     std::size_t length = 0;
     const Single value = ParseSvgNumber(rest, &length);
     position_ += length;
@@ -126,37 +126,37 @@ bool SvgNumberReader::NextOdd(Long& twips) {
     return true;
 }
 
-void SvgNumberReader::PassNumber(StringView number) {
-    bool exponent = number.find_first_of(u"eE") != StringView::npos;
+void SvgNumberReader::PassNumber(std::string_view number) {
+    bool exponent = number.find_first_of("eE") != std::string_view::npos;
     for (; !AtEnd(); ++position_) {
-        const char16_t c = Current();
-        if (c == u'e' || c == u'E')
+        const char c = Current();
+        if (c == 'e' || c == 'E')
             exponent = true;
-        else if (IsSign(c) ? !exponent : !IsSvgDigit(c) && c != u'.')
+        else if (IsSign(c) ? !exponent : !IsSvgDigit(c) && c != '.')
             return;
         joined_ = true;
     }
 }
 
-std::vector<Long> ParseSvgNumberList(StringView text) {
+std::vector<Long> ParseSvgNumberList(std::string_view text) {
     std::vector<Long> numbers;
     SvgNumberReader reader(text);
     for (Long twips = 0; reader.Next(twips);) numbers.push_back(twips);
     return numbers;
 }
 
-Long ParseSvgLength(StringView text) {
+Long ParseSvgLength(std::string_view text) {
     const Length length = ReadLength(text);
     return ToSvgTwips(length.Number * (length.Pixels * TwipsPerPixel));
 }
 
-Single ParseSvgLengthPercent(StringView text) {
+Single ParseSvgLengthPercent(std::string_view text) {
     const Length length = ReadLength(text);
     return HasSvgPercent(text) ? length.Number / 100 : length.Number * length.Pixels;
 }
 
-bool HasSvgPercent(StringView text) {
-    return !text.empty() && text.back() == u'%';
+bool HasSvgPercent(std::string_view text) {
+    return !text.empty() && text.back() == '%';
 }
 
 }  // namespace tamber

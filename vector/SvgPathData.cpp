@@ -8,18 +8,18 @@ namespace tamber {
 
 namespace {
 
-bool IsCommand(char16_t c) {
+bool IsCommand(char c) {
     switch (c | 0x20) {
-        case u'm':
-        case u'l':
-        case u'h':
-        case u'v':
-        case u'c':
-        case u's':
-        case u'q':
-        case u't':
-        case u'a':
-        case u'z':
+        case 'm':
+        case 'l':
+        case 'h':
+        case 'v':
+        case 'c':
+        case 's':
+        case 'q':
+        case 't':
+        case 'a':
+        case 'z':
             return true;
         default:
             return false;
@@ -28,12 +28,12 @@ bool IsCommand(char16_t c) {
 
 class PathParser {
 public:
-    PathParser(StringView d, bool fill, SvgPen& pen, SvgLeftOut& leftOut)
+    PathParser(std::string_view d, bool fill, SvgPen& pen, SvgLeftOut& leftOut)
         : numbers_(d), fill_(fill), pen_(pen), leftOut_(leftOut) {}
 
     void Parse() {
         while (!numbers_.AtEnd()) {
-            const char16_t c = numbers_.Current();
+            const char c = numbers_.Current();
             if (IsCommand(c)) {
                 numbers_.Advance();
                 Begin(c);
@@ -50,14 +50,14 @@ public:
 private:
     enum class Control { None, Cubic, Quadratic };
 
-    void Begin(char16_t c) {
-        relative_ = c >= u'a';
-        const auto command = static_cast<char16_t>(relative_ ? c - u'a' + u'A' : c);
-        if (command == u'M') EndSubpath();
+    void Begin(char c) {
+        relative_ = c >= 'a';
+        const auto command = static_cast<char>(relative_ ? c - 'a' + 'A' : c);
+        if (command == 'M') EndSubpath();
         command_ = command;
         moved_ = false;
-        if (command == u'Z') Close();
-        if (command == u'A') leftOut_.Note(SvgFeature::Arc);
+        if (command == 'Z') Close();
+        if (command == 'A') leftOut_.Note(SvgFeature::Arc);
         RunCommand();
     }
 
@@ -70,23 +70,23 @@ private:
     /// Draws once; false when the numbers do not suffice.
     bool Step() {
         switch (command_) {
-            case u'M':
+            case 'M':
                 return Take(2) && MoveOrLine();
-            case u'L':
+            case 'L':
                 return Take(2) && Line(Point(0));
-            case u'H':
+            case 'H':
                 return Take(1) && Line({Shift(values_[0], current_.X), current_.Y});
-            case u'V':
+            case 'V':
                 return Take(1) && Line({current_.X, Shift(values_[0], current_.Y)});
-            case u'C':
+            case 'C':
                 return Take(6) && Cubic(Point(0), Point(2), Point(4));
-            case u'S':
+            case 'S':
                 return Take(4) && Cubic(Reflection(Control::Cubic), Point(0), Point(2));
-            case u'Q':
+            case 'Q':
                 return Take(4) && Quadratic(Point(0), Point(2));
-            case u'T':
+            case 'T':
                 return Take(2) && Quadratic(Reflection(Control::Quadratic), Point(0));
-            case u'A':
+            case 'A':
                 control_ = Control::None;
                 return Take(1);
             default:
@@ -94,11 +94,7 @@ private:
         }
     }
 
-    bool Take(std::size_t count) {
-        for (std::size_t i = 0; i < count; ++i)
-            if (!numbers_.Next(values_[i])) return false;
-        return true;
-    }
+    bool Take(std::size_t count) { return numbers_.Next(std::span(values_).first(count)); }
 
     Long Shift(Long value, Long from) const { return relative_ ? AddSvgTwips(value, from) : value; }
     SwfPoint Point(std::size_t index) const {
@@ -145,7 +141,7 @@ private:
         control_ = Control::None;
     }
     void EndSubpath() {
-        if (fill_ && command_ != 0 && command_ != u'Z') pen_.Close(false);
+        if (fill_ && command_ != 0 && command_ != 'Z') pen_.Close(false);
         if (!numbers_.AtEnd()) pen_.TurnLineOn();
     }
 
@@ -153,7 +149,7 @@ private:
     bool fill_;
     SvgPen& pen_;
     SvgLeftOut& leftOut_;
-    char16_t command_ = 0;
+    char command_ = 0;
     bool relative_ = false;
     bool moved_ = false;
     std::array<Long, 6> values_{};
@@ -165,11 +161,16 @@ private:
 
 }  // namespace
 
-void ParseSvgPathData(StringView d, bool fill, SvgPen& pen, SvgLeftOut& leftOut) {
+void ParseSvgPathData(std::string_view d, bool fill, SvgPen& pen, SvgLeftOut& leftOut) {
+    // About an edge for each so many characters: a line has two numbers, a cubic six and four
+    // edges.
+    constexpr std::size_t CharactersPerEdge = 12;
+    pen.Expect(d.size() / CharactersPerEdge);
     PathParser(d, fill, pen, leftOut).Parse();
 }
 
-void DrawSvgPoints(StringView points, bool fill, bool polygon, SvgPen& pen, SvgLeftOut& leftOut) {
+void DrawSvgPoints(std::string_view points, bool fill, bool polygon, SvgPen& pen,
+                   SvgLeftOut& leftOut) {
     SvgNumberReader numbers(points);
     Long x = 0;
     Long y = 0;

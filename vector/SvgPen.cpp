@@ -67,6 +67,10 @@ SvgPen::SvgPen(clsSWFTShapeRecords& records, const SvgTransformation& transforma
     if (line_) records_.LineWidth = reach_;
 }
 
+void SvgPen::Expect(std::size_t edges) {
+    records_.colShapeRecords.reserve(records_.colShapeRecords.size() + edges);
+}
+
 void SvgPen::MovePenTo(Long x, Long y) {
     Spend();
     start_ = transformation_.MapPoint(x, y);

@@ -13,6 +13,8 @@ public:
     SvgPen(clsSWFTShapeRecords& records, const SvgTransformation& transformation, bool line,
            Long lineWidth, SvgBudget& budget);
 
+    /// Makes room for about so many edges.
+    void Expect(std::size_t edges);
     /// Begins a subpath.
     void MovePenTo(Long x, Long y);
     void DrawLineTo(Long x, Long y);

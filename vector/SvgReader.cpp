@@ -18,7 +18,7 @@ namespace {
 /// Reads one decoded drawing.
 class SvgReader {
 public:
-    SvgReader(StringView text, StringView progressText, clsVector& vector)
+    SvgReader(std::string_view text, StringView progressText, clsVector& vector)
         : vector_(vector),
           progress_(progressText, text.size()),
           body_(document_, progress_, *vector.inVector) {
@@ -30,7 +30,7 @@ public:
 
     bool Read() {
         const std::size_t root = FindRoot();
-        if (root == StringView::npos) return false;
+        if (root == std::string_view::npos) return false;
         SvgScanner scanner(document_.Text, root, document_.LeftOut);
         SvgStyleState state;
         ReadRoot(scanner, state);
@@ -43,27 +43,27 @@ public:
 private:
     /// Place behind the name of the root element.
     std::size_t FindRoot() {
-        static constexpr StringView Mark = u"<svg";
+        static constexpr std::string_view Mark = "<svg";
         const std::size_t prologEnd = std::min(document_.Text.find(Mark), document_.Text.size());
-        const std::size_t declaration = document_.Text.substr(0, prologEnd).find(u"<?xml");
+        const std::size_t declaration = document_.Text.substr(0, prologEnd).find("<?xml");
         const std::size_t behind = ReadSvgEntities(
-            document_, declaration == StringView::npos ? 0 : declaration, prologEnd);
+            document_, declaration == std::string_view::npos ? 0 : declaration, prologEnd);
         const std::size_t found = document_.Text.find(Mark, behind);
-        return found == StringView::npos ? found : found + Mark.size();
+        return found == std::string_view::npos ? found : found + Mark.size();
     }
 
     void ReadRoot(SvgScanner& scanner, SvgStyleState& state) {
-        StringView width;
-        StringView height;
-        StringView transform;
+        std::string_view width;
+        std::string_view height;
+        std::string_view transform;
         for (SvgAttribute attribute; scanner.NextAttribute(attribute);) {
-            if (attribute.Name == u"width")
+            if (attribute.Name == "width")
                 width = attribute.Value;
-            else if (attribute.Name == u"height")
+            else if (attribute.Name == "height")
                 height = attribute.Value;
-            else if (attribute.Name == u"viewBox")
+            else if (attribute.Name == "viewBox")
                 ReadViewBox(attribute.Value);
-            else if (attribute.Name == u"transform")
+            else if (attribute.Name == "transform")
                 transform = attribute.Value;
             else
                 state.Apply(attribute, document_);
@@ -74,7 +74,7 @@ private:
         ParseTransformList(transform, body_.Matrices);
     }
 
-    void ReadViewBox(StringView text) {
+    void ReadViewBox(std::string_view text) {
         const std::vector<Long> numbers = ParseSvgNumberList(text);
         if (numbers.size() < viewBox_.size() || numbers[2] <= 0 || numbers[3] <= 0) return;
         std::copy_n(numbers.begin(), viewBox_.size(), viewBox_.begin());
@@ -84,7 +84,7 @@ private:
     static Long WholePixels(Long twips) { return twips / TwipsPerPixel * TwipsPerPixel; }
 
     /// A side in twips, 0 where it is not told.
-    static Long SideOf(StringView text, Long viewBoxSide) {
+    static Long SideOf(std::string_view text, Long viewBoxSide) {
         const Long twips =
             HasSvgPercent(text)
                 ? ToSvgTwips(ParseSvgLengthPercent(text) * static_cast<Single>(viewBoxSide))
@@ -144,7 +144,8 @@ private:
 
 bool ReadUnpacked(ByteView bytes, StringView progressText, clsVector& vector) {
     if (bytes.size() > SvgBudget::MostText) return false;
-    const String text = DecodeSvg(bytes);
+    std::string decoded;
+    const std::string_view text = DecodeSvg(bytes, decoded);
     try {
         return SvgReader(text, progressText, vector).Read();
     } catch (const RuntimeError&) {

@@ -1,97 +1,86 @@
 #include "vector/SvgScanner.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace tamber {
 
 namespace {
 
 /// True for what ends a tag: ">", "/>" or "?>", or a "<" that begins another one.
-bool IsTagEnd(StringView text, std::size_t at) {
-    const char16_t c = text[at];
-    if (c == u'>' || c == u'<') return true;
-    return (c == u'/' || c == u'?') && at + 1 < text.size() && text[at + 1] == u'>';
+bool IsTagEnd(std::string_view text, std::size_t at) {
+    const char c = text[at];
+    if (c == '>' || c == '<') return true;
+    return (c == '/' || c == '?') && at + 1 < text.size() && text[at + 1] == '>';
 }
 
 }  // namespace
 
-StringView TrimSvgSpace(StringView text) {
+std::string_view TrimSvgSpace(std::string_view text) {
     while (!text.empty() && IsSvgSpace(text.front())) text.remove_prefix(1);
     while (!text.empty() && IsSvgSpace(text.back())) text.remove_suffix(1);
     return text;
 }
 
-std::size_t FindSvgChar(StringView text, char16_t c, std::size_t from) {
-    // Looks for the byte, which the C library does many at a time, then at the character it is in.
-    while (from < text.size()) {
-        const auto* start = reinterpret_cast<const char*>(text.data() + from);
-        const void* hit = std::memchr(start, c, (text.size() - from) * sizeof(char16_t));
-        if (hit == nullptr) break;
-        const auto offset = static_cast<std::size_t>(static_cast<const char*>(hit) - start);
-        from += offset / sizeof(char16_t);
-        if (text[from] == c) return from;
-        ++from;
-    }
-    return text.size();
+std::size_t FindSvgChar(std::string_view text, char c, std::size_t from) {
+    return std::min(text.find(c, from), text.size());
 }
 
 void SvgScanner::SkipSpace() {
     while (!AtEnd() && IsSvgSpace(text_[position_])) ++position_;
 }
 
-void SvgScanner::PassText(StringView mark, std::size_t from) {
+void SvgScanner::PassText(std::string_view mark, std::size_t from) {
     const std::size_t found = text_.find(mark, std::min(from, text_.size()));
-    position_ = found == StringView::npos ? text_.size() : found + mark.size();
+    position_ = found == std::string_view::npos ? text_.size() : found + mark.size();
 }
 
 /// Moves behind markup that is no element, from its "<".
 bool SvgScanner::PassMarkup() {
-    const StringView rest = text_.substr(position_);
-    if (rest.size() < 2 || (rest[1] != u'!' && rest[1] != u'?')) return false;
-    if (rest.starts_with(u"<!--"))
-        PassText(u"-->", position_ + 4);
-    else if (rest.starts_with(u"<![CDATA["))
-        PassText(u"]]>", position_ + 9);
+    const std::string_view rest = text_.substr(position_);
+    if (rest.size() < 2 || (rest[1] != '!' && rest[1] != '?')) return false;
+    if (rest.starts_with("<!--"))
+        PassText("-->", position_ + 4);
+    else if (rest.starts_with("<![CDATA["))
+        PassText("]]>", position_ + 9);
     else
-        PassText(rest[1] == u'?' ? u"?>" : u">", position_ + 2);
+        PassText(rest[1] == '?' ? "?>" : ">", position_ + 2);
     return true;
 }
 
-StringView SvgScanner::NextTag() {
+std::string_view SvgScanner::NextTag() {
     while (true) {
-        position_ = FindSvgChar(text_, u'<', position_);
+        position_ = FindSvgChar(text_, '<', position_);
         if (AtEnd()) return {};
         if (PassMarkup()) continue;
         tagStart_ = position_;
         const std::size_t start = ++position_;
         while (!AtEnd()) {
-            const char16_t c = text_[position_];
-            if (IsSvgSpace(c) || c == u'>' || c == u'<' || (c == u'/' && position_ != start)) break;
+            const char c = text_[position_];
+            if (IsSvgSpace(c) || c == '>' || c == '<' || (c == '/' && position_ != start)) break;
             ++position_;
         }
         if (position_ != start) return text_.substr(start, position_ - start);
     }
 }
 
-StringView SvgScanner::ReadName() {
+std::string_view SvgScanner::ReadName() {
     const std::size_t start = position_;
     while (!AtEnd()) {
-        const char16_t c = text_[position_];
-        if (IsSvgSpace(c) || c == u'=' || IsTagEnd(text_, position_)) break;
+        const char c = text_[position_];
+        if (IsSvgSpace(c) || c == '=' || IsTagEnd(text_, position_)) break;
         ++position_;
     }
     return text_.substr(start, position_ - start);
 }
 
 void SvgScanner::ReadValue(SvgAttribute& attribute) {
-    const char16_t quote = AtEnd() ? u'\0' : text_[position_];
-    if (quote != u'"' && quote != u'\'') return;
+    const char quote = AtEnd() ? '\0' : text_[position_];
+    if (quote != '"' && quote != '\'') return;
     const std::size_t start = position_ + 1;
     const std::size_t end = FindSvgChar(text_, quote, start);
     position_ = std::min(end + 1, text_.size());
     if (end == text_.size()) return;
-    if (quote == u'"')
+    if (quote == '"')
         attribute.Value = text_.substr(start, end - start);
     else
         leftOut_.Note(SvgFeature::SingleQuote);
@@ -102,7 +91,7 @@ bool SvgScanner::NextAttribute(SvgAttribute& attribute) {
     if (AtEnd() || IsTagEnd(text_, position_)) return false;
     attribute = {ReadName(), {}};
     SkipSpace();
-    if (AtEnd() || text_[position_] != u'=') return true;
+    if (AtEnd() || text_[position_] != '=') return true;
     ++position_;
     SkipSpace();
     ReadValue(attribute);
@@ -111,11 +100,11 @@ bool SvgScanner::NextAttribute(SvgAttribute& attribute) {
 
 bool SvgScanner::PassTagEnd() {
     while (!AtEnd()) {
-        const char16_t c = text_[position_];
-        if (c == u'<') return false;
+        const char c = text_[position_];
+        if (c == '<') return false;
         ++position_;
-        if (c == u'>') return position_ >= 2 && text_[position_ - 2] == u'/';
-        if (c == u'"' || c == u'\'')
+        if (c == '>') return position_ >= 2 && text_[position_ - 2] == '/';
+        if (c == '"' || c == '\'')
             position_ = std::min(FindSvgChar(text_, c, position_) + 1, text_.size());
     }
     return false;
@@ -124,9 +113,9 @@ bool SvgScanner::PassTagEnd() {
 void SvgScanner::SkipElement() {
     if (PassTagEnd()) return;
     for (std::size_t depth = 1; depth > 0;) {
-        const StringView name = NextTag();
+        const std::string_view name = NextTag();
         if (name.empty()) return;
-        const bool closing = name.front() == u'/';
+        const bool closing = name.front() == '/';
         const bool closed = PassTagEnd();
         if (closing)
             --depth;

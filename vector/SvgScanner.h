@@ -4,24 +4,25 @@
 
 namespace tamber {
 
-/// Space, ideographic space, tab, carriage return and line feed.
-constexpr bool IsSvgSpace(char16_t c) {
-    return c == u' ' || c == u'\t' || c == u'\r' || c == u'\n' || c == u'\u3000';
+/// Space, tab, carriage return and line feed. An ideographic space counts too, and is a plain one
+/// in the decoded text.
+constexpr bool IsSvgSpace(char c) {
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
 }
-StringView TrimSvgSpace(StringView text);
+std::string_view TrimSvgSpace(std::string_view text);
 
-/// Place of a character below U+0100 from `from` on, or the text's length.
-std::size_t FindSvgChar(StringView text, char16_t c, std::size_t from);
+/// Place of a character from `from` on, or the text's length.
+std::size_t FindSvgChar(std::string_view text, char c, std::size_t from);
 
 struct SvgAttribute {
-    StringView Name;
-    StringView Value;
+    std::string_view Name;
+    std::string_view Value;
 };
 
 /// Walks the tags and attributes of a text, always forward. All it gives are views into the text.
 class SvgScanner {
 public:
-    SvgScanner(StringView text, std::size_t position, SvgLeftOut& leftOut)
+    SvgScanner(std::string_view text, std::size_t position, SvgLeftOut& leftOut)
         : text_(text), position_(position), leftOut_(leftOut) {}
 
     std::size_t Position() const { return position_; }
@@ -30,7 +31,7 @@ public:
 
     /// Name of the next tag, "/" in front of that of a closing one; the cursor stands behind it.
     /// Comments, declarations and character data are passed over. Empty when there is no more.
-    StringView NextTag();
+    std::string_view NextTag();
     /// Next attribute of the tag. False at the tag's end or at the next tag, before which the
     /// cursor then stands. The value is what stands between double quotes; one between single
     /// quotes is passed over.
@@ -44,12 +45,12 @@ private:
     bool AtEnd() const { return position_ >= text_.size(); }
     void SkipSpace();
     /// Moves behind the next `mark`, or to the end of the text.
-    void PassText(StringView mark, std::size_t from);
+    void PassText(std::string_view mark, std::size_t from);
     bool PassMarkup();
-    StringView ReadName();
+    std::string_view ReadName();
     void ReadValue(SvgAttribute& attribute);
 
-    StringView text_;
+    std::string_view text_;
     std::size_t position_;
     std::size_t tagStart_ = 0;
     SvgLeftOut& leftOut_;

@@ -16,22 +16,22 @@ constexpr std::size_t LongestReference = 1024;
 /// A miter limit takes 16 bits.
 constexpr Single MostMiter = 255;
 
-Long CapOf(StringView name) {
-    if (name == u"round") return 0;
-    return name == u"square" ? 2 : 1;
+Long CapOf(std::string_view name) {
+    if (name == "round") return 0;
+    return name == "square" ? 2 : 1;
 }
 
-Long JoinOf(StringView name) {
-    if (name == u"round") return 0;
-    return name == u"bevel" ? 1 : 2;
+Long JoinOf(std::string_view name) {
+    if (name == "round") return 0;
+    return name == "bevel" ? 1 : 2;
 }
 
-void SplitItems(StringView style, const std::function<void(const SvgAttribute&)>& take) {
+void SplitItems(std::string_view style, const std::function<void(const SvgAttribute&)>& take) {
     while (!style.empty()) {
-        const std::size_t end = std::min(style.find(u';'), style.size());
-        const StringView item = style.substr(0, end);
-        const std::size_t colon = item.find(u':');
-        if (colon != StringView::npos)
+        const std::size_t end = std::min(style.find(';'), style.size());
+        const std::string_view item = style.substr(0, end);
+        const std::size_t colon = item.find(':');
+        if (colon != std::string_view::npos)
             take({TrimSvgSpace(item.substr(0, colon)), TrimSvgSpace(item.substr(colon + 1))});
         style.remove_prefix(std::min(end + 1, style.size()));
     }
@@ -39,13 +39,13 @@ void SplitItems(StringView style, const std::function<void(const SvgAttribute&)>
 
 }  // namespace
 
-void ForEachSvgStyleItem(StringView style, SvgDocument& document,
+void ForEachSvgStyleItem(std::string_view style, SvgDocument& document,
                          const std::function<void(const SvgAttribute&)>& take) {
     style = TrimSvgSpace(style);
-    while (style.starts_with(u'&')) {
-        const std::size_t end = style.find(u';');
-        if (end == StringView::npos) return;
-        if (const auto* value = document.FindId<StringView>(style.substr(1, end - 1))) {
+    while (style.starts_with('&')) {
+        const std::size_t end = style.find(';');
+        if (end == std::string_view::npos) return;
+        if (const auto* value = document.FindId<std::string_view>(style.substr(1, end - 1))) {
             SvgBudget::Spend(document.Budget.Repeats, value->size());
             SplitItems(*value, take);
         }
@@ -54,36 +54,36 @@ void ForEachSvgStyleItem(StringView style, SvgDocument& document,
     SplitItems(style, take);
 }
 
-Long SvgShare(StringView text, Long whole) {
+Long SvgShare(std::string_view text, Long whole) {
     const Single share = ParseSvgLengthPercent(text) * static_cast<Single>(whole);
     return RoundToLong(std::clamp(share, 0.0f, 255.0f));
 }
 
 bool SvgStyleState::ApplyPaint(const SvgAttribute& item, SvgLeftOut& leftOut) {
-    const bool fill = item.Name == u"fill";
-    if (!fill && item.Name != u"stroke") return false;
-    const bool reference = item.Value.starts_with(u"url");
-    if (item.Value == u"currentColor") leftOut.Note(SvgFeature::CurrentColor);
+    const bool fill = item.Name == "fill";
+    if (!fill && item.Name != "stroke") return false;
+    const bool reference = item.Value.starts_with("url");
+    if (item.Value == "currentColor") leftOut.Note(SvgFeature::CurrentColor);
     // A reference is looked at again for each element that inherits it.
     if (fill) FillText = item.Value.substr(0, LongestReference);
     if (!fill && reference) leftOut.Note(SvgFeature::StrokeGradient);
     if (fill && reference) return true;
     Long& color = fill ? FillColor : StrokeColor;
-    color = item.Value == u"none" ? NoColor : ParseSvgColor(item.Value);
-    const bool percent = item.Value.find(u'%') != StringView::npos;
-    const bool known = reference || item.Value == u"currentColor" || item.Value == u"none";
+    color = item.Value == "none" ? NoColor : ParseSvgColor(item.Value);
+    const bool percent = item.Value.find('%') != std::string_view::npos;
+    const bool known = reference || item.Value == "currentColor" || item.Value == "none";
     if (!known && (percent || !FindSvgColor(item.Value))) leftOut.Note(SvgFeature::Paint);
     return true;
 }
 
 bool SvgStyleState::ApplyLine(const SvgAttribute& item) {
-    if (item.Name == u"stroke-width")
+    if (item.Name == "stroke-width")
         StrokeWidth = ParseSvgLength(item.Value);
-    else if (item.Name == u"stroke-linecap")
+    else if (item.Name == "stroke-linecap")
         LineCap = CapOf(item.Value);
-    else if (item.Name == u"stroke-linejoin")
+    else if (item.Name == "stroke-linejoin")
         LineJoin = JoinOf(item.Value);
-    else if (item.Name == u"stroke-miterlimit")
+    else if (item.Name == "stroke-miterlimit")
         MiterLimit =
             RoundToLong(std::clamp(ParseSvgNumber(item.Value), 0.0f, MostMiter) * MiterOne);
     else
@@ -92,11 +92,11 @@ bool SvgStyleState::ApplyLine(const SvgAttribute& item) {
 }
 
 bool SvgStyleState::ApplyOpacity(const SvgAttribute& item) {
-    if (item.Name == u"opacity")
+    if (item.Name == "opacity")
         Opacity = SvgShare(item.Value, Opacity);
-    else if (item.Name == u"fill-opacity")
+    else if (item.Name == "fill-opacity")
         FillOpacity = SvgShare(item.Value, FillOpacity);
-    else if (item.Name == u"stroke-opacity")
+    else if (item.Name == "stroke-opacity")
         StrokeOpacity = SvgShare(item.Value, StrokeOpacity);
     else
         return false;
@@ -108,7 +108,7 @@ void SvgStyleState::Apply(const SvgAttribute& attribute, SvgDocument& document) 
         if (!ApplyPaint(item, document.LeftOut) && !ApplyLine(item) && !ApplyOpacity(item))
             document.LeftOut.NoteAttribute(item.Name, item.Value);
     };
-    if (attribute.Name == u"style")
+    if (attribute.Name == "style")
         ForEachSvgStyleItem(attribute.Value, document, apply);
     else
         apply(attribute);

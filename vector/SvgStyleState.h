@@ -12,7 +12,7 @@ struct SvgStyleState {
     static constexpr Long NoColor = -1;
 
     /// As written, for a reference to a gradient.
-    StringView FillText = u"black";
+    std::string_view FillText = "black";
     /// 0xRRGGBB, NoColor for none.
     Long FillColor = 0;
     Long StrokeColor = NoColor;
@@ -25,7 +25,7 @@ struct SvgStyleState {
     Long LineJoin = 2;       ///< 0 round, 1 bevel, 2 miter
     Long MiterLimit = 1024;  ///< 1/256
 
-    bool WantsFill() const { return (!FillText.empty() && FillText != u"none") || FillColor >= 0; }
+    bool WantsFill() const { return (!FillText.empty() && FillText != "none") || FillColor >= 0; }
     bool WantsLine() const { return StrokeColor >= 0 && StrokeWidth >= 1; }
     Long FillAlpha() const { return FillOpacity * Opacity / 255; }
     Long StrokeAlpha() const { return StrokeOpacity * Opacity / 255; }
@@ -41,10 +41,10 @@ private:
 };
 
 /// Calls `take` with each item of a `style` value. Entities in front of it are put in.
-void ForEachSvgStyleItem(StringView style, SvgDocument& document,
+void ForEachSvgStyleItem(std::string_view style, SvgDocument& document,
                          const std::function<void(const SvgAttribute&)>& take);
 
 /// Opacity or place, 0 to 255, that is this part of `whole`.
-Long SvgShare(StringView text, Long whole);
+Long SvgShare(std::string_view text, Long whole);
 
 }  // namespace tamber

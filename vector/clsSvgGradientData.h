@@ -14,7 +14,7 @@ struct SvgCoordinate {
 class clsSvgGradientData {
 public:
     /// "Linear" or "Radial".
-    StringView GradName;
+    std::string_view GradName;
     /// Coordinates are pixels of the drawing, else fractions of the shape's extent.
     bool UserSpaceOnUse = false;
     /// 0 pad, 1 reflect, 2 repeat.
@@ -30,7 +30,7 @@ public:
     std::vector<Long> OpacityTbl;
     std::vector<Byte> ColorPosTbl;
     /// Id of the gradient whose colours count when there are none here.
-    StringView linkName;
+    std::string_view linkName;
 
     /// True when the colours lie relative to the extent of the shape that they fill.
     bool NeedsBounds() const {

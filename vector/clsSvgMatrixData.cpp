@@ -14,8 +14,8 @@ constexpr double Pi = 3.14159265358979;
 using Arguments = std::vector<Single>;
 
 /// Numbers separated by white space and commas; a letter of an exponent in front is passed over.
-Arguments SplitArguments(StringView text) {
-    const auto separates = [](char16_t c) { return IsSvgSpace(c) || c == u','; };
+Arguments SplitArguments(std::string_view text) {
+    const auto separates = [](char c) { return IsSvgSpace(c) || c == ','; };
     Arguments arguments;
     for (std::size_t at = 0; at < text.size();) {
         if (separates(text[at])) {
@@ -24,7 +24,7 @@ Arguments SplitArguments(StringView text) {
         }
         std::size_t end = at;
         while (end < text.size() && !separates(text[end])) ++end;
-        while (at < end && (text[at] == u'E' || text[at] == u'e')) ++at;
+        while (at < end && (text[at] == 'E' || text[at] == 'e')) ++at;
         arguments.push_back(ParseSvgNumber(text.substr(at, end - at)));
         at = end;
     }
@@ -35,7 +35,7 @@ Single Radians(Single degrees) {
     return static_cast<Single>(static_cast<double>(degrees) * Pi / 180);
 }
 
-void AddTranslation(StringView arguments, SvgMatrixList& matrices) {
+void AddTranslation(std::string_view arguments, SvgMatrixList& matrices) {
     const std::vector<Long> shift = ParseSvgNumberList(arguments);
     if (shift.empty()) return;
     clsSvgMatrixData matrix;
@@ -81,26 +81,26 @@ void AddMatrix(const Arguments& m, SvgMatrixList& matrices) {
                         ToSvgTwips(m[5] * TwipsPerPixel)});
 }
 
-void AddTransform(StringView name, StringView text, SvgMatrixList& matrices) {
-    if (name == u"translate") return AddTranslation(text, matrices);
+void AddTransform(std::string_view name, std::string_view text, SvgMatrixList& matrices) {
+    if (name == "translate") return AddTranslation(text, matrices);
     const Arguments arguments = SplitArguments(text);
-    if (name == u"scale") AddScale(arguments, matrices);
-    if (name == u"rotate") AddRotation(arguments, matrices);
-    if (name == u"skewX") AddSkew(arguments, &clsSvgMatrixData::Skew1, matrices);
-    if (name == u"skewY") AddSkew(arguments, &clsSvgMatrixData::Skew0, matrices);
-    if (name == u"matrix") AddMatrix(arguments, matrices);
+    if (name == "scale") AddScale(arguments, matrices);
+    if (name == "rotate") AddRotation(arguments, matrices);
+    if (name == "skewX") AddSkew(arguments, &clsSvgMatrixData::Skew1, matrices);
+    if (name == "skewY") AddSkew(arguments, &clsSvgMatrixData::Skew0, matrices);
+    if (name == "matrix") AddMatrix(arguments, matrices);
 }
 
 }  // namespace
 
-void ParseTransformList(StringView text, SvgMatrixList& matrices) {
+void ParseTransformList(std::string_view text, SvgMatrixList& matrices) {
     while (true) {
-        const std::size_t open = text.find(u'(');
-        if (open == StringView::npos) return;
-        const std::size_t close = text.find(u')', open);
-        if (close == StringView::npos) return;
-        StringView name = TrimSvgSpace(text.substr(0, open));
-        while (name.starts_with(u',')) name = TrimSvgSpace(name.substr(1));
+        const std::size_t open = text.find('(');
+        if (open == std::string_view::npos) return;
+        const std::size_t close = text.find(')', open);
+        if (close == std::string_view::npos) return;
+        std::string_view name = TrimSvgSpace(text.substr(0, open));
+        while (name.starts_with(',')) name = TrimSvgSpace(name.substr(1));
         AddTransform(name, text.substr(open + 1, close - open - 1), matrices);
         SvgBudget::Check(matrices.size() <= SvgBudget::MostMatrices);
         text.remove_prefix(close + 1);

@@ -21,7 +21,7 @@ struct clsSvgMatrixData {
 using SvgMatrixList = std::vector<clsSvgMatrixData>;
 
 /// Appends what a `transform` attribute names.
-void ParseTransformList(StringView text, SvgMatrixList& matrices);
+void ParseTransformList(std::string_view text, SvgMatrixList& matrices);
 
 /// The way of a point from a drawing element to the stage: first through the element's own
 /// transformations, then through those around it.

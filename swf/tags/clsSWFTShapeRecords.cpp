@@ -9,20 +9,6 @@ constexpr Long LongestForward = 65535;
 constexpr Long LongestBackward = 65536;
 }  // namespace
 
-void ShapeBounds::Include(Long x, Long y, Long margin) {
-    XMin = std::min(XMin, x - margin);
-    XMax = std::max(XMax, x + margin);
-    YMin = std::min(YMin, y - margin);
-    YMax = std::max(YMax, y + margin);
-}
-
-void clsSWFTShapeRecords::SetXY(Long x, Long y) {
-    CurrentX = x;
-    CurrentY = y;
-    bounds_.Include(x, y, LineWidth);
-    edgeBounds_.Include(x, y, 0);
-}
-
 clsSWFTShapeStyleChange& clsSWFTShapeRecords::LastStyleChange() {
     if (colShapeRecords.empty() || RecordType(colShapeRecords.back()) != 0)
         colShapeRecords.emplace_back(std::make_shared<clsSWFTShapeStyleChange>());
@@ -70,11 +56,6 @@ void clsSWFTShapeRecords::MovePenTo(Long x, Long y) {
     SetXY(x, y);
 }
 
-void clsSWFTShapeRecords::DrawLineTo(Long x, Long y) {
-    colShapeRecords.emplace_back(clsSWFTShapeStraightEdge{x, y});
-    SetXY(x, y);
-}
-
 void clsSWFTShapeRecords::DrawLineHTo(Long x) {
     while (x - CurrentX > LongestForward) DrawLineTo(CurrentX + LongestForward, CurrentY);
     while (x - CurrentX < -LongestBackward) DrawLineTo(CurrentX - LongestBackward, CurrentY);
@@ -85,12 +66,6 @@ void clsSWFTShapeRecords::DrawLineVTo(Long y) {
     while (y - CurrentY > LongestForward) DrawLineTo(CurrentX, CurrentY + LongestForward);
     while (y - CurrentY < -LongestBackward) DrawLineTo(CurrentX, CurrentY - LongestBackward);
     DrawLineTo(CurrentX, y);
-}
-
-void clsSWFTShapeRecords::DrawCurveTo(Long cx, Long cy, Long ax, Long ay) {
-    colShapeRecords.emplace_back(clsSWFTShapeCurveEdge{cx, cy, ax, ay});
-    SetXY(cx, cy);
-    SetXY(ax, ay);
 }
 
 void clsSWFTShapeRecords::DrawCurve(Long dcx, Long dcy, Long dax, Long day) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <limits>
 
 #include "swf/tags/clsSWFTShapeRecord.h"
@@ -13,7 +14,12 @@ struct ShapeBounds {
     Long YMin = std::numeric_limits<Long>::max();
     Long YMax = std::numeric_limits<Long>::min();
 
-    void Include(Long x, Long y, Long margin);
+    void Include(Long x, Long y, Long margin) {
+        XMin = std::min(XMin, x - margin);
+        XMax = std::max(XMax, x + margin);
+        YMin = std::min(YMin, y - margin);
+        YMax = std::max(YMax, y + margin);
+    }
     /// All 0 while there is no point.
     SwfRect Rectangle() const { return XMin > XMax ? SwfRect{} : SwfRect{XMin, YMin, XMax, YMax}; }
 };
@@ -62,5 +68,24 @@ private:
     ShapeBounds bounds_;
     ShapeBounds edgeBounds_;
 };
+
+// Inline, since drawings call these for every edge.
+inline void clsSWFTShapeRecords::SetXY(Long x, Long y) {
+    CurrentX = x;
+    CurrentY = y;
+    bounds_.Include(x, y, LineWidth);
+    edgeBounds_.Include(x, y, 0);
+}
+
+inline void clsSWFTShapeRecords::DrawLineTo(Long x, Long y) {
+    colShapeRecords.emplace_back(clsSWFTShapeStraightEdge{x, y});
+    SetXY(x, y);
+}
+
+inline void clsSWFTShapeRecords::DrawCurveTo(Long cx, Long cy, Long ax, Long ay) {
+    colShapeRecords.emplace_back(clsSWFTShapeCurveEdge{cx, cy, ax, ay});
+    SetXY(cx, cy);
+    SetXY(ax, ay);
+}
 
 }  // namespace tamber

@@ -186,7 +186,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(SvgTransform, lists_what_the_attribute_names) {
     SvgMatrixList list;
-    ParseTransformList(u"rotate(90 10 20) scale(1) translate() skewX() none(3) translate(5,-6",
+    ParseTransformList("rotate(90 10 20) scale(1) translate() skewX() none(3) translate(5,-6",
                        list);
     ASSERT_EQ(list.size(), 1u);
     // 10 - (0*10 - 1*20) = 30 px, 20 - (1*10 + 0*20) = 10 px.
@@ -197,67 +197,90 @@ TEST(SvgTransform, lists_what_the_attribute_names) {
     EXPECT_NEAR(list[0].ScaleX, 0, 1e-6);
 }
 
+TEST(SvgText, has_plain_spaces_for_ideographic_ones_in_either_encoding) {
+    const auto path = [](std::string_view space) {
+        return "<svg><path fill=\"none\" stroke=\"red\" d=\"M1" + std::string(space) +
+               "2L3 4\"/></svg>";
+    };
+    const std::string texts[] = {path(" "), "<?xml encoding=\"UTF-8\"?>" + path("\xE3\x80\x80"),
+                                 path("\x81\x40")};
+    for (const std::string& text : texts) {
+        const clsVector vector = Read(text);
+        const SwfRect edges =
+            vector.inVector->colShapeData.at(0)->inSWFTShapeRecords->GetEdgeBounds();
+        EXPECT_EQ(edges.xMin, 20) << text;
+        EXPECT_EQ(edges.yMin, 40) << text;
+        EXPECT_EQ(edges.yMax, 80) << text;
+    }
+}
+
 TEST(SvgNumbers, are_read_as_far_as_they_go) {
     struct {
-        StringView Text;
+        std::string_view Text;
         std::vector<Long> Twips;
     } cases[] = {
-        {u"10-5", {200, -100}},
-        {u" 1,2\t3\u30004x5", {20, 40, 60, 80}},
-        {u".5+.25", {10, 5}},
-        {u"1e2 1E-1 -2.5e+1", {2000, 2, -500}},
-        {u"1e1-5 2", {200, 40}},
-        {u"1.5.5 2", {30, 40}},
-        {u"- . 1", {0, 0, 20}},
-        {u"0.025 0.075 12345678901234567890e-19", {0, 2, 25}},
-        {u"1e39 -1e39 1e-50", {SvgFarthest, -SvgFarthest, 0}},
-        {u"x1", {}},
+        {"10-5", {200, -100}},
+        {" 1,2\t3\n4x5", {20, 40, 60, 80}},
+        {".5+.25", {10, 5}},
+        {"1e2 1E-1 -2.5e+1", {2000, 2, -500}},
+        {"1e1-5 2", {200, 40}},
+        {"1.5.5 2", {30, 40}},
+        {"- . 1", {0, 0, 20}},
+        {"0.025 0.075 12345678901234567890e-19", {0, 2, 25}},
+        {"1e39 -1e39 1e-50", {SvgFarthest, -SvgFarthest, 0}},
+        {"123.4567 1234567.5 12345678.5 1/2", {2469, 24691350, 246913568, 20}},
+        {"1234567 .1234567 7. 6", {24691340, 2, 140, 120}},
+        {"-12.345 1..5 2", {-247, 20, 40}},
+        {"x1", {}},
     };
-    for (const auto& item : cases)
-        EXPECT_EQ(ParseSvgNumberList(item.Text), item.Twips) << ToNarrow(item.Text);
+    // Short numbers are read in another way where more text follows.
+    const std::string more(20, ' ');
+    for (const auto& item : cases) {
+        EXPECT_EQ(ParseSvgNumberList(item.Text), item.Twips) << item.Text;
+        EXPECT_EQ(ParseSvgNumberList(std::string(item.Text) + more), item.Twips) << item.Text;
+    }
 }
 
 TEST(SvgLengths, take_units_at_90_to_the_inch) {
     struct {
-        StringView Text;
+        std::string_view Text;
         Long Twips;
         Single Part;
     } cases[] = {
-        {u"2", 40, 2},        {u"2px", 40, 2},          {u"2pt", 50, 2.5f},
-        {u"2pc", 600, 30},    {u"2mm", 142, 7.086614f}, {u"2cm", 1417, 70.86614f},
-        {u"2in", 3600, 180},  {u"2em", 600, 30},        {u"2ex", 420, 21},
-        {u"50%", 1000, 0.5f}, {u"-1.5", -30, -1.5f},    {u"auto", 0, 0},
-        {u"", 0, 0},
+        {"2", 40, 2},        {"2px", 40, 2},          {"2pt", 50, 2.5f},
+        {"2pc", 600, 30},    {"2mm", 142, 7.086614f}, {"2cm", 1417, 70.86614f},
+        {"2in", 3600, 180},  {"2em", 600, 30},        {"2ex", 420, 21},
+        {"50%", 1000, 0.5f}, {"-1.5", -30, -1.5f},    {"auto", 0, 0},
+        {"", 0, 0},
     };
     for (const auto& item : cases) {
-        EXPECT_EQ(ParseSvgLength(item.Text), item.Twips) << ToNarrow(item.Text);
-        EXPECT_FLOAT_EQ(ParseSvgLengthPercent(item.Text), item.Part) << ToNarrow(item.Text);
+        EXPECT_EQ(ParseSvgLength(item.Text), item.Twips) << item.Text;
+        EXPECT_FLOAT_EQ(ParseSvgLengthPercent(item.Text), item.Part) << item.Text;
     }
 }
 
 TEST(SvgColors, are_hexadecimal_decimal_or_names) {
     struct {
-        StringView Text;
+        std::string_view Text;
         Long Color;
     } cases[] = {
-        {u"#1aF", 0x11AAFF},
-        {u"#12abEF", 0x12ABEF},
-        {u"#12", 0},
-        {u"#12345g", 0},
-        {u"rgb(1, 2 ,255)", 0x0102FF},
-        {u"rgb(1,2)", 0},
-        {u"rgb(300,-1,7.9)", 0xFF0007},
-        {u"rgb 1", 0},
-        {u"aliceblue", 0xF0F8FF},
-        {u"yellowgreen", 0x9ACD32},
-        {u"gray", 0x808080},
-        {u"navajowhite", 0xFFDEAD},
-        {u"Red", 0},
-        {u"reds", 0},
-        {u"", 0},
+        {"#1aF", 0x11AAFF},
+        {"#12abEF", 0x12ABEF},
+        {"#12", 0},
+        {"#12345g", 0},
+        {"rgb(1, 2 ,255)", 0x0102FF},
+        {"rgb(1,2)", 0},
+        {"rgb(300,-1,7.9)", 0xFF0007},
+        {"rgb 1", 0},
+        {"aliceblue", 0xF0F8FF},
+        {"yellowgreen", 0x9ACD32},
+        {"gray", 0x808080},
+        {"navajowhite", 0xFFDEAD},
+        {"Red", 0},
+        {"reds", 0},
+        {"", 0},
     };
-    for (const auto& item : cases)
-        EXPECT_EQ(ParseSvgColor(item.Text), item.Color) << ToNarrow(item.Text);
+    for (const auto& item : cases) EXPECT_EQ(ParseSvgColor(item.Text), item.Color) << item.Text;
     EXPECT_EQ(ToSvgRgba(0x112233, 0x44), 0x44332211);
 }
 
