@@ -177,6 +177,7 @@ bool frmMain::mnuAuthoring(StringView path) {
     request.Layers = inProject.colMainLayer.get();
     request.Fonts = RefreshFontAdmin(*inProject.colSymbol, inProject.SWFVersion);
     request.Path = path;
+    request.ProjectFolder = GetFileFolder(ProjectFileName);
     request.blProgress = true;
     request.blCompress = mdlPrivateProfile::flgSWFCompress();
     request.blTopToBottom = mdlPrivateProfile::flgTopToBottom();

@@ -18,7 +18,8 @@ void LayerPlacement::Run() {
         if (layer_.Object(index)->Placement() != nullptr) PlaceKeyFrame(index);
 }
 
-std::shared_ptr<clsSWFTagPlaceObject> LayerPlacement::MakeTag(const clsLayerObjElement& element) {
+std::shared_ptr<clsSWFTagPlaceObject> LayerPlacement::MakeTag(const clsLayerObject& object) {
+    const clsLayerObjElement& element = *object.Placement();
     const Long depth = character_.Depth;
     if (placed_) {
         auto tag = NewPlaceObject(0, depth, element, character_.Origin, previous_->Placement());
@@ -29,6 +30,7 @@ std::shared_ptr<clsSWFTagPlaceObject> LayerPlacement::MakeTag(const clsLayerObjE
     auto tag = NewPlaceObject(character_.Identifier, depth, element, character_.Origin, nullptr);
     tag->ClippingDepth = character_.ClippingDepth;
     if (layer_.blInstance()) tag->Name = layer_.InstanceName;
+    if (object.blVisible && character_.Actions != nullptr) tag->MCAction = *character_.Actions;
     if (character_.Koma != nullptr) character_.Koma->Rewind();
     return tag;
 }
@@ -49,7 +51,7 @@ bool LayerPlacement::IsDeformed(Long index) const {
 
 void LayerPlacement::PlaceKeyFrame(Long index) {
     const clsLayerObject& object = *layer_.Object(index);
-    auto tag = MakeTag(*object.Placement());
+    auto tag = MakeTag(object);
     tag->PlaceCnt = placeCount_;
     placed_ = true;
     std::swap(tag_, tag);

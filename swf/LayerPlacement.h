@@ -26,6 +26,8 @@ public:
         Long PlaceCount = 1;     ///< depths that it takes
         Long ClippingDepth = 0;  ///< depths that it masks
         TimelineOrigin Origin;
+        /// Actions of a sprite's events, or null.
+        const std::vector<SwfEventActions>* Actions = nullptr;
         KomaTable* Koma = nullptr;
         /// Defines the character of a vector key frame that is deformed, or, with the key frame
         /// that a tween ends with, one that morphs. Null for other kinds.
@@ -48,7 +50,7 @@ private:
     void ChooseCharacter(Long index, bool endsTween);
     void ReplaceCharacter(Long frame, DeformedCharacter character);
     void EndCharacter();
-    std::shared_ptr<clsSWFTagPlaceObject> MakeTag(const clsLayerObjElement& element);
+    std::shared_ptr<clsSWFTagPlaceObject> MakeTag(const clsLayerObject& object);
     void ExpandTween(const std::shared_ptr<clsSWFTagPlaceObject>& start, const clsLayerObject& end);
     void PlaceStatic(const clsLayerObject& object);
     void EndSpan(Long index);

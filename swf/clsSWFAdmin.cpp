@@ -6,6 +6,7 @@
 #include "platform/files.h"
 #include "platform/rounding.h"
 #include "platform/text.h"
+#include "script/ScriptCompilation.h"
 #include "swf/mdlZlib.h"
 #include "swf/tags/clsSWFTagDefineEditText.h"
 #include "swf/tags/clsSWFTagDefineFont.h"
@@ -136,6 +137,16 @@ void clsSWFAdmin::AddInitAction(std::shared_ptr<clsSWFTagDoAction> action, Long 
     colInitAction.push_back(std::move(action));
 }
 
+std::shared_ptr<clsSWFTagDoAction> clsSWFAdmin::GetNewDoAction(StringView text, bool& ok) const {
+    if (text.empty()) return nullptr;
+    Bytes actions;
+    ok = CompileActionScript(actions, text, Ver, true);
+    if (!ok || actions.empty()) return nullptr;
+    auto tag = std::make_shared<clsSWFTagDoAction>();
+    tag->bufAction = std::move(actions);
+    return tag;
+}
+
 void clsSWFAdmin::AddColInitAction(Long frame) {
     if (!colInitAction.empty() && frame >= 1) {
         if (frame > FrameCount()) FrameCount(frame);
@@ -205,6 +216,13 @@ std::shared_ptr<clsSWFTagDefineShape> clsSWFAdmin::GetNewBitmapShape(Long bitmap
     records.DrawLineVTo(0);
     records.DrawLineHTo(width * TwipsPerPixel);
     records.DrawLineVTo(height * TwipsPerPixel);
+    return tag;
+}
+
+std::shared_ptr<clsSWFTagImport> clsSWFAdmin::GetNewImport(StringView url, StringView name) {
+    auto tag = std::make_shared<clsSWFTagImport>();
+    tag->URL(url);
+    tag->AddSymbol(AddDefinition(tag), name);
     return tag;
 }
 

@@ -10,6 +10,7 @@
 #include "swf/tags/clsSWFTagDefineBitsLossless.h"
 #include "swf/tags/clsSWFTagDefineScalingGrid.h"
 #include "swf/tags/clsSWFTagDefineShape.h"
+#include "swf/tags/clsSWFTagImport.h"
 #include "vector/clsVectorData2.h"
 
 namespace tamber {
@@ -57,6 +58,9 @@ public:
     /// As AddTag. A frame that has a block already refuses, with a warning once a movie.
     bool AddTagSoundBlock(Long frame, SWFTagReference block);
     void AddInitAction(std::shared_ptr<clsSWFTagDoAction> action, Long orderNum, Long spriteID);
+    /// Actions of a script; null when it has none. An empty text leaves `ok` as it is, any other
+    /// sets it to whether the text compiled.
+    std::shared_ptr<clsSWFTagDoAction> GetNewDoAction(StringView text, bool& ok) const;
     /// Hands the waiting init actions to a frame.
     void AddColInitAction(Long frame);
     void AddTagEnd(SWFTagReference tag) { colTailTag_.push_back(std::move(tag)); }
@@ -74,6 +78,7 @@ public:
     /// A morph from one shape to another of the same structure.
     std::shared_ptr<clsSWFTagDefineShape> GetNewMorphShape(const clsVectorData2& start,
                                                            const clsVectorData2& end);
+    std::shared_ptr<clsSWFTagImport> GetNewImport(StringView url, StringView name);
     std::shared_ptr<clsSWFTagDefineScalingGrid> GetNewScalingGrid(Long id, Long xMin, Long xMax,
                                                                   Long yMin, Long yMax);
 

@@ -27,7 +27,7 @@ Long EventBytes() {
     return mdlSWFTag::swfVersion() < WideEventVersion ? 2 : 4;
 }
 
-void SetClipEvent(const SwfClipEvent& event) {
+void SetClipEvent(const SwfEventActions& event) {
     const auto length = static_cast<Long>(event.Actions.size());
     mdlSWFTag::SetBytes(EventBytes(), event.Flags);
     if ((event.Flags & KeyPressEvent) != 0) {
@@ -152,10 +152,10 @@ Byte clsSWFTagPlaceObject::Flags() const {
 
 void clsSWFTagPlaceObject::SaveClipActions() const {
     Long allEvents = 0;
-    for (const SwfClipEvent& event : MCAction) allEvents |= event.Flags;
+    for (const SwfEventActions& event : MCAction) allEvents |= event.Flags;
     mdlSWFTag::SetBytes(2, 0);
     mdlSWFTag::SetBytes(EventBytes(), allEvents);
-    for (const SwfClipEvent& event : MCAction) SetClipEvent(event);
+    for (const SwfEventActions& event : MCAction) SetClipEvent(event);
     mdlSWFTag::SetBytes(EventBytes(), 0);
 }
 

@@ -5,15 +5,9 @@
 
 #include "effects/clsFilterData.h"
 #include "swf/mdlSWFTag.h"
+#include "swf/tags/SwfEventActions.h"
 
 namespace tamber {
-
-/// Compiled clip actions of one event.
-struct SwfClipEvent {
-    Long Flags = 0;
-    Byte KeyCode = 0;
-    Bytes Actions;
-};
 
 /// PlaceObject2, or PlaceObject3 with a blend mode or filters from version 8 on. Holds the values
 /// of the editor; the arithmetic is done when it is saved.
@@ -46,7 +40,7 @@ public:
 
     Long ClippingDepth = 0;  ///< depths clipped, counted from `depth`
     String Name;
-    std::vector<SwfClipEvent> MCAction;
+    std::vector<SwfEventActions> MCAction;
 
     void SetMatrix(Single scaleX, Single scaleY, Single rotate, Long translateX, Long translateY,
                    Long ctrlX, Long ctrlY, Single skewX, Single skewY);

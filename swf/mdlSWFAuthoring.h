@@ -25,6 +25,12 @@ struct MovieRequest {
     Long BackColor = 0xFFFFFF;  ///< blue in the low byte
     /// Gets a tab and the name of each named anchor, when given.
     String* AnchorLabels = nullptr;
+    /// Where the files that scripts include are looked for; empty for a project never saved.
+    String ProjectFolder;
+    /// Faults of clip actions are told.
+    bool blScriptMessages = true;
+    /// Cleared when a clip action could not be used, when given.
+    bool* blScriptsValid = nullptr;
     bool blExports = true;
     bool blExportsInFrameTwo = false;
 };

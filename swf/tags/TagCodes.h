@@ -21,6 +21,7 @@ inline constexpr Long PlaceObject2 = 26;
 inline constexpr Long RemoveObject2 = 28;
 inline constexpr Long DefineShape3 = 32;
 inline constexpr Long DefineText2 = 33;
+inline constexpr Long DefineButton2 = 34;
 inline constexpr Long DefineBitsJPEG3 = 35;
 inline constexpr Long DefineBitsLossless2 = 36;
 inline constexpr Long DefineEditText = 37;

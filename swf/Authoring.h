@@ -1,0 +1,92 @@
+#pragma once
+
+#include <set>
+#include <vector>
+
+#include "swf/ButtonDefinition.h"
+#include "swf/LayerPlacement.h"
+#include "swf/MovieScripts.h"
+#include "swf/clsSWFAdmin.h"
+#include "swf/mdlSWFAuthoring.h"
+
+namespace tamber {
+
+class clsPropertySprite;
+
+/// Versions of the movie from which there are imports, and nine-slice scaling.
+inline constexpr Long LinkVersion = 5;
+inline constexpr Long ScalingGridVersion = 8;
+
+/// Kinds of symbols that this generation can put on a timeline.
+bool CanPlace(Long kind);
+
+/// A timeline being walked: its tags, and where its positions are counted from.
+struct Timeline {
+    clsSWFAdmin& Admin;
+    const Collection<clsLayer>& Layers;
+    TimelineOrigin Origin;
+    /// Frame of the movie that a sprite's definitions go into; 0 for the movie's own timeline.
+    Long SpriteFrame = 0;
+
+    bool IsMain() const { return SpriteFrame == 0; }
+};
+
+/// One build: defines symbols on first need and walks the timelines.
+class Authoring {
+public:
+    Authoring(const MovieRequest& request, clsSWFAdmin& movie) : request_(request), movie_(movie) {}
+
+    void PreDefineFrameOne(clsSWFAdmin& admin);
+    void DefineExports(clsSWFAdmin& admin, Long mode);
+    void WriteTimeline(const Timeline& timeline);
+
+    MovieScripts Scripts;
+
+private:
+    /// `layer` is the one that shows the symbol, or null. The result is the last identifier.
+    Long EnsureDefined(clsSWFAdmin& admin, const clsLayer* layer, clsSymbolData& symbol,
+                       Long frame);
+    Long DefineSymbol(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
+    void DefineSpriteChildren(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long frame);
+    std::vector<Long> DefineKomas(clsSWFAdmin& admin, const clsSymbolData& symbol, Long frame);
+    void DefineBitmap(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
+    void DefineText(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
+    void DefineVector(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
+    void DefineSprite(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
+    void DefineClass(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
+    void DefineLink(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
+    /// Adds the definition of a sprite whose timeline is written, and its init actions.
+    Long AddSprite(clsSWFAdmin& admin, const std::shared_ptr<clsSWFAdmin>& inner, Long frame);
+    ButtonCharacters DefineButtonStates(clsSWFAdmin& admin, clsPropertyButton& button, Long frame);
+    Long DefineHitArea(clsSWFAdmin& admin, clsPropertyButton& button, Long frame);
+    /// An empty timeline for a sprite, which shares the definitions of `admin`.
+    static std::shared_ptr<clsSWFAdmin> NewInner(const clsSWFAdmin& admin, Long width, Long height,
+                                                 Long frameCount);
+    void AddScalingGrid(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long id, Long frame);
+    void AddExport(clsSWFAdmin& admin, const clsSymbolData& symbol, Long id, Long frame);
+
+    void WriteLayer(const Timeline& timeline, Long index, Long& depth);
+    void WriteBackground(const Timeline& timeline, const clsLayer& layer);
+    void WriteLabels(const Timeline& timeline, const clsLayer& layer);
+    void PlaceLayer(const Timeline& timeline, Long index, Long depth);
+    void DefineExport(clsSWFAdmin& admin, clsSymbolData& symbol, Long lateFrame);
+    void WriteFrameActions(const Timeline& timeline, const clsLayer& layer);
+    /// Defines the button of one layer, with the layer's script.
+    Long DefineButton(const Timeline& timeline, const clsLayer& layer, Long depth);
+    void PlaceKomas(const Timeline& timeline, const clsLayer& layer,
+                    LayerPlacement::Character character);
+    LayerPlacement::DeformedCharacter Deform(const Timeline& timeline, const clsLayer& layer,
+                                             const clsLayerObject& start,
+                                             const clsLayerObject* end);
+    bool IsGated(const clsLayer& layer) const;
+    void LeaveOut(const clsLayer& layer);
+    void LeaveOutKomas(const clsLayer& layer);
+    void ShowProgress(Long done, Long total) const;
+
+    const MovieRequest& request_;
+    clsSWFAdmin& movie_;
+    std::set<const clsLayer*> leftOut_;
+    Long nesting_ = 0;
+};
+
+}  // namespace tamber

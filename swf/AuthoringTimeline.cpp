@@ -1,0 +1,218 @@
+#include <algorithm>
+
+#include "document/SymbolKinds.h"
+#include "document/clsLayerFolder.h"
+#include "document/clsObjBackGround.h"
+#include "document/clsObjFrameAction.h"
+#include "document/clsObjFrameLabel.h"
+#include "document/clsPropertyKoma.h"
+#include "document/clsPropertyVector.h"
+#include "platform/UserInterface.h"
+#include "platform/text.h"
+#include "swf/Authoring.h"
+#include "swf/VectorDefinition.h"
+
+namespace tamber {
+
+namespace {
+
+constexpr Long TopDepth = 16383;
+constexpr Long BottomDepth = 257;
+constexpr Long MovieVersion = 6;
+
+bool IsPlaced(Long kind) {
+    return CanPlace(kind) || kind == KindMovie || kind == KindMovieEmp;
+}
+
+}  // namespace
+
+bool CanPlace(Long kind) {
+    switch (kind) {
+        case KindBitmap:
+        case KindText:
+        case KindVector:
+        case KindSprite:
+        case KindButton:
+        case KindKoma:
+        case KindLink:
+            return true;
+        default:
+            return false;
+    }
+}
+
+void Authoring::WriteTimeline(const Timeline& timeline) {
+    const Long count = timeline.Layers.Count();
+    const bool falling = request_.blTopToBottom;
+    Long depth = falling ? TopDepth : BottomDepth;
+    for (Long i = 1; i <= count; ++i) {
+        const Long index = falling ? i : count + 1 - i;
+        if (timeline.IsMain()) ShowProgress(i - 1, count);
+        const clsLayer& layer = *timeline.Layers(index);
+        if (layer.Visible(true))
+            WriteLayer(timeline, index, depth);
+        else if (const clsLayerFolder* folder = falling ? layer.Folder() : nullptr)
+            i += std::clamp(folder->LayerCount, 0, count - i);
+    }
+    if (timeline.IsMain()) ShowProgress(count, count);
+}
+
+bool Authoring::IsGated(const clsLayer& layer) const {
+    const Long kind = layer.SymbolData()->eType();
+    const Long version = mdlSWFTag::swfVersion();
+    const String name = layer.LayerNameView();
+    const String cannot = u"SWF" + ToText(version) + u"では使用できません。\r\n";
+    if ((kind == KindMovie || kind == KindMovieEmp) && version < MovieVersion) {
+        ShowMessage(u"FLVビデオ再生はSWF6以降の機能です。\r\n" + cannot + u"動画（" + name + u"）",
+                    ProgramTitle, MessageIcon::Warning);
+        return true;
+    }
+    if (kind == KindLink && version < LinkVersion) {
+        ShowMessage(u"リンクシンボルはSWF5以降の機能です。\r\n" + cannot + u"リンクシンボル（" +
+                        name + u"）",
+                    ProgramTitle, MessageIcon::Warning);
+        return true;
+    }
+    return false;
+}
+
+void Authoring::LeaveOut(const clsLayer& layer) {
+    if (!leftOut_.insert(&layer).second) return;
+    ShowMessage(u"この種類のレイヤーの生成には対応していません。\r\n" +
+                    layer.SymbolData()->TypeText() + u"（" + layer.LayerNameView() + u"）",
+                ProgramTitle, MessageIcon::Warning);
+}
+
+void Authoring::LeaveOutKomas(const clsLayer& layer) {
+    const auto& komas = *layer.SymbolData()->Property<clsPropertyKoma>()->colKomas;
+    const bool whole = std::all_of(komas.begin(), komas.end(),
+                                   [](const auto& koma) { return CanPlace(koma->eType()); });
+    if (whole || !leftOut_.insert(&layer).second) return;
+    ShowMessage(
+        u"生成に対応していない種類のコマがあります。\r\nコマ動画（" + layer.LayerNameView() + u"）",
+        ProgramTitle, MessageIcon::Warning);
+}
+
+void Authoring::WriteLayer(const Timeline& timeline, Long index, Long& depth) {
+    const clsLayer& layer = *timeline.Layers(index);
+    const Long kind = layer.SymbolData()->eType();
+    if (IsGated(layer)) return;
+    if (kind == KindBackGround) WriteBackground(timeline, layer);
+    if (kind == KindFrameLabel) WriteLabels(timeline, layer);
+    if (kind == KindSound) LeaveOut(layer);
+    if (kind == KindFrameAction) WriteFrameActions(timeline, layer);
+    const Long depths = IsPlaced(kind) ? layer.DepthCnt(true) : 0;
+    if (depths == 0) return;
+    if (request_.blTopToBottom) depth -= depths - 1;
+    if (CanPlace(kind))
+        PlaceLayer(timeline, index, depth);
+    else
+        LeaveOut(layer);
+    depth += request_.blTopToBottom ? -1 : depths;
+}
+
+void Authoring::WriteBackground(const Timeline& timeline, const clsLayer& layer) {
+    if (layer.ObjectCount() == 0 || !timeline.IsMain()) return;
+    if (const auto* back = layer.Object(1)->ObjectAs<clsObjBackGround>())
+        timeline.Admin.BackGroundColor = back->BackColor();
+}
+
+void Authoring::WriteFrameActions(const Timeline& timeline, const clsLayer& layer) {
+    for (const auto& object : layer.colObject) {
+        const auto* action = object->ObjectAs<clsObjFrameAction>();
+        if (!object->blVisible || action == nullptr) continue;
+        const String script = action->inScript.Script(mdlSWFTag::swfVersion());
+        if (!script.empty())
+            Scripts.CompileFrameAction(timeline.Admin, timeline.IsMain(), object->StartFrame(),
+                                       script);
+    }
+}
+
+void Authoring::WriteLabels(const Timeline& timeline, const clsLayer& layer) {
+    for (const auto& object : layer.colObject) {
+        const auto* label = object->ObjectAs<clsObjFrameLabel>();
+        if (!object->blVisible || label == nullptr) continue;
+        const bool anchor = timeline.IsMain() && label->blAnchor;
+        timeline.Admin.SetFrameLabel(object->StartFrame(), label->LabelName, anchor);
+        if (anchor && request_.AnchorLabels != nullptr)
+            request_.AnchorLabels->append(u"\t").append(label->LabelName);
+    }
+}
+
+void Authoring::PlaceLayer(const Timeline& timeline, Long index, Long depth) {
+    const clsLayer& layer = *timeline.Layers(index);
+    clsSymbolData& symbol = *layer.SymbolData();
+    LayerPlacement::Character character;
+    character.Depth = depth;
+    character.ClippingDepth =
+        mdlSWFAuthoring::ClipDepthOf(timeline.Layers, index, layer.ClippingDepth);
+    character.Origin = timeline.Origin;
+    if (symbol.eType() == KindKoma) {
+        PlaceKomas(timeline, layer, character);
+        return;
+    }
+    const Long last = symbol.eType() == KindButton
+                          ? DefineButton(timeline, layer, depth)
+                          : EnsureDefined(timeline.Admin, &layer, symbol, 2);
+    if (last == 0) return;
+    std::vector<SwfEventActions> actions;
+    if (symbol.eTypeEx() == KindSprite) actions = Scripts.ClipActions(layer);
+    character.Actions = &actions;
+    if (symbol.eType() == KindVector) {
+        character.PlaceCount = layer.DepthCnt(false);
+        character.Deform = [&](const clsLayerObject& start, const clsLayerObject* end) {
+            return Deform(timeline, layer, start, end);
+        };
+    }
+    character.Identifier = last + 1 - character.PlaceCount;
+    LayerPlacement(timeline.Admin, layer, character).Run();
+}
+
+Long Authoring::DefineButton(const Timeline& timeline, const clsLayer& layer, Long depth) {
+    auto& button = *layer.SymbolData()->Property<clsPropertyButton>();
+    const Long frame = timeline.IsMain() ? layer.Object(1)->StartFrame() : timeline.SpriteFrame;
+    const ButtonCharacters characters = DefineButtonStates(timeline.Admin, button, 2);
+    const auto tag = GetNewButton(timeline.Admin, button, characters, depth);
+    tag->Actions = Scripts.ButtonActions(layer);
+    movie_.AddTag(frame, tag, true);
+    if (button.bl9Scale && mdlSWFTag::swfVersion() >= ScalingGridVersion)
+        movie_.AddTag(frame,
+                      timeline.Admin.GetNewScalingGrid(tag->ID, button.GridLeft, button.GridRight,
+                                                       button.GridTop, button.GridBottom),
+                      true);
+    return tag->ID;
+}
+
+void Authoring::PlaceKomas(const Timeline& timeline, const clsLayer& layer,
+                           LayerPlacement::Character character) {
+    LeaveOutKomas(layer);
+    const Long frame = timeline.Admin.FrameCount() == 1 ? 1 : 2;
+    const clsSymbolData& symbol = *layer.SymbolData();
+    std::vector<Long> identifiers = DefineKomas(timeline.Admin, symbol, frame);
+    if (identifiers.empty()) return;
+    character.Identifier = identifiers.front();
+    KomaTable table(symbol.Property<clsPropertyKoma>()->DispCount, std::move(identifiers));
+    character.Koma = &table;
+    LayerPlacement(timeline.Admin, layer, character).Run();
+}
+
+/// Defines what a deformed key frame shows. It is divided where its layer has the depths.
+LayerPlacement::DeformedCharacter Authoring::Deform(const Timeline& timeline, const clsLayer& layer,
+                                                    const clsLayerObject& start,
+                                                    const clsLayerObject* end) {
+    const auto* from = start.ObjectAs<clsObjVector>();
+    const auto* to = end != nullptr ? end->ObjectAs<clsObjVector>() : nullptr;
+    const auto& record = *layer.SymbolData()->Property<clsPropertyVector>();
+    const DeformedVector deformed = DeformSymbol(*layer.SymbolData(), from, to);
+    auto& own = *deformed.Start->Property<clsPropertyVector>();
+    const bool wanted =
+        record.blDivide || (from != nullptr && from->blDivide) || (to != nullptr && to->blDivide);
+    own.blDivide = wanted && layer.DepthCnt(true) == own.ShapeCount();
+    if (layer.ClippingDepth != 0) deformed.Start->DefineNum = VectorForm::Clip;
+    const Long frame = timeline.IsMain() ? std::min(start.StartFrame(), 2) : timeline.SpriteFrame;
+    tamber::DefineVector({timeline.Admin, movie_, frame}, *deformed.Start);
+    const Long count = own.blDivide && layer.ClippingDepth == 0 ? own.ShapeCount() : 1;
+    return {deformed.Start->DefineID() + 1 - count, count};
+}
+
+}  // namespace tamber

@@ -1,0 +1,88 @@
+#include "swf/ButtonDefinition.h"
+
+#include "document/clsPropertySprite.h"
+#include "document/clsPropertyVector.h"
+
+namespace tamber {
+
+namespace {
+
+constexpr Long TwipsPerPixel = 20;
+constexpr Long Black = static_cast<Long>(0xFF000000);
+
+/// Below 16 bits of colour: what a button's colour field takes.
+Long ColorField(std::int64_t value) {
+    return static_cast<Long>(std::clamp<std::int64_t>(value, -0x4000, 0x3FFF));
+}
+
+/// 100 percent is 255 here, other than in placements.
+Long Factor(Long percent) {
+    return ColorField(std::int64_t{percent} * 255 / 100);
+}
+
+SwfButtonMatrix ToSwf(const clsButtonMatrix& matrix) {
+    const clsFilterEditColor& color = matrix.EditColor;
+    SwfButtonMatrix result;
+    result.Translate = {mdlSWFTag::ToField(double{TwipsPerPixel} * matrix.TranslatePosX),
+                        mdlSWFTag::ToField(double{TwipsPerPixel} * matrix.TranslatePosY)};
+    result.Color = {Factor(color.MultR),    Factor(color.MultG),    Factor(color.MultB),
+                    Factor(color.MultA),    ColorField(color.AddR), ColorField(color.AddG),
+                    ColorField(color.AddB), ColorField(color.AddA)};
+    return result;
+}
+
+SwfPoint OriginOf(const clsSymbolData& symbol) {
+    const auto* sprite = symbol.Property<clsPropertySprite>();
+    return sprite != nullptr ? SwfPoint{sprite->baseX, sprite->baseY} : SwfPoint{};
+}
+
+}  // namespace
+
+std::shared_ptr<clsSymbolData> NewHitRect(const clsSymbolData& up) {
+    const Long width = up.PixelWidth();
+    const Long pixelHeight = up.PixelHeight();
+    if (width <= 0 || pixelHeight <= 0) return nullptr;
+    const auto twips = [](Long pixels) {
+        return mdlSWFTag::ToField(double{TwipsPerPixel} * pixels);
+    };
+    const SwfPoint origin = OriginOf(up);
+    const Long left = twips(-origin.X);
+    const Long top = twips(-origin.Y);
+    const Long right = twips(width - origin.X);
+    const Long bottom = twips(pixelHeight - origin.Y);
+    auto shape = std::make_shared<clsVectorData2>();
+    clsSWFTFillStyle fill(clsSWFTFillStyle::Solid);
+    fill.StyleAs<clsSWFTFillSolid>()->SolidColor = Black;
+    shape->colFillStyles->push_back(fill);
+    clsSWFTShapeRecords& records = *shape->inSWFTShapeRecords;
+    records.SetFill0(1);
+    records.MovePenTo(right, bottom);
+    records.DrawLineHTo(left);
+    records.DrawLineVTo(top);
+    records.DrawLineHTo(right);
+    records.DrawLineVTo(bottom);
+    auto artwork = std::make_shared<clsVectorData>();
+    artwork->colShapeData.push_back(std::move(shape));
+    auto symbol = std::make_shared<clsSymbolData>(KindVector);
+    symbol->Property<clsPropertyVector>()->SetArtwork(std::move(artwork), width, pixelHeight);
+    return symbol;
+}
+
+std::shared_ptr<clsSWFTagDefineButton> GetNewButton(clsSWFAdmin& admin,
+                                                    const clsPropertyButton& button,
+                                                    const ButtonCharacters& characters,
+                                                    Long depth) {
+    auto tag = std::make_shared<clsSWFTagDefineButton>();
+    tag->depth = depth;
+    tag->UpSymbolID = characters.Up;
+    tag->DownSymbolID = characters.Down;
+    tag->OverSymbolID = characters.Over;
+    tag->HitTestSymbolID = characters.HitTest;
+    tag->matrixUP = ToSwf(button.matrixUP);
+    tag->matrixDown = ToSwf(tag->DownSymbolID != 0 ? button.matrixDown : button.matrixUP);
+    tag->matrixOver = ToSwf(tag->OverSymbolID != 0 ? button.matrixOver : button.matrixUP);
+    tag->ID = admin.AddDefinition(tag);
+    return tag;
+}
+
+}  // namespace tamber

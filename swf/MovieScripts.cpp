@@ -1,0 +1,144 @@
+#include "swf/MovieScripts.h"
+
+#include <algorithm>
+
+#include "document/clsObjFrameAction.h"
+#include "document/clsPropertyClass.h"
+#include "platform/UserInterface.h"
+#include "platform/text.h"
+#include "script/InitBlock.h"
+#include "script/ScriptPreprocessor.h"
+#include "swf/tags/clsSWFTagDefineButton.h"
+
+namespace tamber {
+
+namespace {
+
+constexpr Long InitClipVersion = 6;
+constexpr Long ClipActionVersion = 5;
+
+String ClipPlace(const clsLayer& layer) {
+    return u"クリップアクション（" + layer.LayerNameView() + u"）";
+}
+
+/// The place and what the check of the script tells, in one line.
+String FaultLine(const String& where, const String& fault) {
+    String line = where + u"：";
+    for (const char16_t c : fault) {
+        if (c == u'\n') continue;
+        line += c == u'\r' ? u' ' : c;
+    }
+    return line;
+}
+
+}  // namespace
+
+bool MovieScripts::Expand(String& script) const {
+    ScriptPreprocessor preprocessor;
+    preprocessor.ProjectFolder = ProjectFolder;
+    return preprocessor.PreprocessScript(script, {}) == 0;
+}
+
+void MovieScripts::Tell(const String& script, ScriptKind kind, const String& where) const {
+    if (kind == ScriptKind::Clip && !blMessages) return;
+    const ScriptCheckResult check =
+        CheckScript(script, kind, mdlSWFTag::swfVersion(), ProjectFolder);
+    if (!check.Ok) CurrentUserInterface().Status(FaultLine(where, check.Message));
+    ShowMessage(u"文法に誤りがあります。\r\n" + where, u"スクリプトエラー", MessageIcon::Error);
+}
+
+bool MovieScripts::CompileInitClip(clsSWFAdmin& timeline, bool isMovie, String& script) {
+    InitBlock block;
+    if (!ExtractInitClip(script, block)) return false;
+    if (block.Text.empty() || isMovie) return true;
+    bool ok = true;
+    auto tag = timeline.GetNewDoAction(block.Text, ok);
+    timeline.AddInitAction(std::move(tag), block.OrderNum, -1);
+    return ok;
+}
+
+void MovieScripts::CompileFrameAction(clsSWFAdmin& timeline, bool isMovie, Long frame,
+                                      String script, const clsPropertyClass* inClass) {
+    const String source = script;
+    bool ok = Expand(script);
+    if (ok && frame == 1 && timeline.Ver >= InitClipVersion) {
+        if (inClass != nullptr) script = ClassScript(script, *inClass);
+        ok = CompileInitClip(timeline, isMovie, script);
+    }
+    if (ok) timeline.AddTag(frame, timeline.GetNewDoAction(script, ok), false);
+    if (!ok)
+        Tell(source, ScriptKind::Frame, u"フレームアクション（フレーム " + ToText(frame) + u"）");
+}
+
+String MovieScripts::ClassBody(const clsPropertyClass& record) const {
+    String body;
+    const Collection<clsLayer>& layers = *record.colLayer;
+    for (Long i = 1; i <= layers.Count(); ++i) {
+        const clsLayer& layer = *layers(blTopToBottom ? layers.Count() + 1 - i : i);
+        const auto first = layer.FastObject();
+        const auto* action = first ? first->ObjectAs<clsObjFrameAction>() : nullptr;
+        if (action == nullptr || !layer.Visible(true)) continue;
+        body += action->inScript.Script(mdlSWFTag::swfVersion()) + u"\r\n";
+    }
+    return body;
+}
+
+String MovieScripts::ClassScript(StringView body, const clsPropertyClass& record) const {
+    const auto links = colClassLinks.find(record.className);
+    return GenerateClassScript(
+        body, {record.className, record.Extends,
+               links == colClassLinks.end() ? std::vector<String>() : links->second});
+}
+
+void MovieScripts::CompileClass(clsSWFAdmin& timeline, const clsPropertyClass& record) {
+    CompileFrameAction(timeline, false, 1, ClassBody(record), &record);
+}
+
+void MovieScripts::CompileClassLinks(clsSWFAdmin& timeline, StringView symbolName) {
+    // Classes are exported as "__Packages." and their name.
+    symbolName.remove_prefix(symbolName.find(u'.') + 1);
+    const auto links = colClassLinks.find(String(symbolName));
+    if (links == colClassLinks.end()) return;
+    String script;
+    AppendRegisterClass(script, symbolName, links->second);
+    bool ok = true;
+    timeline.AddInitAction(timeline.GetNewDoAction(script, ok), -1, -1);
+}
+
+bool MovieScripts::CompileEvents(std::vector<SwfEventActions>& actions, const String& script,
+                                 EventScript kind) {
+    String expanded = script;
+    return Expand(expanded) && CompileEventBlocks(actions, expanded, kind, mdlSWFTag::swfVersion());
+}
+
+std::vector<SwfEventActions> MovieScripts::ButtonActions(const clsLayer& layer) {
+    const String script = layer.Script(mdlSWFTag::swfVersion());
+    std::vector<SwfEventActions> actions;
+    const bool compiled = CompileEvents(actions, script, EventScript::Button);
+    const bool fits = std::all_of(actions.begin(), actions.end(), [](const SwfEventActions& one) {
+        return one.Actions.size() <= clsSWFTagDefineButton::LongestActions;
+    });
+    if (compiled && fits) return actions;
+    Tell(script, ScriptKind::Button, u"ボタンアクション（" + layer.LayerNameView() + u"）");
+    return {};
+}
+
+std::vector<SwfEventActions> MovieScripts::ClipActions(const clsLayer& layer) {
+    const Long version = mdlSWFTag::swfVersion();
+    const String script = layer.Script(version);
+    std::vector<SwfEventActions> actions;
+    if (script.empty()) return actions;
+    if (version < ClipActionVersion) {
+        allValid_ = false;
+        ShowMessage(u"クリップアクションはSWF" + ToText(version) + u"では使用できません。\r\n" +
+                        ClipPlace(layer),
+                    ProgramTitle, MessageIcon::Warning);
+        return actions;
+    }
+    if (CompileEvents(actions, script, EventScript::Clip)) return actions;
+    allValid_ = false;
+    Tell(script, ScriptKind::Clip, ClipPlace(layer));
+    return {};
+}
+
+}  // namespace tamber
