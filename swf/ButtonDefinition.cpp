@@ -75,12 +75,14 @@ std::shared_ptr<clsSWFTagDefineButton> GetNewButton(clsSWFAdmin& admin,
     auto tag = std::make_shared<clsSWFTagDefineButton>();
     tag->depth = depth;
     tag->UpSymbolID = characters.Up;
-    tag->DownSymbolID = characters.Down;
-    tag->OverSymbolID = characters.Over;
+    // A state without a symbol shows what the up state does.
+    const auto orUp = [&characters](Long id) { return id != 0 ? id : characters.Up; };
+    tag->DownSymbolID = orUp(characters.Down);
+    tag->OverSymbolID = orUp(characters.Over);
     tag->HitTestSymbolID = characters.HitTest;
     tag->matrixUP = ToSwf(button.matrixUP);
-    tag->matrixDown = ToSwf(tag->DownSymbolID != 0 ? button.matrixDown : button.matrixUP);
-    tag->matrixOver = ToSwf(tag->OverSymbolID != 0 ? button.matrixOver : button.matrixUP);
+    tag->matrixDown = ToSwf(characters.Down != 0 ? button.matrixDown : button.matrixUP);
+    tag->matrixOver = ToSwf(characters.Over != 0 ? button.matrixOver : button.matrixUP);
     tag->ID = admin.AddDefinition(tag);
     return tag;
 }

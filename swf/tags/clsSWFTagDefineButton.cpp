@@ -75,7 +75,10 @@ void clsSWFTagDefineButton::SaveStates() const {
 
 void clsSWFTagDefineButton::SaveActions() const {
     for (const SwfEventActions& action : Actions) SetButtonCondAction(action);
-    SetButtonCondAction({});
+    // The size 0 tells that this one, without actions, is the last.
+    mdlSWFTag::SetBytes(2, 0);
+    mdlSWFTag::SetBytes(2, 0);
+    mdlSWFTag::SetBytes(1, 0);
 }
 
 }  // namespace tamber

@@ -17,7 +17,7 @@ struct SwfButtonMatrix {
 
 /// DefineButton2: identifier, a flag byte, the distance to the actions (0 for none), a record for
 /// each different state, a zero byte; then for each action its size, 7 bits of key and 9 of
-/// conditions, its records and a zero byte, and an empty one at the end.
+/// conditions, its records and a zero byte, and an empty one of size 0 at the end.
 class clsSWFTagDefineButton : public clsSWFTag {
 public:
     /// Bytes of one action at most: its size has 16 bits.

@@ -37,3 +37,11 @@ export function differences(picture, { frame, pixels = [], box }) {
   }
   return lines;
 }
+
+/** Answers a line for the first text that is not the one expected since the frame looked at before. */
+export function traceDifferences(seen, { frame, traces }) {
+  for (let i = 0; i < Math.max(seen.length, traces.length); i++)
+    if (seen[i] !== traces[i])
+      return [`frame ${frame}: trace ${i + 1} is ${JSON.stringify(seen[i] ?? null)} instead of ${JSON.stringify(traces[i] ?? null)}`];
+  return [];
+}

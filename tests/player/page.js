@@ -25,6 +25,7 @@
   let player = null;
   let movie = null;
   let frame = 0;
+  let traces = [];
 
   window.movieStage = {
     /** Loads a movie given as base64; answers its metadata. */
@@ -50,6 +51,8 @@
       });
       const tooLate = new Promise((_, fail) => setTimeout(() => fail(new Error('the player read no movie in 20 s')), 20000));
       await Promise.race([loaded, tooLate]);
+      traces = [];
+      movie.traceObserver = (text) => traces.push(text);
       const { frameRate, numFrames, swfVersion } = movie.metadata;
       return { frameRate, numFrames, swfVersion };
     },
@@ -63,6 +66,11 @@
         drawAt((frame + 0.01) * length);
         await letTasksRun();
       }
+    },
+
+    /** The texts traced since the last call. */
+    takeTraces() {
+      return traces.splice(0);
     },
 
     /** The text of the screen that the player shows when it broke down, or null. */

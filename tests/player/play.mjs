@@ -11,7 +11,7 @@ import { fileURLToPath } from 'node:url';
 import path from 'node:path';
 import { inflateSync } from 'node:zlib';
 import { Stage } from './stage.mjs';
-import { differences } from './expect.mjs';
+import { differences, traceDifferences } from './expect.mjs';
 import { movingSquare } from './swf-by-hand.mjs';
 import { compareDrawing, drawings, loadDrawings, movieOfDrawings } from './drawings.mjs';
 
@@ -48,10 +48,11 @@ async function look(stage, movie, { width, height, expectations }, picturePath) 
   const lines = [];
   await stage.load(movie, width, height);
   for (const expectation of [...expectations].sort((a, b) => a.frame - b.frame)) {
-    if (expectation.before) await stage.act(expectation.before);
+    for (const step of [expectation.before ?? []].flat()) await stage.act(step);
     const { file, picture } = await stage.show(expectation.frame);
     writeFileSync(`${picturePath}-${expectation.frame}.png`, file);
     lines.push(...differences(picture, expectation));
+    if (expectation.traces) lines.push(...traceDifferences(await stage.traces(), expectation));
   }
   return lines;
 }

@@ -70,10 +70,20 @@ export class Stage {
     return { file, picture: decodePng(file) };
   }
 
-  /** What a person does before the next frame: a click on the stage, then keys typed. */
-  async act({ click, type }) {
+  /** What a person does before the next frame, in this order of kinds: moves the mouse, presses its button, lets it go,
+   * clicks on the stage, presses a key by its name, types. */
+  async act({ move, down, up, click, press, type }) {
+    if (move) await this.page.mouse.move(move.x, move.y);
+    if (down) await this.page.mouse.down();
+    if (up) await this.page.mouse.up();
     if (click) await this.page.mouse.click(click.x, click.y);
+    if (press) await this.page.keyboard.press(press);
     if (type) await this.page.keyboard.type(type);
+  }
+
+  /** The texts that the movie's scripts traced since the last call. */
+  async traces() {
+    return this.page.evaluate(() => window.movieStage.takeTraces());
   }
 
   async close() {

@@ -1,0 +1,1 @@
+trace("+MEswam8iW1cwvYho");
