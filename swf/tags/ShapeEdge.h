@@ -32,7 +32,8 @@ inline std::uint32_t Magnitude(Long value) {
 
 /// Width of the fields of an edge: at least 3, which the second bit stands for.
 inline Long Width(std::uint32_t magnitudes) {
-    return static_cast<Long>(std::bit_width(magnitudes | 2u)) + 1;
+    // Written so that it becomes the one instruction that finds the highest bit.
+    return (31 ^ __builtin_clz(magnitudes | 2u)) + 2;
 }
 
 inline std::uint64_t Field(Long value, Long width) {

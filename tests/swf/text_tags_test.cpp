@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "swf/clsSWFAdmin.h"
+#include "swf/tags/GlyphShape.h"
 #include "swf/tags/clsSWFTagCSMTextSettings.h"
 #include "swf/tags/clsSWFTagDefineEditText.h"
 #include "swf/tags/clsSWFTagDefineFont.h"
@@ -9,16 +10,17 @@
 namespace tamber {
 namespace {
 
-/// A glyph that is a triangle with one curved side.
-GlyphOutlineRecord Triangle(Long advance) {
-    GlyphOutlineRecord outline;
-    outline.CellIncX = advance;
-    OutlineContour contour;
-    contour.Start = {0, 0};
-    contour.Curves.push_back({OutlineCurve::Lines, {{4, 0}}});
-    contour.Curves.push_back({OutlineCurve::Spline, {{4, 4}, {0, 4}, {0, 2}}});
-    outline.Contours.push_back(contour);
-    return outline;
+/// Bytes of bits that are told as 0 and 1; blanks stand between fields.
+Bytes Packed(std::string_view bits) {
+    Bytes bytes;
+    std::size_t count = 0;
+    for (const char bit : bits) {
+        if (bit == ' ') continue;
+        if (count % 8 == 0) bytes.push_back(0);
+        if (bit == '1') bytes.back() |= static_cast<Byte>(0x80 >> count % 8);
+        ++count;
+    }
+    return bytes;
 }
 
 GlyphOutlineRecord Blank(Long advance) {
@@ -40,18 +42,41 @@ Bytes Saved(clsSWFTag& tag, Long version) {
     return mdlSWFTag::TakeBuffer();
 }
 
-TEST(FontObject, splines_have_middles_and_contours_are_closed) {
-    clsFontObject font(u"Font_");
-    font.AddGlyph(u'a', Triangle(600));
-    const auto& records = font.FontData(1).tagShapeRecords->colShapeRecords;
-    ASSERT_EQ(records.size(), 5u);
-    const auto& first = std::get<clsSWFTShapeCurveEdge>(records[2]);
-    EXPECT_EQ((SwfPoint{first.AnchorX, first.AnchorY}), (SwfPoint{2, 4}));
-    const auto& second = std::get<clsSWFTShapeCurveEdge>(records[3]);
-    EXPECT_EQ((SwfPoint{second.ControlX, second.ControlY}), (SwfPoint{0, 4}));
-    const auto& close = std::get<clsSWFTShapeStraightEdge>(records[4]);
-    EXPECT_EQ((SwfPoint{close.DrawX, close.DrawY}), (SwfPoint{0, 0}));
-    EXPECT_EQ(font.FontData(1).CellIncX, 600);
+TEST(GlyphShape, has_a_fill_for_all_contours_and_lines_that_close_them) {
+    GlyphOutline outline;
+    // Open, with two curves; then closed.
+    outline.Contours = {{{0, 0}, 3}, {{1, 1}, 3}};
+    outline.Edges = {{{4, 0}, {4, 0}, false}, {{4, 4}, {2, 4}, true},  {{0, 4}, {0, 2}, true},
+                     {{5, 1}, {5, 1}, false}, {{1, 5}, {1, 5}, false}, {{1, 1}, {1, 1}, false}};
+    Bytes shapes{0xAB};
+    AddGlyphShape(outline, shapes);
+    const Bytes expected = Packed(
+        "10101011 0001 0000"
+        // Move and fill 0: width 1, the fill. Right by 4.
+        "000011 00001 0 0 1  11 0010 0 0 0100"
+        // By 0, 4, then -2, 0; by -2, 0, then 0, -2; up by 2.
+        "10 0010 0000 0100 1110 0000  10 0001 110 000 000 110  11 0001 0 1 110"
+        // Move: width 2. Right by 4; left and down by 4; up by 4.
+        "000001 00010 01 01  11 0010 0 0 0100  11 0010 1 1100 0100  11 0001 0 1 100"
+        "000000");
+    EXPECT_EQ(shapes, expected);
+}
+
+TEST(GlyphShape, holds_the_longest_edges) {
+    GlyphOutline outline;
+    outline.Contours = {{{-32768, 32767}, 2}};
+    outline.Edges = {{{32767, -32768}, {32767, -32768}, false},
+                     {{-32768, 32767}, {32767, 32767}, true}};
+    Bytes shapes;
+    AddGlyphShape(outline, shapes);
+    // Distances of 65535 take 17 bits.
+    const std::string forth = " 01111111111111111";
+    const std::string back = " 10000000000000001";
+    const std::string none = " 00000000000000000";
+    const Bytes expected =
+        Packed("0001 0000 000011 10000 1000000000000000 0111111111111111 1 11 1111 1" + forth +
+               back + " 10 1111" + back + forth + forth + none + " 11 1111 0 0" + back + "000000");
+    EXPECT_EQ(shapes, expected);
 }
 
 TEST(FontObject, keeps_characters_in_the_order_of_their_codes) {
