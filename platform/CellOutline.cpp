@@ -69,7 +69,7 @@ private:
     const std::span<const FinePoint> fine_;
     const std::span<const OutlinePoint> placed_;
     GlyphOutline& outline_;
-    /// Edges read; behind them is room for one a point.
+    /// Edges read; behind them is room for one for each point that is left.
     std::size_t count_ = 0;
     std::size_t next_ = 0;
     std::size_t end_ = 0;
@@ -136,7 +136,7 @@ bool ContourReader::ReadCubic() {
     if (!last && Kind(i + 2) != FT_CURVE_TAG_ON) return false;
     const auto pieces = CutCubic(fine_[i - 1], fine_[i], fine_[i + 1],
                                  last ? fineStart_ : fine_[i + 2], CubicTolerance);
-    MakeRoom(pieces.size() + end_ - i);
+    MakeRoom(pieces.size() + placed_.size() - i);
     for (const QuadraticPiece& piece : pieces)
         outline_.Edges[count_++] = {Placed(piece.Control, ascent_), Placed(piece.End, ascent_),
                                     true};
@@ -174,7 +174,7 @@ bool CellOutline::Read(const FT_Outline& source, const CellPlacement& placement,
     std::size_t first = 0;
     for (int i = 0; i < source.n_contours; ++i) {
         const std::size_t end = static_cast<std::size_t>(source.contours[i]) + 1;
-        if (end > placed_.size()) return false;
+        if (end < first || end > placed_.size()) return false;
         if (end >= first + LeastPoints && !reader.Read(first, end)) return false;
         first = end;
     }

@@ -59,14 +59,14 @@ void clsSWFTagDefineFont::SaveName() const {
     mdlSWFTag::SetByteArray(name);
 }
 
-void clsSWFTagDefineFont::SaveGlyphs() const {
+void clsSWFTagDefineFont::SaveGlyphs(Long offsetBytes, bool withEnd) const {
     const Long count = FontObject->GlyphCount();
-    std::size_t offset = (static_cast<std::size_t>(count) + 1) * 4;
+    std::size_t offset = static_cast<std::size_t>((count + (withEnd ? 1 : 0)) * offsetBytes);
     for (Long i = 1; i <= count; ++i) {
-        mdlSWFTag::SetBytes(4, static_cast<Long>(offset));
+        mdlSWFTag::SetBytes(offsetBytes, static_cast<Long>(offset));
         offset += FontObject->FontData(i).ShapeSize;
     }
-    mdlSWFTag::SetBytes(4, static_cast<Long>(offset));
+    if (withEnd) mdlSWFTag::SetBytes(offsetBytes, static_cast<Long>(offset));
     for (Long i = 1; i <= count; ++i)
         mdlSWFTag::SetByteArray(FontObject->Shape(FontObject->FontData(i)));
 }
@@ -89,20 +89,28 @@ void clsSWFTagDefineFont::SaveLayout() const {
     mdlSWFTag::SetBytes(2, 0);
 }
 
-void clsSWFTagDefineFont::Save() {
-    if (!FontObject || (FontObject->GlyphCount() == 0 && !IsDevice(FontName))) return;
-    const std::size_t body = mdlSWFTag::BeginTag(TagNum());
-    mdlSWFTag::SetBytes(2, ID);
+void clsSWFTagDefineFont::SaveFont2() const {
     SaveFlags();
     SaveName();
     mdlSWFTag::SetBytes(2, FontObject->GlyphCount());
     if (FontObject->GlyphCount() > 0) {
-        SaveGlyphs();
+        SaveGlyphs(4, true);
         SaveCodes();
         SaveLayout();
     } else {
         mdlSWFTag::SetBytes(2, 2);
     }
+}
+
+void clsSWFTagDefineFont::Save() {
+    if (TagNum() < 0 || !FontObject) return;
+    if (FontObject->GlyphCount() == 0 && !IsDevice(FontName)) return;
+    const std::size_t body = mdlSWFTag::BeginTag(TagNum());
+    mdlSWFTag::SetBytes(2, ID);
+    if (Ver == 1)
+        SaveGlyphs(2, false);
+    else
+        SaveFont2();
     mdlSWFTag::EndTag(body);
 }
 

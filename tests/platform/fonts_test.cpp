@@ -584,5 +584,30 @@ INSTANTIATE_TEST_SUITE_P(
         Drawn{"QuadraticIntoCubic", {1, 0, 2, 2}, {{0, 0}, {20, 0}, {20, 20}, {0, 20}}, ""}),
     [](const auto& drawn) { return std::string(drawn.param.Name); });
 
+TEST(Fonts, ContoursBehindALongCubicHaveTheirRoom) {
+    // A loop that takes many quadratics, then a square; then contours that overlap.
+    std::vector<FT_Vector> points{{0, 0}, {6000, 2000}, {-4000, 2000}, {2000, 0},
+                                  {0, 0}, {20, 0},      {20, 20},      {0, 20}};
+    std::vector<char> tags{1, 2, 2, 1, 1, 1, 1, 1};
+    std::vector<short> ends{3, 7};
+    FT_Outline outline{};
+    outline.n_points = 8;
+    outline.n_contours = 2;
+    outline.points = points.data();
+    outline.tags = reinterpret_cast<decltype(outline.tags)>(tags.data());
+    outline.contours = reinterpret_cast<decltype(outline.contours)>(ends.data());
+    const CellPlacement placement{.CellHeight = 2048, .Ascent = 800};
+    GlyphOutline made;
+    ASSERT_TRUE(CellOutline().Read(outline, placement, made));
+    ASSERT_EQ(made.Contours.size(), 2u);
+    const auto loop = static_cast<std::size_t>(made.Contours[0].EdgeCount);
+    EXPECT_GT(loop, 4u);
+    EXPECT_EQ(made.Contours[1].EdgeCount, 3);
+    ASSERT_LE(loop + 3, made.Edges.size());
+    EXPECT_EQ(made.Edges[loop + 2].Anchor, (OutlinePoint{0, 790}));
+    ends = {7, 3};
+    EXPECT_FALSE(CellOutline().Read(outline, placement, made));
+}
+
 }  // namespace
 }  // namespace tamber

@@ -139,6 +139,19 @@ TEST(DefineFont, has_the_told_bytes) {
     EXPECT_EQ(version5.size(), version6.size() - 1);
 }
 
+TEST(DefineFont, of_version_1_has_offsets_and_shapes_alone) {
+    clsSWFTagDefineFont tag;
+    tag.ID = 3;
+    tag.FontName = u"F";
+    tag.FontObject = FontOf(u"AB");
+    tag.Ver = 1;
+    EXPECT_EQ(Saved(tag, 5), (Bytes{0xBF, 0x02, 12, 0, 0, 0, 3, 0, 4, 0, 7, 0, 0x10, 0x0A, 0x00,
+                                    0x10, 0x0A, 0x00}));
+    tag.Ver = 3;
+    EXPECT_EQ(tag.TagNum(), -1);
+    EXPECT_TRUE(Saved(tag, 5).empty());
+}
+
 TEST(DefineFont, tells_a_device_font_by_its_name) {
     clsSWFTagDefineFont tag;
     tag.ID = 1;
@@ -188,6 +201,13 @@ TEST(DefineText, has_the_told_bytes) {
                          // Second line: at 0, two glyphs: 10 01100100, 00 01100100.
                          0x8F, 1, 0, 0x12, 0, 0, 255, 0, 0, 200, 0, 200, 0, 2, 0x99, 0x06, 0x40, 0};
     EXPECT_EQ(rest, expected);
+    // Version 1 has no opacity.
+    tag.Ver = 1;
+    const Bytes opaque = Saved(tag, 6);
+    EXPECT_EQ(opaque[0] | opaque[1] << 8, 11 << 6 | 63);
+    EXPECT_EQ(Bytes(opaque.begin() + 19, opaque.begin() + 29),
+              (Bytes{0x8F, 1, 0, 0x12, 0, 0, 100, 0, 0, 0}));
+    EXPECT_EQ(opaque.size(), bytes.size() - 2);
 }
 
 TEST(DefineText, a_line_beyond_a_records_count_goes_on_in_another) {
@@ -213,6 +233,41 @@ TEST(DefineText, a_line_beyond_a_records_count_goes_on_in_another) {
     EXPECT_EQ(counts(7), (std::vector<int>{255, 45}));
     tag.FontObject = nullptr;
     EXPECT_TRUE(Saved(tag, 6).empty());
+}
+
+/// Glyph counts of the records of a text without line ends whose glyphs take so many bits each.
+std::size_t CountedGlyphs(const Bytes& tag, std::size_t bitsPerGlyph) {
+    const std::size_t last = tag.size() - 1;
+    std::size_t at = 0;
+    while (tag[at] != 0x8F) ++at;
+    std::size_t glyphs = 0;
+    for (at += 13; at < last; ++at) {
+        glyphs += tag[at];
+        at += 1 + (tag[at] * bitsPerGlyph + 7) / 8;
+    }
+    return glyphs;
+}
+
+TEST(DefineText, of_any_content_is_a_plain_tag) {
+    constexpr std::size_t Million = 1'000'000;
+    clsSWFTagDefineText tag;
+    tag.Format = {1024, 0, 0};
+    tag.FontObject = FontOf(u"a", 7);
+    tag.Text(String(Million, u'a'));
+    // An index of one bit and an advance of four.
+    EXPECT_EQ(CountedGlyphs(Saved(tag, 6), 5), Million);
+    EXPECT_EQ(CountedGlyphs(Saved(tag, 8), 5), Million);
+    // As many empty lines have no records.
+    tag.Text(String(Million, u'\n'));
+    EXPECT_LT(Saved(tag, 6).size(), 32u);
+    tag.Text(u"");
+    // Bounds 0 to 0 and 0 to 1024 in 12 bits each, no records.
+    EXPECT_EQ(Saved(tag, 6),
+              (Bytes{0x7F, 0x08, 14, 0, 0, 0, 0, 0, 0x60, 0, 0, 0, 0, 0x20, 0, 0x02, 0, 1, 4, 0}));
+    // A character that the font lacks takes no room, and a font may lack all.
+    tag.FontObject = std::make_shared<clsFontObject>(u"Font_");
+    tag.Text(u"ab");
+    EXPECT_EQ(CountedGlyphs(Saved(tag, 6), 2), 2u);
 }
 
 TEST(DefineEditText, has_the_told_bytes) {
