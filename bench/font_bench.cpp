@@ -33,9 +33,9 @@ void KanjiOutlines(benchmark::State& state) {
     GlyphOutlineRecord record;
     for (auto _ : state)
         for (const char16_t character : Kanji()) {
-            if (!GetCharOutline(record, character, font) || record.Contours.empty())
+            if (!GetCharOutline(record, character, font) || record.Outline.Contours.empty())
                 state.SkipWithError("no outline");
-            benchmark::DoNotOptimize(record.Contours.data());
+            benchmark::DoNotOptimize(record.Outline.Contours.data());
         }
 }
 

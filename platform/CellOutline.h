@@ -3,7 +3,11 @@
 #include <ft2build.h>
 #include FT_OUTLINE_H
 
-#include "platform/OutlineStore.h"
+#include <span>
+#include <vector>
+
+#include "platform/CubicCut.h"
+#include "platform/fonts.h"
 
 namespace tamber {
 
@@ -18,11 +22,26 @@ struct CellPlacement {
 };
 
 /// Units of the cell from those of the face.
-double CellUnits(double value, const CellPlacement& placement);
+inline double CellUnits(double value, const CellPlacement& placement) {
+    constexpr double CellSize = 1024;
+    return value * CellSize / placement.CellHeight;
+}
 
-/// Adds the contours of a face's outline: quadratics as they are, cubics cut. Their memory comes
-/// from the store. False when the points do not make curves.
-bool AddContours(const FT_Outline& outline, const CellPlacement& placement, OutlineStore& store,
-                 std::vector<OutlineContour>& contours);
+/// Turns outlines of faces into those of the cell.
+class CellOutline {
+public:
+    /// Fills an empty outline with the contours of a face's: quadratics as they are, cubics cut.
+    /// False when the points do not make curves, or lie farther off than a record holds.
+    bool Read(const FT_Outline& source, const CellPlacement& placement, GlyphOutline& outline);
+
+private:
+    /// False for points out of reach.
+    bool PlacePoints(std::span<const FT_Vector> points, const CellPlacement& placement);
+
+    /// Points of the face in units of the cell, y upwards, before they are rounded; and in their
+    /// places. Kept for the next outline's.
+    std::vector<FinePoint> fine_;
+    std::vector<OutlinePoint> placed_;
+};
 
 }  // namespace tamber

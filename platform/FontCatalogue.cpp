@@ -107,11 +107,10 @@ std::span<FcPattern* const> PatternsOf(FcConfig* config, FcSetName name) {
 }  // namespace
 
 bool FontCatalogue::Refresh() {
-    std::unique_ptr<FcConfig, Release> config(FcConfigReference(nullptr));
-    const auto added = PatternsOf(config.get(), FcSetApplication);
-    if (config == config_ && std::ranges::equal(added, added_, {}, {}, &PatternPointer::get))
-        return false;
-    config_ = std::move(config);
+    const bool same = config_ && FcConfigGetCurrent() == config_.get();
+    if (!same) config_.reset(FcConfigReference(nullptr));
+    const auto added = PatternsOf(config_.get(), FcSetApplication);
+    if (same && std::ranges::equal(added, added_, {}, {}, &PatternPointer::get)) return false;
     added_.clear();
     for (FcPattern* pattern : added) {
         FcPatternReference(pattern);

@@ -2,7 +2,6 @@
 
 #include FT_TRUETYPE_TABLES_H
 
-#include "platform/CellOutline.h"
 #include "platform/files.h"
 #include "platform/rounding.h"
 
@@ -66,11 +65,11 @@ bool FontFace::FindCell() {
 
 bool FontFace::LoadGlyph(char16_t character) {
     const FT_UInt glyph = IsSurrogate(character) ? 0 : FT_Get_Char_Index(face_.get(), character);
-    return FT_Load_Glyph(face_.get(), glyph, FT_LOAD_NO_SCALE) == 0 &&
+    return FT_Load_Glyph(face_.get(), glyph, FT_LOAD_NO_SCALE | FT_LOAD_LINEAR_DESIGN) == 0 &&
            face_->glyph->format == FT_GLYPH_FORMAT_OUTLINE;
 }
 
-bool FontFace::ReadOutline(GlyphOutlineRecord& record, SyntheticStyle style, OutlineStore& store) {
+bool FontFace::ReadOutline(GlyphOutlineRecord& record, SyntheticStyle style) {
     CellPlacement placement{.CellHeight = static_cast<double>(cellHeight_)};
     record.Ascent = placement.Ascent = RoundToLong(CellUnits(ascent_, placement));
     if (!LoadGlyph(record.Character)) return false;
@@ -87,8 +86,8 @@ bool FontFace::ReadOutline(GlyphOutlineRecord& record, SyntheticStyle style, Out
     }
     // A slanted character keeps its advance.
     if (style.Italic) placement.Shear = ItalicShear;
-    if (!AddContours(slot->outline, placement, store, record.Contours)) {
-        record.Contours.clear();
+    if (!cellOutline_.Read(slot->outline, placement, record.Outline)) {
+        record.Outline.Contours.clear();
         return false;
     }
     record.CellIncX = RoundToLong(CellUnits(static_cast<double>(advance), placement));

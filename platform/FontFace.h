@@ -5,7 +5,7 @@
 
 #include <memory>
 
-#include "platform/OutlineStore.h"
+#include "platform/CellOutline.h"
 
 namespace tamber {
 
@@ -26,7 +26,7 @@ public:
 
     /// Adds metrics and outline of its character to an empty record. False, with an empty outline,
     /// when the glyph is damaged.
-    bool ReadOutline(GlyphOutlineRecord& record, SyntheticStyle style, OutlineStore& store);
+    bool ReadOutline(GlyphOutlineRecord& record, SyntheticStyle style);
 
 private:
     struct Close {
@@ -43,6 +43,7 @@ private:
     /// From the base line to the cell's top, and the height of the cell, font units.
     Long ascent_ = 0;
     Long cellHeight_ = 0;
+    CellOutline cellOutline_;
 };
 
 }  // namespace tamber

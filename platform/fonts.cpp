@@ -26,9 +26,8 @@ public:
     /// Fills a record from its character and font.
     bool ReadOutline(GlyphOutlineRecord& record) {
         Refresh();
-        store_.Reclaim(record.Contours);
         const OpenFont& font = Find(record.Font);
-        return font.Face && font.Face->ReadOutline(record, font.Style, store_);
+        return font.Face && font.Face->ReadOutline(record, font.Style);
     }
     const FontCatalogue& Catalogue() {
         Refresh();
@@ -59,7 +58,6 @@ private:
     FontCatalogue catalogue_;
     /// The one used last stands first.
     std::vector<OpenFont> open_;
-    OutlineStore store_;
 };
 
 const FontLibrary::OpenFont& FontLibrary::Find(const LogFont& font) {
@@ -124,6 +122,7 @@ bool GetCharOutline(GlyphOutlineRecord& record, char16_t character, const LogFon
     record.Font = font;
     record.CellIncX = 0;
     record.Ascent = 0;
+    record.Outline.Contours.clear();
     return LockedLibrary()->ReadOutline(record);
 }
 

@@ -23,30 +23,42 @@ struct OutlinePoint {
     bool operator==(const OutlinePoint&) const = default;
 };
 
-/// A piece of a contour: lines to each point, or a quadratic spline whose points but the last are
-/// control points with implied middles between them.
-struct OutlineCurve {
-    static constexpr Long Lines = 1;
-    static constexpr Long Spline = 2;
-
-    Long Type = Lines;
-    std::vector<OutlinePoint> Points;
+/// A line to the anchor, or a quadratic curve by the control point to it. A line's control point is
+/// its anchor.
+struct OutlineEdge {
+    OutlinePoint Control;
+    OutlinePoint Anchor;
+    bool Curved = false;
+    bool operator==(const OutlineEdge&) const = default;
 };
 
+/// The edges of a contour stand behind those of the contour before.
 struct OutlineContour {
     OutlinePoint Start;
-    std::vector<OutlineCurve> Curves;
+    Long EdgeCount = 0;
+};
+
+/// Contours in two rows, so that an outline takes no memory of its own in the place of an earlier
+/// one. The last edge of a contour need not lead back to its start.
+struct GlyphOutline {
+    std::vector<OutlineContour> Contours;
+    /// May be longer than the contours need.
+    std::vector<OutlineEdge> Edges;
 };
 
 /// The outline of one character in a cell 1024 units high; y grows downwards from the cell's top.
 struct GlyphOutlineRecord {
+    /// Coordinates lie from -Farthest to Farthest - 1, so that the distance of any two fits the
+    /// edge records of a movie. Those of real faces lie within a few cells.
+    static constexpr Long Farthest = 0x8000;
+
     char16_t Character = 0;
     LogFont Font;
     /// Advance to the next character, units.
     Long CellIncX = 0;
     /// Distance of the base line from the cell's top, units.
     Long Ascent = 0;
-    std::vector<OutlineContour> Contours;
+    GlyphOutline Outline;
 };
 
 /// Fills the record with a character's outline. A blank has no contours but its advance; so has,

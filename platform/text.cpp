@@ -14,7 +14,9 @@ namespace {
 
 constexpr std::size_t LongestNumber = 400;
 
-bool IsBlank(char16_t c) { return c == u' ' || c == u'\t'; }
+bool IsBlank(char16_t c) {
+    return c == u' ' || c == u'\t';
+}
 
 char16_t Fold(char16_t c) {
     const bool latin = c >= u'A' && c <= u'Z';
@@ -80,7 +82,9 @@ double NumberOf(StringView text) {
     return value;
 }
 
-String FromAscii(const char* from, const char* to) { return String(from, to); }
+String FromAscii(const char* from, const char* to) {
+    return String(from, to);
+}
 
 /// Matches one "[...]" class at the pattern's start and moves the pattern behind it.
 bool MatchClass(char16_t c, StringView& pattern) {
@@ -89,7 +93,8 @@ bool MatchClass(char16_t c, StringView& pattern) {
     if (negated) ++i;
     bool found = false;
     while (i < pattern.size() && pattern[i] != u']') {
-        const bool range = i + 2 < pattern.size() && pattern[i + 1] == u'-' && pattern[i + 2] != u']';
+        const bool range =
+            i + 2 < pattern.size() && pattern[i + 1] == u'-' && pattern[i + 2] != u']';
         const char16_t low = pattern[i];
         const char16_t high = range ? pattern[i + 2] : low;
         found = found || (c >= low && c <= high);
@@ -145,11 +150,14 @@ String ToText(Single value) {
     return text;
 }
 
-String ToText(bool value) { return value ? u"True" : u"False"; }
+String ToText(bool value) {
+    return value ? u"True" : u"False";
+}
 
 String ToGroupedText(std::int64_t value) {
     String digits;
-    auto rest = value < 0 ? 0 - static_cast<std::uint64_t>(value) : static_cast<std::uint64_t>(value);
+    auto rest =
+        value < 0 ? 0 - static_cast<std::uint64_t>(value) : static_cast<std::uint64_t>(value);
     int count = 0;
     do {
         if (count != 0 && count % 3 == 0) digits.insert(digits.begin(), u',');

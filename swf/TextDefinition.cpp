@@ -8,7 +8,7 @@ constexpr Long TwipsPerPixel = 20;
 /// Pixels that players keep between a field's border and its text.
 constexpr Long FieldMargin = 2;
 constexpr Long SmoothingVersion = 8;
-/// Code tables are in code page 932 below this version.
+/// Below this version code tables are in code page 932, and fields keep their size.
 constexpr Long UnicodeVersion = 6;
 
 Long ToTwips(Single pixels) {
@@ -24,10 +24,12 @@ void AddSmoothing(clsSWFAdmin& admin, Long id, const clsPropertyText& text, Long
         admin.AddTag(frame, GetNewCSMTextSettings(id, text), true);
 }
 
-/// Static text in a font of the player's own, of which no glyphs can be embedded: a field that
-/// nobody can change, in the text's own box.
-clsPropertyText AsLockedField(const clsPropertyText& text) {
+/// Static text in a font of the player's own, of which no glyphs can be embedded, as the record of
+/// a field that nobody can change.
+clsPropertyText LockedField(const clsPropertyText& text) {
     clsPropertyText field = text;
+    // A field shows CR LF as two line ends.
+    field.InitialText = WithLineFeeds(text.InitialText);
     field.blDynamic = true;
     field.blAutoSize = false;
     field.blMultiLine = true;
@@ -37,6 +39,18 @@ clsPropertyText AsLockedField(const clsPropertyText& text) {
     field.Width = text.Width + 2 * FieldMargin;
     field.height = text.height + 2 * FieldMargin;
     return field;
+}
+
+/// Only the player knows how large its letters are; a field shows no more than its box holds. From
+/// version 6 on the box grows with the text. Below, it gets the room that letters take at most:
+/// twice that of the half-width ones which it was measured with, and lines a quarter higher. Text
+/// that ends on the right or stands in the middle would move with a wider box.
+void GiveRoom(clsSWFTagDefineEditText& field) {
+    field.blAutoSize = true;
+    if (mdlSWFTag::swfVersion() >= UnicodeVersion) return;
+    if (field.Alignment == clsSWFTagDefineText::Left)
+        field.Width = mdlSWFTag::ToField(field.Width * 2.0);
+    field.height = mdlSWFTag::ToField(field.height * 1.25);
 }
 
 }  // namespace
@@ -126,11 +140,11 @@ std::shared_ptr<clsSWFTagCSMTextSettings> GetNewCSMTextSettings(Long textID,
 }
 
 void DefineText(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
-    const auto& record = *symbol.Property<clsPropertyText>();
-    const bool locked = !record.blDynamic && clsFontAdmin::IsDeviceFont(record.FontName);
-    const clsPropertyText text = locked ? AsLockedField(record) : record;
-    if (text.blDynamic) {
-        auto tag = GetNewEditText(admin, text);
+    const auto& text = *symbol.Property<clsPropertyText>();
+    const bool locked = !text.blDynamic && clsFontAdmin::IsDeviceFont(text.FontName);
+    if (text.blDynamic || locked) {
+        auto tag = GetNewEditText(admin, locked ? LockedField(text) : text);
+        if (locked) GiveRoom(*tag);
         symbol.DefineID(tag->ID);
         admin.AddTag(frame, std::move(tag), true);
     } else {

@@ -151,11 +151,11 @@ void SetBits(Long bitCount, Long value) {
     }
 }
 
-BitRun::State BitRun::Begin(std::size_t maxBits) {
-    return {Grow(maxBits / 8 + sizeof(std::uint64_t) + 1), stream.pending, stream.pendingCount};
+BitRun::State StreamRun::Begin(std::size_t maxBits) {
+    return {Grow(RoomFor(maxBits)), stream.pending, stream.pendingCount};
 }
 
-void BitRun::End(State state) {
+void StreamRun::End(State state) {
     stream.bytePos = static_cast<std::size_t>(state.Target - stream.buffer.data());
     stream.pending = state.Pending;
     stream.pendingCount = state.Count;

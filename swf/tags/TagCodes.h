@@ -12,6 +12,7 @@ inline constexpr Long DefineShape = 2;
 inline constexpr Long PlaceObject = 4;
 inline constexpr Long RemoveObject = 5;
 inline constexpr Long SetBackgroundColor = 9;
+inline constexpr Long DefineFont = 10;
 inline constexpr Long DefineText = 11;
 inline constexpr Long DoAction = 12;
 inline constexpr Long DefineBitsLossless = 20;

@@ -3,55 +3,17 @@
 #include <algorithm>
 
 #include "platform/codepage.h"
+#include "swf/tags/GlyphShape.h"
 
 namespace tamber {
 
-namespace {
-
-OutlinePoint Middle(OutlinePoint a, OutlinePoint b) {
-    return {(a.X + b.X) / 2, (a.Y + b.Y) / 2};
-}
-
-void DrawSpline(clsSWFTShapeRecords& records, const std::vector<OutlinePoint>& points) {
-    if (points.size() < 2) return;
-    for (std::size_t i = 0; i + 2 < points.size(); ++i) {
-        const OutlinePoint anchor = Middle(points[i], points[i + 1]);
-        records.DrawCurveTo(points[i].X, points[i].Y, anchor.X, anchor.Y);
-    }
-    const OutlinePoint control = points[points.size() - 2];
-    records.DrawCurveTo(control.X, control.Y, points.back().X, points.back().Y);
-}
-
-void DrawContour(clsSWFTShapeRecords& records, const OutlineContour& contour) {
-    records.MovePenTo(contour.Start.X, contour.Start.Y);
-    for (const OutlineCurve& curve : contour.Curves) {
-        if (curve.Type == OutlineCurve::Lines)
-            for (const OutlinePoint point : curve.Points) records.DrawLineTo(point.X, point.Y);
-        if (curve.Type == OutlineCurve::Spline) DrawSpline(records, curve.Points);
-    }
-    if (records.CurrentX != contour.Start.X || records.CurrentY != contour.Start.Y)
-        records.DrawLineTo(contour.Start.X, contour.Start.Y);
-}
-
-/// Records that the contours of an outline take at most.
-std::size_t RecordCount(const GlyphOutlineRecord& outline) {
-    std::size_t count = 1;
-    for (const OutlineContour& contour : outline.Contours) {
-        count += 2;
-        for (const OutlineCurve& curve : contour.Curves) count += curve.Points.size();
-    }
-    return count;
-}
-
-}  // namespace
-
-std::uint32_t AnsiCode(char16_t character) {
+std::uint16_t AnsiCode(char16_t character) {
     std::uint32_t code = 0;
     for (const Byte byte : EncodeAnsi(StringView(&character, 1))) code = code << 8 | byte;
-    return code;
+    return static_cast<std::uint16_t>(code);
 }
 
-std::uint32_t clsFontObject::CodeOf(char16_t character) const {
+std::uint16_t clsFontObject::CodeOf(char16_t character) const {
     return sJis_ ? AnsiCode(character) : character;
 }
 
@@ -84,16 +46,14 @@ String clsFontObject::FontMap() const {
     return map;
 }
 
-void clsFontObject::AddGlyph(char16_t character, const GlyphOutlineRecord& outline) {
-    Glyph glyph{character, CodeOf(character), {}};
-    glyph.Data.CellIncX = outline.CellIncX;
-    glyph.Data.tagShapeRecords = std::make_shared<clsSWFTShapeRecords>();
-    clsSWFTShapeRecords& records = *glyph.Data.tagShapeRecords;
-    records.colShapeRecords.reserve(RecordCount(outline));
-    records.SetFill0(1);
-    for (const OutlineContour& contour : outline.Contours) DrawContour(records, contour);
+void clsFontObject::AddGlyph(char16_t character, const GlyphOutlineRecord& record) {
+    Glyph glyph{{}, character, CodeOf(character)};
+    glyph.Data.CellIncX = record.CellIncX;
+    glyph.Data.ShapeBegin = shapes_.size();
+    AddGlyphShape(record.Outline, shapes_);
+    glyph.Data.ShapeSize = static_cast<std::uint32_t>(shapes_.size() - glyph.Data.ShapeBegin);
     sorted_ = sorted_ && (glyphs_.empty() || glyphs_.back().Code <= glyph.Code);
-    glyphs_.push_back(std::move(glyph));
+    glyphs_.push_back(glyph);
     positions_[character] = GlyphCount();
 }
 

@@ -1,18 +1,19 @@
 #pragma once
 
-#include <memory>
 #include <vector>
 
 #include "platform/fonts.h"
-#include "swf/tags/clsSWFTShapeRecords.h"
+#include "swf/mdlSWFTag.h"
 
 namespace tamber {
 
-/// One glyph of an embedded font, in units of a cell of 1024.
+/// One glyph of an embedded font.
 class clsFontData {
 public:
-    std::shared_ptr<clsSWFTShapeRecords> tagShapeRecords;
-    /// Advance to the next glyph.
+    /// Where its shape lies among those of the font, bytes.
+    std::size_t ShapeBegin = 0;
+    std::uint32_t ShapeSize = 0;
+    /// Advance to the next glyph, units of a cell of 1024.
     Long CellIncX = 0;
 };
 
@@ -32,6 +33,10 @@ public:
         Sort();
         return glyphs_.at(static_cast<std::size_t>(index - 1)).Data;
     }
+    /// Shape of such a glyph, as AddGlyphShape makes it.
+    ByteView Shape(const clsFontData& glyph) const {
+        return ByteView(shapes_).subspan(glyph.ShapeBegin, glyph.ShapeSize);
+    }
     /// Characters are in the order of code page 932. A change sorts them anew.
     bool blSJis() const { return sJis_; }
     void blSJis(bool value);
@@ -47,20 +52,23 @@ public:
         return positions_[character];
     }
     /// Embeds a character, which must not be there yet.
-    void AddGlyph(char16_t character, const GlyphOutlineRecord& outline);
+    void AddGlyph(char16_t character, const GlyphOutlineRecord& record);
 
 private:
     struct Glyph {
-        char16_t Character = 0;
-        std::uint32_t Code = 0;
         clsFontData Data;
+        char16_t Character = 0;
+        /// In the order at hand.
+        std::uint16_t Code = 0;
     };
 
-    std::uint32_t CodeOf(char16_t character) const;
+    std::uint16_t CodeOf(char16_t character) const;
     /// Puts glyphs that came since into their places.
     void Sort() const;
 
     mutable std::vector<Glyph> glyphs_;
+    /// Of all glyphs, in the order in which they came.
+    Bytes shapes_;
     /// Of every character, in `glyphs_` from 1.
     mutable std::vector<Long> positions_ = std::vector<Long>(0x10000);
     mutable bool sorted_ = true;
@@ -69,6 +77,6 @@ private:
 };
 
 /// Code of a character in code page 932, one byte or two.
-std::uint32_t AnsiCode(char16_t character);
+std::uint16_t AnsiCode(char16_t character);
 
 }  // namespace tamber

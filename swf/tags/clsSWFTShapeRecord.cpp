@@ -1,82 +1,12 @@
 #include "swf/tags/clsSWFTShapeRecord.h"
 
 #include <algorithm>
-#include <bit>
+
+#include "swf/tags/ShapeEdge.h"
 
 namespace tamber {
 
 namespace {
-
-constexpr Long MaxEdgeBits = 17;
-/// Bits of the longest edge record.
-constexpr std::size_t LongestEdge = 6 + 4 * MaxEdgeBits;
-
-Long ClampDelta(Long delta, Long width) {
-    if (width < MaxEdgeBits) return delta;
-    return std::clamp(delta, -0x10000, 0xFFFF);
-}
-
-/// Difference of two places, wrapped as the 32-bit stream holds it.
-Long Delta(Long to, Long from) {
-    return static_cast<Long>(static_cast<std::uint32_t>(to) - static_cast<std::uint32_t>(from));
-}
-
-/// Bits that a number has beside its sign; those of several are joined by "or".
-std::uint32_t Magnitude(Long value) {
-    return static_cast<std::uint32_t>(value ^ (value >> 31));
-}
-
-/// Width of the fields of an edge: at least 3, which the second bit stands for.
-Long EdgeWidth(std::uint32_t magnitudes) {
-    return static_cast<Long>(std::bit_width(magnitudes | 2u)) + 1;
-}
-
-std::uint64_t Field(Long value, Long width) {
-    return static_cast<std::uint32_t>(value) & ((std::uint64_t{1} << width) - 1);
-}
-
-inline void SaveEdge(const clsSWFTShapeStraightEdge& edge, ShapePen& pen, mdlSWFTag::BitRun& run) {
-    const Long dx = Delta(edge.DrawX, pen.X);
-    const Long dy = Delta(edge.DrawY, pen.Y);
-    const Long width = std::min(EdgeWidth(Magnitude(dx) | Magnitude(dy)), MaxEdgeBits);
-    // An edge, straight, its width, and whether it has both directions.
-    const std::uint64_t head = 3u << 4 | static_cast<std::uint64_t>(width - 2);
-    if (dx != 0 && dy != 0) {
-        const std::uint64_t fields =
-            Field(ClampDelta(dx, width), width) << width | Field(ClampDelta(dy, width), width);
-        run.Put(7 + 2 * width, (head << 1 | 1) << (2 * width) | fields);
-    } else {
-        const bool vertical = dy != 0;
-        run.Put(8 + width, (head << 2 | (vertical ? 1u : 0u)) << width |
-                               Field(ClampDelta(vertical ? dy : dx, width), width));
-    }
-    pen.X = edge.DrawX;
-    pen.Y = edge.DrawY;
-}
-
-/// False, with nothing written, for a curve whose fields are wider than a record can tell.
-inline bool SaveEdge(const clsSWFTShapeCurveEdge& edge, ShapePen& pen, mdlSWFTag::BitRun& run) {
-    const Long cx = Delta(edge.ControlX, pen.X);
-    const Long cy = Delta(edge.ControlY, pen.Y);
-    const Long ax = Delta(edge.AnchorX, edge.ControlX);
-    const Long ay = Delta(edge.AnchorY, edge.ControlY);
-    const Long width = EdgeWidth(Magnitude(cx) | Magnitude(cy) | Magnitude(ax) | Magnitude(ay));
-    const std::uint64_t head = 2u << 4 | static_cast<std::uint64_t>(width - 2);
-    const std::uint64_t control = Field(cx, width) << width | Field(cy, width);
-    const std::uint64_t anchor = Field(ax, width) << width | Field(ay, width);
-    constexpr Long WidestAtOnce = 12;
-    if (width <= WidestAtOnce) {
-        run.Put(6 + 4 * width, (head << (2 * width) | control) << (2 * width) | anchor);
-    } else if (width <= MaxEdgeBits) {
-        run.Put(6 + 2 * width, head << (2 * width) | control);
-        run.Put(2 * width, anchor);
-    } else {
-        return false;
-    }
-    pen.X = edge.AnchorX;
-    pen.Y = edge.AnchorY;
-    return true;
-}
 
 Long Middle(Long a, Long b) {
     return static_cast<Long>((std::int64_t{a} + b) / 2);
@@ -85,8 +15,8 @@ Long Middle(Long a, Long b) {
 /// A curve too long for one record, as two halves, each again in halves as long as it must be.
 void SaveLongCurve(const clsSWFTShapeCurveEdge& edge, ShapePen& pen) {
     {
-        mdlSWFTag::BitRun run(LongestEdge);
-        if (SaveEdge(edge, pen, run)) return;
+        mdlSWFTag::StreamRun run(shape_edge::LongestRecord);
+        if (shape_edge::Save(edge, pen, run)) return;
     }
     const Long startX = Middle(pen.X, edge.ControlX);
     const Long startY = Middle(pen.Y, edge.ControlY);
@@ -99,26 +29,27 @@ void SaveLongCurve(const clsSWFTShapeCurveEdge& edge, ShapePen& pen) {
 /// A curve too long for one record, its distances cut: both states of a morph need as many edges.
 void SaveCutCurve(const clsSWFTShapeCurveEdge& edge, ShapePen& pen) {
     const auto cut = [](Long from, Long to) {
-        return from + std::clamp<Long>(Delta(to, from), -0x10000, 0xFFFF);
+        return from + std::clamp(shape_edge::Delta(to, from), shape_edge::FarthestBack,
+                                 shape_edge::Farthest);
     };
     clsSWFTShapeCurveEdge shorter;
     shorter.ControlX = cut(pen.X, edge.ControlX);
     shorter.ControlY = cut(pen.Y, edge.ControlY);
     shorter.AnchorX = cut(shorter.ControlX, edge.AnchorX);
     shorter.AnchorY = cut(shorter.ControlY, edge.AnchorY);
-    mdlSWFTag::BitRun run(LongestEdge);
-    SaveEdge(shorter, pen, run);
+    mdlSWFTag::StreamRun run(shape_edge::LongestRecord);
+    shape_edge::Save(shorter, pen, run);
 }
 
 /// Writes edges up to the first curve that is too long, and returns how many.
 std::size_t SaveBlock(std::span<const clsSWFTShapeRecord> edges, ShapePen& pen) {
-    mdlSWFTag::BitRun run(edges.size() * LongestEdge);
+    mdlSWFTag::StreamRun run(edges.size() * shape_edge::LongestRecord);
     ShapePen at = pen;
     std::size_t done = 0;
     for (; done < edges.size(); ++done) {
         if (const auto* line = std::get_if<clsSWFTShapeStraightEdge>(&edges[done]))
-            SaveEdge(*line, at, run);
-        else if (!SaveEdge(*std::get_if<clsSWFTShapeCurveEdge>(&edges[done]), at, run))
+            shape_edge::Save(*line, at, run);
+        else if (!shape_edge::Save(*std::get_if<clsSWFTShapeCurveEdge>(&edges[done]), at, run))
             break;
     }
     pen = at;

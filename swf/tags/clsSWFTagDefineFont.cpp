@@ -15,6 +15,8 @@ constexpr Long LanguageLatin = 1;
 constexpr Long LanguageJapanese = 2;
 constexpr Long Descent = 1024;
 constexpr std::size_t LongestName = 255;
+/// The two bytes of a RECT of four zeros: a width of 1 in five bits, four fields of a bit, padding.
+constexpr Long EmptyRect = 0x0008;
 
 bool IsDevice(StringView name) {
     return name.starts_with(u'_');
@@ -57,20 +59,16 @@ void clsSWFTagDefineFont::SaveName() const {
     mdlSWFTag::SetByteArray(name);
 }
 
-void clsSWFTagDefineFont::SaveGlyphs() const {
+void clsSWFTagDefineFont::SaveGlyphs(Long offsetBytes, bool withEnd) const {
     const Long count = FontObject->GlyphCount();
-    const std::size_t table = mdlSWFTag::swfBytePos();
-    const auto patch = [table](Long entry) {
-        mdlSWFTag::PatchBytes(table + static_cast<std::size_t>(entry) * 4, 4,
-                              static_cast<Long>(mdlSWFTag::swfBytePos() - table));
-    };
-    for (Long i = 0; i <= count; ++i) mdlSWFTag::SetBytes(4, 0);
+    std::size_t offset = static_cast<std::size_t>((count + (withEnd ? 1 : 0)) * offsetBytes);
     for (Long i = 1; i <= count; ++i) {
-        patch(i - 1);
-        FontObject->FontData(i).tagShapeRecords->Save(1, 0, 3);
-        mdlSWFTag::SetAlign();
+        mdlSWFTag::SetBytes(offsetBytes, static_cast<Long>(offset));
+        offset += FontObject->FontData(i).ShapeSize;
     }
-    patch(count);
+    if (withEnd) mdlSWFTag::SetBytes(offsetBytes, static_cast<Long>(offset));
+    for (Long i = 1; i <= count; ++i)
+        mdlSWFTag::SetByteArray(FontObject->Shape(FontObject->FontData(i)));
 }
 
 void clsSWFTagDefineFont::SaveCodes() const {
@@ -87,24 +85,32 @@ void clsSWFTagDefineFont::SaveLayout() const {
     const Long count = FontObject->GlyphCount();
     for (Long i = 1; i <= count; ++i)
         mdlSWFTag::SetBytes(2, FontObject->FontData(i).CellIncX + FontCharSpace);
-    for (Long i = 1; i <= count; ++i) mdlSWFTag::SetRect(0, 0, 0, 0);
+    for (Long i = 1; i <= count; ++i) mdlSWFTag::SetBytes(2, EmptyRect);
     mdlSWFTag::SetBytes(2, 0);
 }
 
-void clsSWFTagDefineFont::Save() {
-    if (!FontObject || (FontObject->GlyphCount() == 0 && !IsDevice(FontName))) return;
-    const std::size_t body = mdlSWFTag::BeginTag(TagNum());
-    mdlSWFTag::SetBytes(2, ID);
+void clsSWFTagDefineFont::SaveFont2() const {
     SaveFlags();
     SaveName();
     mdlSWFTag::SetBytes(2, FontObject->GlyphCount());
     if (FontObject->GlyphCount() > 0) {
-        SaveGlyphs();
+        SaveGlyphs(4, true);
         SaveCodes();
         SaveLayout();
     } else {
         mdlSWFTag::SetBytes(2, 2);
     }
+}
+
+void clsSWFTagDefineFont::Save() {
+    if (TagNum() < 0 || !FontObject) return;
+    if (FontObject->GlyphCount() == 0 && !IsDevice(FontName)) return;
+    const std::size_t body = mdlSWFTag::BeginTag(TagNum());
+    mdlSWFTag::SetBytes(2, ID);
+    if (Ver == 1)
+        SaveGlyphs(2, false);
+    else
+        SaveFont2();
     mdlSWFTag::EndTag(body);
 }
 

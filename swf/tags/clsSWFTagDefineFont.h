@@ -5,11 +5,12 @@
 
 namespace tamber {
 
-/// DefineFont2: identifier, flags, language, name, offsets, glyph shapes, codes, and the layout
-/// with the ascent at 0 and the descent at 1024, since glyphs are measured from the top of their
-/// cell.
+/// DefineFont (`Ver` 1): identifier, offsets and glyph shapes alone. DefineFont2: identifier,
+/// flags, language, name, offsets, glyph shapes, codes, and the layout with the ascent at 0 and the
+/// descent at 1024, since glyphs are measured from the top of their cell.
 class clsSWFTagDefineFont : public clsSWFTag {
 public:
+    Long Ver = 2;
     Long ID = 0;
     bool Italic = false;
     bool Bold = false;
@@ -20,15 +21,21 @@ public:
     /// Added to every advance of the layout table.
     Long FontCharSpace = 16;
 
-    Long TagNum() const override { return TagCode::DefineFont2; }
+    /// -1 for a `Ver` that there is not.
+    Long TagNum() const override {
+        return Ver == 1 ? TagCode::DefineFont : Ver == 2 ? TagCode::DefineFont2 : -1;
+    }
     /// A font without glyphs that is no device font writes nothing.
     void Save() override;
 
 private:
     bool HasWideCodes() const;
+    void SaveFont2() const;
     void SaveFlags() const;
     void SaveName() const;
-    void SaveGlyphs() const;
+    /// Offsets from the table's start, so many bytes each, of the glyphs and of what is behind them
+    /// where `withEnd` is set; then the shapes.
+    void SaveGlyphs(Long offsetBytes, bool withEnd) const;
     void SaveCodes() const;
     void SaveLayout() const;
 };

@@ -45,8 +45,9 @@ void clsSWFTagDefineText::SaveLine(const TextLayout::Line& line, const TextLayou
     mdlSWFTag::SetAlign();
     mdlSWFTag::SetBytes(1, TextRecord | AllStyles);
     mdlSWFTag::SetBytes(2, FontID);
-    for (const Long part : {Long{FontColorRed}, Long{FontColorGreen}, Long{FontColorBlue}, Opaque})
+    for (const Byte part : {FontColorRed, FontColorGreen, FontColorBlue})
         mdlSWFTag::SetBytes(1, part);
+    if (Ver != 1) mdlSWFTag::SetBytes(1, Opaque);
     mdlSWFTag::SetBytes(2, StartOf(line, layout));
     mdlSWFTag::SetBytes(2, line.Y);
     mdlSWFTag::SetBytes(2, Format.FontSize);

@@ -5,15 +5,17 @@
 
 namespace tamber {
 
-/// DefineText2: identifier, bounds, matrix, widths of the fields, then a record a line: flags,
-/// font, colour, place, size, and index and advance of each glyph. The layout is made at `Save`,
-/// when the glyphs of the font have their final places.
+/// DefineText (`Ver` 1), whose colours have no opacity, and DefineText2: identifier, bounds,
+/// matrix, widths of the fields, then a record a line: flags, font, colour, place, size, and index
+/// and advance of each glyph. The layout is made at `Save`, when the glyphs of the font have their
+/// final places.
 class clsSWFTagDefineText : public clsSWFTag {
 public:
     static constexpr Long Left = 0;
     static constexpr Long Right = 1;
     static constexpr Long Centre = 2;
 
+    Long Ver = 2;
     Long ID = 0;
     Long FontID = 0;
     TextFormat Format;
@@ -28,7 +30,7 @@ public:
     /// Every line end becomes LF.
     void Text(StringView text) { text_ = WithLineFeeds(text); }
 
-    Long TagNum() const override { return TagCode::DefineText2; }
+    Long TagNum() const override { return Ver == 1 ? TagCode::DefineText : TagCode::DefineText2; }
     void Save() override;
 
 private:

@@ -25,15 +25,18 @@ const std::string PropGothicFile = FontFolder + "opentype/ipafont-gothic/ipagp.t
 const std::string SansFile = FontFolder + "truetype/dejavu/DejaVuSans.ttf";
 const std::string JunctionFile = FontFolder + "opentype/junction/Junction.otf";
 
-std::string ToText(const std::vector<OutlineContour>& contours) {
+/// Starts of contours, lines to points, and each curve by its control point and anchor.
+std::string ToText(const GlyphOutline& outline) {
     std::ostringstream out;
     const auto put = [&out](OutlinePoint point) { out << ' ' << point.X << ',' << point.Y; };
-    for (const OutlineContour& contour : contours) {
+    auto edge = outline.Edges.begin();
+    for (const OutlineContour& contour : outline.Contours) {
         out << " M";
         put(contour.Start);
-        for (const OutlineCurve& curve : contour.Curves) {
-            out << (curve.Type == OutlineCurve::Spline ? " S" : " L");
-            std::ranges::for_each(curve.Points, put);
+        for (Long i = 0; i < contour.EdgeCount; ++i, ++edge) {
+            if (edge->Curved || i == 0 || (edge - 1)->Curved) out << (edge->Curved ? " S" : " L");
+            if (edge->Curved || edge->Control != edge->Anchor) put(edge->Control);
+            put(edge->Anchor);
         }
     }
     return out.str();
@@ -73,7 +76,7 @@ TEST_P(Outlines, AreThePointsOfTheFaceInTheCell) {
     const GlyphOutlineRecord record = Glyph(GetParam().Character, GetParam().Font);
     EXPECT_EQ(record.CellIncX, GetParam().Advance);
     EXPECT_EQ(record.Ascent, GetParam().Ascent);
-    EXPECT_EQ(ToText(record.Contours), GetParam().Outline);
+    EXPECT_EQ(ToText(record.Outline), GetParam().Outline);
 }
 
 const std::string GothicMissing =
@@ -96,11 +99,12 @@ INSTANTIATE_TEST_SUITE_P(
         Expected{"Kanji", Gothic, u'丶', 952, 838,
                  " M 639,708 S 442,483 244,314 L 302,263 S 488,415 700,647"},
         Expected{"Blank", Gothic, u' ', 476, 838, ""},
-        Expected{"ImpliedMiddles", Sans, u'o', 538, 817,
-                 " M 269,391 S 206,391 132,491 132,577 S 132,663 205,762 269,762"
-                 " S 332,762 406,663 406,577 S 406,491 332,391 269,391"
-                 " M 269,324 S 372,324 490,458 490,577 S 490,695 372,829 269,829"
-                 " S 166,829 49,695 49,577 S 49,458 166,324 269,324"},
+        Expected{
+            "ImpliedMiddles", Sans, u'o', 538, 817,
+            " M 269,391 S 206,391 169,441 S 132,491 132,577 S 132,663 168,712 S 205,762 269,762"
+            " S 332,762 369,712 S 406,663 406,577 S 406,491 369,441 S 332,391 269,391"
+            " M 269,324 S 372,324 431,391 S 490,458 490,577 S 490,695 431,762 S 372,829 269,829"
+            " S 166,829 107,762 S 49,695 49,577 S 49,458 107,391 S 166,324 269,324"},
         Expected{"Composite", Sans, u'É', 556, 817,
                  " M 86,176 L 492,176 492,249 173,249 173,439 478,439 478,512 173,512 173,744"
                  " 500,744 500,817 86,817 M 311,1 L 391,1 293,115 227,115"},
@@ -130,7 +134,7 @@ TEST(Fonts, AHeightOfOneOrLessDoesNothing) {
     EXPECT_FALSE(GetCharOutline(record, u'i', {.FaceName = u"DejaVu Sans", .Height = 1}));
     EXPECT_EQ(record.Character, u'A');
     EXPECT_EQ(record.Font, before.Font);
-    EXPECT_EQ(ToText(record.Contours), GothicA);
+    EXPECT_EQ(ToText(record.Outline), GothicA);
 }
 
 struct Box {
@@ -146,10 +150,13 @@ struct Box {
             Right = std::max(Right, point.X);
             Bottom = std::max(Bottom, point.Y);
         };
-        for (const OutlineContour& contour : record.Contours) {
+        auto edge = record.Outline.Edges.begin();
+        for (const OutlineContour& contour : record.Outline.Contours) {
             add(contour.Start);
-            for (const OutlineCurve& curve : contour.Curves)
-                std::ranges::for_each(curve.Points, add);
+            for (Long i = 0; i < contour.EdgeCount; ++i, ++edge) {
+                add(edge->Control);
+                add(edge->Anchor);
+            }
         }
     }
 };
@@ -165,7 +172,7 @@ TEST(Fonts, SyntheticBoldWidensStrokesAndAdvanceByAPartOfTheEm) {
         const GlyphOutlineRecord thick = Glyph(character, bold);
         const Box before(plain);
         const Box after(thick);
-        EXPECT_EQ(thick.Contours.size(), plain.Contours.size());
+        EXPECT_EQ(thick.Outline.Contours.size(), plain.Outline.Contours.size());
         // Sharp corners reach farther.
         const Long most = character == u'i' || character == u'o' ? Gain + 1 : 4 * Gain;
         const Long wider = after.Right - after.Left - (before.Right - before.Left);
@@ -175,25 +182,27 @@ TEST(Fonts, SyntheticBoldWidensStrokesAndAdvanceByAPartOfTheEm) {
     }
     // The stem of "i", 160 font units, gains the same.
     const GlyphOutlineRecord thick = Glyph(u'i', bold);
-    ASSERT_EQ(thick.Contours.size(), 2u);
-    EXPECT_NEAR(thick.Contours[1].Curves[0].Points[0].X - thick.Contours[1].Start.X, 74 + Gain, 1);
+    ASSERT_EQ(thick.Outline.Contours.size(), 2u);
+    const auto first = static_cast<std::size_t>(thick.Outline.Contours[0].EdgeCount);
+    EXPECT_NEAR(thick.Outline.Edges[first].Anchor.X - thick.Outline.Contours[1].Start.X, 74 + Gain,
+                1);
 }
 
 TEST(Fonts, ARecordFilledAgainHoldsOnlyTheNewOutline) {
     GlyphOutlineRecord record;
     for (const char16_t character : {u'漢', u'A', u' ', u'龍', u'A'}) {
         ASSERT_TRUE(GetCharOutline(record, character, Gothic));
-        EXPECT_EQ(ToText(record.Contours), ToText(Glyph(character, Gothic).Contours));
+        EXPECT_EQ(ToText(record.Outline), ToText(Glyph(character, Gothic).Outline));
     }
-    EXPECT_EQ(ToText(record.Contours), GothicA);
+    EXPECT_EQ(ToText(record.Outline), GothicA);
     // The record's own font may be the one asked for.
     ASSERT_TRUE(GetCharOutline(record, u' ', record.Font));
-    EXPECT_TRUE(record.Contours.empty());
+    EXPECT_TRUE(record.Outline.Contours.empty());
     EXPECT_EQ(record.CellIncX, 476);
 }
 
 TEST(Fonts, AnchorsOfOnePointAreNoContours) {
-    EXPECT_EQ(Glyph(u'u', Sans).Contours.size(), 1u);
+    EXPECT_EQ(Glyph(u'u', Sans).Outline.Contours.size(), 1u);
 }
 
 TEST(Fonts, OnlyAnExactNameIsInstalled) {
@@ -222,8 +231,8 @@ TEST(Fonts, TheListHoldsEachNameOnceAndInJapaneseWhereThereIsOne) {
 TEST(Fonts, ThreadsAndMoreFontsThanStayOpenGiveTheSameOutlines) {
     const auto draw = [] {
         for (char16_t name = u'a'; name <= u'z'; ++name) {
-            EXPECT_EQ(ToText(Glyph(u'A', {.FaceName = String(3, name)}).Contours), GothicA);
-            EXPECT_EQ(ToText(Glyph(u'漢', Sans).Contours), SansMissing);
+            EXPECT_EQ(ToText(Glyph(u'A', {.FaceName = String(3, name)}).Outline), GothicA);
+            EXPECT_EQ(ToText(Glyph(u'漢', Sans).Outline), SansMissing);
         }
     };
     std::thread other(draw);
@@ -291,10 +300,10 @@ std::size_t TableOf(const Bytes& file, std::string_view tag) {
 TEST_F(OwnFonts, WithoutAnyThereIsNoOutlineAndOneName) {
     GlyphOutlineRecord record;
     record.CellIncX = 5;
-    record.Contours.resize(1);
+    record.Outline.Contours.resize(1);
     EXPECT_FALSE(GetCharOutline(record, u'A', Gothic));
     EXPECT_EQ(record.CellIncX, 0);
-    EXPECT_TRUE(record.Contours.empty());
+    EXPECT_TRUE(record.Outline.Contours.empty());
     EXPECT_FALSE(FontInstalled(u"IPAGothic"));
     EXPECT_EQ(InstalledFonts(false), std::vector<String>{u"ＭＳ ゴシック"});
     EXPECT_EQ(InstalledFonts(true), std::vector<String>{u"ＭＳ ゴシック"});
@@ -321,7 +330,7 @@ TEST_F(OwnFonts, AFamilysOwnItalicIsNotSlantedAndAMissingBoldIsAdded) {
     LogFont font = Junction;
     const GlyphOutlineRecord plain = Glyph(u'l', font);
     font.Italic = true;
-    EXPECT_EQ(ToText(Glyph(u'l', font).Contours), ToText(plain.Contours));
+    EXPECT_EQ(ToText(Glyph(u'l', font).Outline), ToText(plain.Outline));
     font.Bold = true;
     const GlyphOutlineRecord both = Glyph(u'l', font);
     // 1000 / 24 font units are 38.2 of the cell.
@@ -341,7 +350,7 @@ TEST_F(OwnFonts, WithoutWindowsMetricsThoseOfTheHorizontalHeaderCount) {
 
 TEST_F(OwnFonts, AFileCutAnywhereGivesItsOwnOrTheNextFacesOutline) {
     Install(SansFile);
-    const std::string stem = ToText(Glyph(u'l', Sans).Contours);
+    const std::string stem = ToText(Glyph(u'l', Sans).Outline);
     for (const std::string& source : {JunctionFile, PropGothicFile}) {
         const Bytes whole = Read(source);
         const LogFont font{.FaceName = source == JunctionFile ? u"Junction" : u"IPAPGothic"};
@@ -359,11 +368,11 @@ TEST_F(OwnFonts, AFileCutAnywhereGivesItsOwnOrTheNextFacesOutline) {
                             static_cast<std::ptrdiff_t>(cut == 0 ? 3 : whole.size() * cut / Cuts)),
                   name);
             if (own.empty()) own = "cut";
-            const std::string outline = ToText(Glyph(u'l', font).Contours);
+            const std::string outline = ToText(Glyph(u'l', font).Outline);
             substituted += outline == stem;
             if (outline != stem) own = outline;
         }
-        const std::string intact = ToText(Glyph(u'l', font).Contours);
+        const std::string intact = ToText(Glyph(u'l', font).Outline);
         EXPECT_NE(intact, stem);
         EXPECT_TRUE(own == "cut" || own == intact);
         EXPECT_GE(substituted, 8);
@@ -372,10 +381,10 @@ TEST_F(OwnFonts, AFileCutAnywhereGivesItsOwnOrTheNextFacesOutline) {
 
 TEST_F(OwnFonts, AFaceReadOnceOutlivesItsFile) {
     Install(Read(JunctionFile), "cut.otf");
-    const std::string before = ToText(Glyph(u'l', Junction).Contours);
+    const std::string before = ToText(Glyph(u'l', Junction).Outline);
     fs::resize_file(folder / "cut.otf", 0);
-    EXPECT_EQ(ToText(Glyph(u'l', Junction).Contours), before);
-    EXPECT_FALSE(Glyph(u'o', Junction).Contours.empty());
+    EXPECT_EQ(ToText(Glyph(u'l', Junction).Outline), before);
+    EXPECT_FALSE(Glyph(u'o', Junction).Outline.Contours.empty());
 }
 
 TEST_F(OwnFonts, ADamagedGlyphGivesAnEmptyOutline) {
@@ -388,7 +397,7 @@ TEST_F(OwnFonts, ADamagedGlyphGivesAnEmptyOutline) {
     GlyphOutlineRecord record;
     EXPECT_FALSE(GetCharOutline(record, u'A', Sans));
     EXPECT_EQ(record.Character, u'A');
-    EXPECT_TRUE(record.Contours.empty());
+    EXPECT_TRUE(record.Outline.Contours.empty());
     EXPECT_EQ(record.CellIncX, 0);
 }
 
@@ -466,20 +475,20 @@ TEST(Fonts, CubicsOfAFaceBecomeQuadraticsThatFollowThem) {
     const GlyphOutlineRecord record = Glyph(u'o', Junction);
     EXPECT_EQ(record.CellIncX, 538);
     EXPECT_EQ(record.Ascent, 772);
-    ASSERT_EQ(record.Contours.size(), 2u);
-    EXPECT_EQ(record.Contours[0].Start, (OutlinePoint{50, 520}));
+    ASSERT_EQ(record.Outline.Contours.size(), 2u);
+    EXPECT_EQ(record.Outline.Contours[0].Start, (OutlinePoint{50, 520}));
     std::vector<FinePoint> drawn;
     const auto fine = [](OutlinePoint point) {
         return FinePoint{static_cast<double>(point.X), static_cast<double>(point.Y)};
     };
-    FinePoint pen = fine(record.Contours[0].Start);
-    for (const OutlineCurve& curve : record.Contours[0].Curves) {
-        ASSERT_EQ(curve.Type, OutlineCurve::Spline);
-        ASSERT_EQ(curve.Points.size(), 2u);
+    FinePoint pen = fine(record.Outline.Contours[0].Start);
+    for (Long i = 0; i < record.Outline.Contours[0].EdgeCount; ++i) {
+        const OutlineEdge& edge = record.Outline.Edges[static_cast<std::size_t>(i)];
+        ASSERT_TRUE(edge.Curved);
         for (int sample = 0; sample < Samples; ++sample)
-            drawn.push_back(QuadraticAt(pen, fine(curve.Points[0]), fine(curve.Points[1]),
+            drawn.push_back(QuadraticAt(pen, fine(edge.Control), fine(edge.Anchor),
                                         static_cast<double>(sample) / Samples));
-        pen = fine(curve.Points[1]);
+        pen = fine(edge.Anchor);
     }
     EXPECT_EQ(Distance(pen, {50, 520}), 0);
 
@@ -531,12 +540,11 @@ TEST_P(PointsOfAFace, MakeAContour) {
     outline.points = drawn.Points.data();
     outline.tags = reinterpret_cast<decltype(outline.tags)>(drawn.Tags.data());
     outline.contours = reinterpret_cast<decltype(outline.contours)>(&end);
-    OutlineStore store;
-    std::vector<OutlineContour> contours;
-    const bool made = AddContours(outline, {.CellHeight = 2048, .Ascent = 800}, store, contours);
-    EXPECT_EQ(made, !drawn.Outline.empty());
+    GlyphOutline made;
+    EXPECT_EQ(CellOutline().Read(outline, {.CellHeight = 2048, .Ascent = 800}, made),
+              !drawn.Outline.empty());
     if (!drawn.Outline.empty()) {
-        EXPECT_EQ(ToText(contours), drawn.Outline);
+        EXPECT_EQ(ToText(made), drawn.Outline);
     }
 }
 
@@ -555,16 +563,51 @@ INSTANTIATE_TEST_SUITE_P(
         Drawn{"NoPointOnTheCurve",
               {0, 0, 0, 0},
               {{0, 0}, {40, 0}, {40, 40}, {0, 40}},
-              " M 0,790 S 0,800 20,800 20,780 0,780 0,790"},
+              " M 0,790 S 0,800 10,800 S 20,800 20,790 S 20,780 10,780 S 0,780 0,790"},
         Drawn{"CubicBackToTheStart",
               {1, 2, 2},
               {{0, 0}, {20, 0}, {20, 0}},
               " M 0,800 S 15,800 0,800"},
+        Drawn{"CubicsAndLines",
+              {1, 1, 2, 2, 1, 2, 2, 1},
+              {{0, 0}, {8, 0}, {8, 0}, {8, 0}, {8, 0}, {8, 4}, {8, 8}, {8, 12}},
+              " M 0,800 L 4,800 S 4,800 4,800 S 4,797 4,794"},
+        Drawn{"AsFarAsThereIs",
+              {1, 1, 1},
+              {{0, 0}, {65534, 0}, {-65536, 67136}},
+              " M 0,800 L 32767,800 -32768,-32768"},
+        Drawn{"TooFarRight", {1, 1, 1}, {{0, 0}, {65536, 0}, {0, 20}}, ""},
+        Drawn{"TooFarUp", {1, 1, 1}, {{0, 0}, {20, 0}, {0, 67138}}, ""},
         Drawn{"OneCubicControl", {1, 2, 1}, {{0, 0}, {20, 0}, {20, 20}}, ""},
         Drawn{"ThreeCubicControls", {1, 2, 2, 2}, {{0, 0}, {20, 0}, {20, 20}, {0, 20}}, ""},
         Drawn{"BeginsOnACubicControl", {2, 2, 1}, {{0, 0}, {20, 0}, {20, 20}}, ""},
         Drawn{"QuadraticIntoCubic", {1, 0, 2, 2}, {{0, 0}, {20, 0}, {20, 20}, {0, 20}}, ""}),
     [](const auto& drawn) { return std::string(drawn.param.Name); });
+
+TEST(Fonts, ContoursBehindALongCubicHaveTheirRoom) {
+    // A loop that takes many quadratics, then a square; then contours that overlap.
+    std::vector<FT_Vector> points{{0, 0}, {6000, 2000}, {-4000, 2000}, {2000, 0},
+                                  {0, 0}, {20, 0},      {20, 20},      {0, 20}};
+    std::vector<char> tags{1, 2, 2, 1, 1, 1, 1, 1};
+    std::vector<short> ends{3, 7};
+    FT_Outline outline{};
+    outline.n_points = 8;
+    outline.n_contours = 2;
+    outline.points = points.data();
+    outline.tags = reinterpret_cast<decltype(outline.tags)>(tags.data());
+    outline.contours = reinterpret_cast<decltype(outline.contours)>(ends.data());
+    const CellPlacement placement{.CellHeight = 2048, .Ascent = 800};
+    GlyphOutline made;
+    ASSERT_TRUE(CellOutline().Read(outline, placement, made));
+    ASSERT_EQ(made.Contours.size(), 2u);
+    const auto loop = static_cast<std::size_t>(made.Contours[0].EdgeCount);
+    EXPECT_GT(loop, 4u);
+    EXPECT_EQ(made.Contours[1].EdgeCount, 3);
+    ASSERT_LE(loop + 3, made.Edges.size());
+    EXPECT_EQ(made.Edges[loop + 2].Anchor, (OutlinePoint{0, 790}));
+    ends = {7, 3};
+    EXPECT_FALSE(CellOutline().Read(outline, placement, made));
+}
 
 }  // namespace
 }  // namespace tamber

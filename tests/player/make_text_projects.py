@@ -49,3 +49,15 @@ FIELD = ["False", "True", "True", "False", "True", "False", "False", "v"]
 write("text-input", 6, [text(1, "", field=FIELD, embed="|", box=(160, 50), automatic=False)], ["0"], [placed(1, at)])
 write("text-field", 8, [text(1, "■■", field=FIELD, embed="■一", box=(160, 50), automatic=False, colour=(0, 0, 255))], ["0"],
       [placed(1, at)])
+
+# Half-width kana are half as wide: U+25A0 begins 2 x 18.59 pixels on, as behind one full-width character. The order of the codes
+# differs: A6 to DF come before all of two bytes below version 6, and behind kanji from it on.
+for version in (5, 7):
+    write(f"text-order-swf{version}", version, [text(1, "ｱ一■ア")], ["0"], [placed(1, at)])
+write("text-half-width", 6, [text(1, "ｰｰ■")], ["0"], [placed(1, at)])
+# One font is needed from frame 1 on, the other, bold, from frame 3 on.
+bold = text(2, "■").replace(",False,False,255,0,0,", ",True,False,0,0,255,")
+write("text-later", 6, [text(1, "■"), bold], ["0", "0"], [placed(1, at), placed(2, key(3, 4, 100, 20))])
+# Two lines in the player's own font, of which it is only known that an M is some 0.85 em wide and a line 1 to 1.5 em high.
+for version in (5, 6):
+    write(f"text-device-swf{version}", version, [text(1, "M\r\nM", font="_sans", size=40)], ["0"], [placed(1, at)])

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "swf/clsSWFAdmin.h"
+#include "swf/tags/GlyphShape.h"
 #include "swf/tags/clsSWFTagCSMTextSettings.h"
 #include "swf/tags/clsSWFTagDefineEditText.h"
 #include "swf/tags/clsSWFTagDefineFont.h"
@@ -9,16 +10,17 @@
 namespace tamber {
 namespace {
 
-/// A glyph that is a triangle with one curved side.
-GlyphOutlineRecord Triangle(Long advance) {
-    GlyphOutlineRecord outline;
-    outline.CellIncX = advance;
-    OutlineContour contour;
-    contour.Start = {0, 0};
-    contour.Curves.push_back({OutlineCurve::Lines, {{4, 0}}});
-    contour.Curves.push_back({OutlineCurve::Spline, {{4, 4}, {0, 4}, {0, 2}}});
-    outline.Contours.push_back(contour);
-    return outline;
+/// Bytes of bits that are told as 0 and 1; blanks stand between fields.
+Bytes Packed(std::string_view bits) {
+    Bytes bytes;
+    std::size_t count = 0;
+    for (const char bit : bits) {
+        if (bit == ' ') continue;
+        if (count % 8 == 0) bytes.push_back(0);
+        if (bit == '1') bytes.back() |= static_cast<Byte>(0x80 >> count % 8);
+        ++count;
+    }
+    return bytes;
 }
 
 GlyphOutlineRecord Blank(Long advance) {
@@ -40,18 +42,41 @@ Bytes Saved(clsSWFTag& tag, Long version) {
     return mdlSWFTag::TakeBuffer();
 }
 
-TEST(FontObject, splines_have_middles_and_contours_are_closed) {
-    clsFontObject font(u"Font_");
-    font.AddGlyph(u'a', Triangle(600));
-    const auto& records = font.FontData(1).tagShapeRecords->colShapeRecords;
-    ASSERT_EQ(records.size(), 5u);
-    const auto& first = std::get<clsSWFTShapeCurveEdge>(records[2]);
-    EXPECT_EQ((SwfPoint{first.AnchorX, first.AnchorY}), (SwfPoint{2, 4}));
-    const auto& second = std::get<clsSWFTShapeCurveEdge>(records[3]);
-    EXPECT_EQ((SwfPoint{second.ControlX, second.ControlY}), (SwfPoint{0, 4}));
-    const auto& close = std::get<clsSWFTShapeStraightEdge>(records[4]);
-    EXPECT_EQ((SwfPoint{close.DrawX, close.DrawY}), (SwfPoint{0, 0}));
-    EXPECT_EQ(font.FontData(1).CellIncX, 600);
+TEST(GlyphShape, has_a_fill_for_all_contours_and_lines_that_close_them) {
+    GlyphOutline outline;
+    // Open, with two curves; then closed.
+    outline.Contours = {{{0, 0}, 3}, {{1, 1}, 3}};
+    outline.Edges = {{{4, 0}, {4, 0}, false}, {{4, 4}, {2, 4}, true},  {{0, 4}, {0, 2}, true},
+                     {{5, 1}, {5, 1}, false}, {{1, 5}, {1, 5}, false}, {{1, 1}, {1, 1}, false}};
+    Bytes shapes{0xAB};
+    AddGlyphShape(outline, shapes);
+    const Bytes expected = Packed(
+        "10101011 0001 0000"
+        // Move and fill 0: width 1, the fill. Right by 4.
+        "000011 00001 0 0 1  11 0010 0 0 0100"
+        // By 0, 4, then -2, 0; by -2, 0, then 0, -2; up by 2.
+        "10 0010 0000 0100 1110 0000  10 0001 110 000 000 110  11 0001 0 1 110"
+        // Move: width 2. Right by 4; left and down by 4; up by 4.
+        "000001 00010 01 01  11 0010 0 0 0100  11 0010 1 1100 0100  11 0001 0 1 100"
+        "000000");
+    EXPECT_EQ(shapes, expected);
+}
+
+TEST(GlyphShape, holds_the_longest_edges) {
+    GlyphOutline outline;
+    outline.Contours = {{{-32768, 32767}, 2}};
+    outline.Edges = {{{32767, -32768}, {32767, -32768}, false},
+                     {{-32768, 32767}, {32767, 32767}, true}};
+    Bytes shapes;
+    AddGlyphShape(outline, shapes);
+    // Distances of 65535 take 17 bits.
+    const std::string forth = " 01111111111111111";
+    const std::string back = " 10000000000000001";
+    const std::string none = " 00000000000000000";
+    const Bytes expected =
+        Packed("0001 0000 000011 10000 1000000000000000 0111111111111111 1 11 1111 1" + forth +
+               back + " 10 1111" + back + forth + forth + none + " 11 1111 0 0" + back + "000000");
+    EXPECT_EQ(shapes, expected);
 }
 
 TEST(FontObject, keeps_characters_in_the_order_of_their_codes) {
@@ -114,6 +139,19 @@ TEST(DefineFont, has_the_told_bytes) {
     EXPECT_EQ(version5.size(), version6.size() - 1);
 }
 
+TEST(DefineFont, of_version_1_has_offsets_and_shapes_alone) {
+    clsSWFTagDefineFont tag;
+    tag.ID = 3;
+    tag.FontName = u"F";
+    tag.FontObject = FontOf(u"AB");
+    tag.Ver = 1;
+    EXPECT_EQ(Saved(tag, 5), (Bytes{0xBF, 0x02, 12, 0, 0, 0, 3, 0, 4, 0, 7, 0, 0x10, 0x0A, 0x00,
+                                    0x10, 0x0A, 0x00}));
+    tag.Ver = 3;
+    EXPECT_EQ(tag.TagNum(), -1);
+    EXPECT_TRUE(Saved(tag, 5).empty());
+}
+
 TEST(DefineFont, tells_a_device_font_by_its_name) {
     clsSWFTagDefineFont tag;
     tag.ID = 1;
@@ -163,6 +201,13 @@ TEST(DefineText, has_the_told_bytes) {
                          // Second line: at 0, two glyphs: 10 01100100, 00 01100100.
                          0x8F, 1, 0, 0x12, 0, 0, 255, 0, 0, 200, 0, 200, 0, 2, 0x99, 0x06, 0x40, 0};
     EXPECT_EQ(rest, expected);
+    // Version 1 has no opacity.
+    tag.Ver = 1;
+    const Bytes opaque = Saved(tag, 6);
+    EXPECT_EQ(opaque[0] | opaque[1] << 8, 11 << 6 | 63);
+    EXPECT_EQ(Bytes(opaque.begin() + 19, opaque.begin() + 29),
+              (Bytes{0x8F, 1, 0, 0x12, 0, 0, 100, 0, 0, 0}));
+    EXPECT_EQ(opaque.size(), bytes.size() - 2);
 }
 
 TEST(DefineText, a_line_beyond_a_records_count_goes_on_in_another) {
@@ -188,6 +233,41 @@ TEST(DefineText, a_line_beyond_a_records_count_goes_on_in_another) {
     EXPECT_EQ(counts(7), (std::vector<int>{255, 45}));
     tag.FontObject = nullptr;
     EXPECT_TRUE(Saved(tag, 6).empty());
+}
+
+/// Glyph counts of the records of a text without line ends whose glyphs take so many bits each.
+std::size_t CountedGlyphs(const Bytes& tag, std::size_t bitsPerGlyph) {
+    const std::size_t last = tag.size() - 1;
+    std::size_t at = 0;
+    while (tag[at] != 0x8F) ++at;
+    std::size_t glyphs = 0;
+    for (at += 13; at < last; ++at) {
+        glyphs += tag[at];
+        at += 1 + (tag[at] * bitsPerGlyph + 7) / 8;
+    }
+    return glyphs;
+}
+
+TEST(DefineText, of_any_content_is_a_plain_tag) {
+    constexpr std::size_t Million = 1'000'000;
+    clsSWFTagDefineText tag;
+    tag.Format = {1024, 0, 0};
+    tag.FontObject = FontOf(u"a", 7);
+    tag.Text(String(Million, u'a'));
+    // An index of one bit and an advance of four.
+    EXPECT_EQ(CountedGlyphs(Saved(tag, 6), 5), Million);
+    EXPECT_EQ(CountedGlyphs(Saved(tag, 8), 5), Million);
+    // As many empty lines have no records.
+    tag.Text(String(Million, u'\n'));
+    EXPECT_LT(Saved(tag, 6).size(), 32u);
+    tag.Text(u"");
+    // Bounds 0 to 0 and 0 to 1024 in 12 bits each, no records.
+    EXPECT_EQ(Saved(tag, 6),
+              (Bytes{0x7F, 0x08, 14, 0, 0, 0, 0, 0, 0x60, 0, 0, 0, 0, 0x20, 0, 0x02, 0, 1, 4, 0}));
+    // A character that the font lacks takes no room, and a font may lack all.
+    tag.FontObject = std::make_shared<clsFontObject>(u"Font_");
+    tag.Text(u"ab");
+    EXPECT_EQ(CountedGlyphs(Saved(tag, 6), 2), 2u);
 }
 
 TEST(DefineEditText, has_the_told_bytes) {
