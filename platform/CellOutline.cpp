@@ -30,6 +30,13 @@ OutlinePoint Placed(FinePoint point, Long ascent) {
     return {Rounded(point.X), static_cast<Long>(y)};
 }
 
+/// A point of the face in units of the cell, y upwards, before it is rounded.
+FinePoint Scaled(const FT_Vector& point, const CellPlacement& placement) {
+    const double x = static_cast<Long>(point.x);
+    const double y = static_cast<Long>(point.y);
+    return {CellUnits(x + placement.Shear * y, placement), CellUnits(y, placement)};
+}
+
 FinePoint Middle(FinePoint a, FinePoint b) {
     return {(a.X + b.X) / 2, (a.Y + b.Y) / 2};
 }
@@ -42,9 +49,13 @@ OutlinePoint Middle(OutlinePoint a, OutlinePoint b) {
 /// Reads the closed runs of points of a face.
 class ContourReader {
 public:
-    ContourReader(const FT_Outline& source, Long ascent, std::span<const FinePoint> fine,
+    ContourReader(const FT_Outline& source, const CellPlacement& placement,
                   std::span<const OutlinePoint> placed, GlyphOutline& outline)
-        : tags_(source.tags), ascent_(ascent), fine_(fine), placed_(placed), outline_(outline) {
+        : tags_(source.tags),
+          points_(source.points),
+          placement_(placement),
+          placed_(placed),
+          outline_(outline) {
         MakeRoom(placed.size());
     }
 
@@ -53,6 +64,7 @@ public:
 
 private:
     int Kind(std::size_t i) const { return FT_CURVE_TAG(tags_[i]); }
+    FinePoint Fine(std::size_t i) const { return Scaled(points_[i], placement_); }
     /// For so many edges more than those read.
     void MakeRoom(std::size_t edges) {
         if (outline_.Edges.size() < count_ + edges) outline_.Edges.resize(count_ + edges);
@@ -65,8 +77,8 @@ private:
     bool ReadCubic();
 
     decltype(FT_Outline::tags) tags_;
-    const Long ascent_;
-    const std::span<const FinePoint> fine_;
+    decltype(FT_Outline::points) points_;
+    const CellPlacement& placement_;
     const std::span<const OutlinePoint> placed_;
     GlyphOutline& outline_;
     /// Edges read; behind them is room for one for each point that is left.
@@ -92,14 +104,14 @@ bool ContourReader::Read(std::size_t first, std::size_t end) {
 
 bool ContourReader::FindStart() {
     if (Kind(next_) == FT_CURVE_TAG_ON)
-        fineStart_ = fine_[next_++];
+        fineStart_ = Fine(next_++);
     else if (Kind(next_) != FT_CURVE_TAG_CONIC)
         return false;
     else if (Kind(end_ - 1) == FT_CURVE_TAG_ON)
-        fineStart_ = fine_[--end_];
+        fineStart_ = Fine(--end_);
     else
-        fineStart_ = Middle(fine_[next_], fine_[end_ - 1]);
-    start_ = Placed(fineStart_, ascent_);
+        fineStart_ = Middle(Fine(next_), Fine(end_ - 1));
+    start_ = Placed(fineStart_, placement_.Ascent);
     return true;
 }
 
@@ -134,32 +146,28 @@ bool ContourReader::ReadCubic() {
     if (i + 1 == end_ || Kind(i + 1) != FT_CURVE_TAG_CUBIC) return false;
     const bool last = i + 2 == end_;
     if (!last && Kind(i + 2) != FT_CURVE_TAG_ON) return false;
-    const auto pieces = CutCubic(fine_[i - 1], fine_[i], fine_[i + 1],
-                                 last ? fineStart_ : fine_[i + 2], CubicTolerance);
+    const auto pieces = CutCubic(Fine(i - 1), Fine(i), Fine(i + 1), last ? fineStart_ : Fine(i + 2),
+                                 CubicTolerance);
     MakeRoom(pieces.size() + placed_.size() - i);
     for (const QuadraticPiece& piece : pieces)
-        outline_.Edges[count_++] = {Placed(piece.Control, ascent_), Placed(piece.End, ascent_),
-                                    true};
+        outline_.Edges[count_++] = {Placed(piece.Control, placement_.Ascent),
+                                    Placed(piece.End, placement_.Ascent), true};
     next_ = last ? end_ : i + 3;
     return true;
 }
 
 }  // namespace
 
-/// The loops are of a form that a compiler makes vector code of.
+/// The loop is of a form that a compiler makes vector code of.
 bool CellOutline::PlacePoints(std::span<const FT_Vector> points, const CellPlacement& placement) {
-    fine_.resize(points.size());
-    std::ranges::transform(points, fine_.begin(), [&](const FT_Vector& point) {
-        const double x = static_cast<Long>(point.x);
-        const double y = static_cast<Long>(point.y);
-        return FinePoint{CellUnits(x + placement.Shear * y, placement), CellUnits(y, placement)};
-    });
     placed_.resize(points.size());
     // Of several numbers the "or" has the highest bit of the largest.
     constexpr std::uint32_t Farthest = GlyphOutlineRecord::Farthest;
     std::uint32_t reach = 0;
+    const CellPlacement own = placement;
+    OutlinePoint* placed = placed_.data();
     for (std::size_t i = 0; i < points.size(); ++i) {
-        const OutlinePoint point = placed_[i] = Placed(fine_[i], placement.Ascent);
+        const OutlinePoint point = placed[i] = Placed(Scaled(points[i], own), own.Ascent);
         reach |= static_cast<std::uint32_t>(point.X) + Farthest;
         reach |= static_cast<std::uint32_t>(point.Y) + Farthest;
     }
@@ -170,7 +178,7 @@ bool CellOutline::Read(const FT_Outline& source, const CellPlacement& placement,
                        GlyphOutline& outline) {
     if (!PlacePoints({source.points, static_cast<std::size_t>(source.n_points)}, placement))
         return false;
-    ContourReader reader(source, placement.Ascent, fine_, placed_, outline);
+    ContourReader reader(source, placement, placed_, outline);
     std::size_t first = 0;
     for (int i = 0; i < source.n_contours; ++i) {
         const std::size_t end = static_cast<std::size_t>(source.contours[i]) + 1;

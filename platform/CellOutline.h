@@ -38,9 +38,7 @@ private:
     /// False for points out of reach.
     bool PlacePoints(std::span<const FT_Vector> points, const CellPlacement& placement);
 
-    /// Points of the face in units of the cell, y upwards, before they are rounded; and in their
-    /// places. Kept for the next outline's.
-    std::vector<FinePoint> fine_;
+    /// Points of the face in their places. Kept for the next outline's.
     std::vector<OutlinePoint> placed_;
 };
 

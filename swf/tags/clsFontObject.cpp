@@ -30,9 +30,17 @@ void clsFontObject::blSJis(bool value) {
 
 void clsFontObject::Sort() const {
     if (sorted_) return;
-    // Characters without a place in the code page share the code of "?" and keep their order.
-    std::stable_sort(glyphs_.begin(), glyphs_.end(),
-                     [](const Glyph& a, const Glyph& b) { return a.Code < b.Code; });
+    // Characters without a place in the code page share the code of "?" and keep their order, for
+    // which the place is the lower half of the key.
+    std::vector<std::uint32_t> keys;
+    keys.reserve(glyphs_.size());
+    for (const Glyph& glyph : glyphs_)
+        keys.push_back(std::uint32_t{glyph.Code} << 16 | static_cast<std::uint32_t>(keys.size()));
+    std::sort(keys.begin(), keys.end());
+    std::vector<Glyph> sorted;
+    sorted.reserve(glyphs_.size());
+    for (const std::uint32_t key : keys) sorted.push_back(glyphs_[key & 0xFFFF]);
+    glyphs_ = std::move(sorted);
     for (std::size_t i = 0; i < glyphs_.size(); ++i)
         positions_[glyphs_[i].Character] = static_cast<Long>(i) + 1;
     sorted_ = true;
