@@ -38,6 +38,9 @@ bool IsNameCharacter(char letter) {
     return ClassOf(letter) >= LetterClass;
 }
 
+/// Names and texts stand in records of 64 KB at most, with what else these hold.
+constexpr std::size_t MaxText = 65000;
+
 /// Value of a digit of a base up to 16; 16 for what is none.
 unsigned DigitValue(char letter) {
     if (letter >= '0' && letter <= '9') return static_cast<unsigned>(letter - '0');
@@ -252,6 +255,7 @@ Token Lexer::ReadName(Token token) {
         while (at_ != end_ && IsNameCharacter(*at_) && !isWide()) Step();
     }
     token.Text = Between(begin, at_);
+    CheckLength(token);
     token.Name = symbols_.Intern(token.Text);
     if (!token.Name->IsClassified) Classify(*token.Name, version_);
     token.Kind = token.Name->Kind;
@@ -290,9 +294,15 @@ bool Lexer::ReadSlashPath(Token& token, PathForm form) {
     if (!begins && !hasColon && (!isCall || form != PathForm::WithColonOrCall)) return false;
     token.Kind = TokenKind::SlashPath;
     token.Text = Between(begin, at);
+    CheckLength(token);
     token.Name = symbols_.Intern(token.Text);
     at_ = at;
     return true;
+}
+
+void Lexer::CheckLength(const Token& token) {
+    if (token.Text.size() > MaxText)
+        diagnostics_.Error(token.Line, token.Text, u"名前や文字列が長すぎます。64KB までです。");
 }
 
 Token Lexer::ReadNumber(Token token) {
@@ -375,6 +385,7 @@ Token Lexer::ReadString(Token token) {
     if (!isClosed)
         diagnostics_.Error(token.Line, token.Text,
                            u"文字列が閉じられていません。引用符が必要です。");
+    CheckLength(token);
     if (isPlain) {
         token.Name = symbols_.Intern(Between(plain, close));
     } else {

@@ -32,6 +32,7 @@ public:
 
 private:
     void SkipBlanks(Token& token);
+    void CheckLength(const Token& token);
     bool SkipWideBlank();
     void SkipLineComment();
     void SkipBlockComment();
