@@ -167,14 +167,16 @@ Token Lexer::Next() {
     }
 }
 
-bool Lexer::IsLead(char letter) const {
-    const auto byte = static_cast<Byte>(letter);
-    return !isUtf8_ && ((byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC));
+std::size_t Lexer::WidthAt(const char* at) const {
+    if (isUtf8_ || end_ - at < 2) return 1;
+    const auto lead = static_cast<Byte>(at[0]);
+    const auto trail = static_cast<Byte>(at[1]);
+    const bool isLead = (lead >= 0x81 && lead <= 0x9F) || (lead >= 0xE0 && lead <= 0xFC);
+    return isLead && trail >= 0x40 && trail <= 0xFC && trail != 0x7F ? 2 : 1;
 }
 
 void Lexer::Step() {
-    if (IsLead(*at_) && end_ - at_ > 1) ++at_;
-    ++at_;
+    at_ += WidthAt(at_);
 }
 
 /// U+3000.
@@ -271,7 +273,7 @@ bool Lexer::ReadSlashPath(Token& token, PathForm form) {
         if (end_ - at >= 2 && at[0] == '.' && at[1] == '.') {
             at += 2;
         } else {
-            while (at != end_ && IsNameCharacter(*at)) at += IsLead(*at) && end_ - at > 1 ? 2 : 1;
+            while (at != end_ && IsNameCharacter(*at)) at += WidthAt(at);
         }
         return at != first;
     };
