@@ -8,9 +8,11 @@
 #include "app/ProjectInfo.h"
 #include "app/mdlPrivateProfile.h"
 #include "document/AppVersion.h"
+#include "output/MovieListing.h"
 #include "platform/ConsoleUserInterface.h"
 #include "platform/RuntimeError.h"
 #include "platform/codepage.h"
+#include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/text.h"
 
@@ -28,6 +30,7 @@ constexpr const char* Usage =
     "Tamber generate PROJECT [-o OUT.swf] [--strict] [--set KEY=VALUE ...]\n"
     "Tamber convert IN.kvf OUT.kvfz        load and save again\n"
     "Tamber info PROJECT [--json]          stage, symbols, layers, key frames, as read\n"
+    "Tamber disassemble FILE.swf           tags and actions of a movie\n"
     "Tamber --version | --help\n"
     "\n"
     "--home DIR   the program's folder, with its settings and data\n"
@@ -134,6 +137,20 @@ int Info(const Options& options) {
                               : ProjectInfoText(controller.inProject));
 }
 
+int Disassemble(const Options& options) {
+    Bytes file;
+    const String path = PathOf(options.Words[1]);
+    if (!ReadFileBytes(path, file)) {
+        ShowMessage(u"ファイルを開けません。\r\n\r\n" + path);
+        return CouldNot;
+    }
+    const MovieListing listing(file);
+    const int printed = Print(listing.Text());
+    if (listing.Fault().empty()) return printed;
+    ShowMessage(listing.Fault() + u"\r\n\r\n" + path);
+    return CouldNot;
+}
+
 int RunWithoutWindow(const Options& options) {
     OwnEnvironment environment;
     Application application(environment);
@@ -153,6 +170,8 @@ int Dispatch(const Options& options, const ConsoleUserInterface& console) {
         return count == 3 ? Convert(options) : RefuseUsage("convert needs two paths");
     if (command == "info")
         return count == 2 ? Info(options) : RefuseUsage("info needs one project");
+    if (command == "disassemble")
+        return count == 2 ? Disassemble(options) : RefuseUsage("disassemble needs one movie");
     if (count > 1) return RefuseUsage("unknown command " + command);
     return RunWithoutWindow(options);
 }

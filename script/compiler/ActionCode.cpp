@@ -30,6 +30,7 @@ void ActionCode::Deduplicate() {
     if (size < 2 || Items[size - 1] != Items[size - 2]) return;
     if (Items[size - 1] >> 24 != static_cast<std::uint32_t>(ItemKind::PushText)) return;
     Items.pop_back();
+    --lastText_->Uses;
     Emit(Opcode::PushDuplicate);
 }
 
@@ -50,6 +51,7 @@ void ActionCode::DropNot() {
 void ActionCode::PushText(Symbol* text) {
     if (!isReachable_) return;
     ++text->Uses;
+    lastText_ = text;
     Emit(ItemKind::PushText, text->Index);
 }
 

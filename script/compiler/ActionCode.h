@@ -133,6 +133,7 @@ private:
     std::vector<bool> outer_;
     bool isReachable_ = true;
     bool mayDuplicate_;
+    Symbol* lastText_ = nullptr;
 };
 
 }  // namespace tamber

@@ -137,49 +137,41 @@ void CodeGenerator::Implement(const ClassNode& node) {
 void CodeGenerator::Members(const ClassNode& node, bool isStatic) {
     for (const MemberNode* member = node.FirstMember; member; member = member->Next) {
         if (member->IsStatic != isStatic) continue;
-        const bool isField = member->Kind == MemberKind::Field;
-        if (isField && member->Value == nullptr) continue;
-        if (member->Kind == MemberKind::Getter || member->Kind == MemberKind::Setter) {
-            Accessor(node, *member);
-            continue;
-        }
+        const bool isAccessor =
+            member->Kind == MemberKind::Getter || member->Kind == MemberKind::Setter;
+        if (isAccessor || member->Value == nullptr) continue;
         isStatic ? ClassPath(*node.Name) : Prototype(*node.Name);
         code_->PushText(member->Name);
         Expression(*member->Value);
         code_->Emit(Opcode::SetMember);
     }
+    Accessors(node, isStatic);
 }
 
-/// addProperty(name, get, set), where the first of a pair stands.
-void CodeGenerator::Accessor(const ClassNode& node, const MemberNode& member) {
-    const MemberNode* getter = nullptr;
-    const MemberNode* setter = nullptr;
-    const MemberNode* first = nullptr;
-    for (const MemberNode* other = node.FirstMember; other; other = other->Next) {
-        if (other->Name != member.Name || other->IsStatic != member.IsStatic) continue;
-        if (other->Kind == MemberKind::Getter)
-            getter = other;
-        else if (other->Kind == MemberKind::Setter)
-            setter = other;
-        else
-            continue;
-        if (first == nullptr) first = other;
+/// addProperty(name, get, set) for each pair, or one of it.
+void CodeGenerator::Accessors(const ClassNode& node, bool isStatic) {
+    std::map<std::uint32_t, std::pair<const MemberNode*, const MemberNode*>> pairs;
+    for (const MemberNode* member = node.FirstMember; member; member = member->Next) {
+        if (member->IsStatic != isStatic) continue;
+        if (member->Kind == MemberKind::Getter) pairs[member->Name->Index].first = member;
+        if (member->Kind == MemberKind::Setter) pairs[member->Name->Index].second = member;
     }
-    if (first != &member) return;
     const auto function = [&](const MemberNode* accessor) {
         if (accessor == nullptr)
             code_->Emit(ItemKind::PushNull);
         else
             Expression(*accessor->Value);
     };
-    function(setter);
-    function(getter);
-    code_->PushText(member.Name);
-    Numeric(3);
-    member.IsStatic ? ClassPath(*node.Name) : Prototype(*node.Name);
-    Text("addProperty");
-    code_->Emit(Opcode::CallMethod);
-    code_->Emit(Opcode::Pop);
+    for (const auto& [index, pair] : pairs) {
+        function(pair.second);
+        function(pair.first);
+        code_->PushText(symbols_.At(index));
+        Numeric(3);
+        isStatic ? ClassPath(*node.Name) : Prototype(*node.Name);
+        Text("addProperty");
+        code_->Emit(Opcode::CallMethod);
+        code_->Emit(Opcode::Pop);
+    }
 }
 
 void CodeGenerator::HideMembers(const ClassNode& node) {

@@ -202,7 +202,7 @@ private:
     void Inherit(const ClassNode& node);
     void Implement(const ClassNode& node);
     void Members(const ClassNode& node, bool isStatic);
-    void Accessor(const ClassNode& node, const MemberNode& member);
+    void Accessors(const ClassNode& node, bool isStatic);
     void HideMembers(const ClassNode& node);
     bool Cast(const Node& node);
     std::string DottedPath(const Node& node) const;

@@ -135,17 +135,18 @@ Node* Parser::ImportStatement() {
     const std::uint32_t line = token_.Line;
     NeedVersion(6, token_.Text, line);
     Advance();
-    Import import{nullptr, {TakeName(u"クラス名")}};
+    std::vector<Symbol*> path{TakeName(u"クラス名")};
     while (Accept(TokenKind::Dot)) {
         if (Accept(TokenKind::Star)) {
             diagnostics_.Warn(line, "*", u"クラスの名前を一つずつ書いて下さい。");
             EndStatement();
             return Make(NodeKind::Empty, line);
         }
-        import.Path.push_back(TakeMemberName());
+        path.push_back(TakeMemberName());
+        if (path.size() > MaxDepth) Fail(u"名前が長すぎます。");
     }
-    import.Name = import.Path.back();
-    if (import.Path.size() > 1) imports_.push_back(std::move(import));
+    const Symbol* name = path.back();
+    if (path.size() > 1) imports_[name] = std::move(path);
     EndStatement();
     return Make(NodeKind::Empty, line);
 }

@@ -388,19 +388,17 @@ Node* Parser::SpecialValue(SpecialName name, std::uint32_t line) {
 }
 
 Node* Parser::Imported(const Symbol* name, std::uint32_t line) {
-    for (const Import& import : imports_) {
-        if (import.Name != name) continue;
-        Node* node = Make(NodeKind::Name, line);
-        node->Name = import.Path.front();
-        for (std::size_t i = 1; i < import.Path.size(); ++i) {
-            Node* member = Make(NodeKind::Member, line);
-            member->A = node;
-            member->Name = import.Path[i];
-            node = member;
-        }
-        return node;
+    const auto found = imports_.find(name);
+    if (found == imports_.end()) return nullptr;
+    Node* node = Make(NodeKind::Name, line);
+    node->Name = found->second.front();
+    for (std::size_t i = 1; i < found->second.size(); ++i) {
+        Node* member = Make(NodeKind::Member, line);
+        member->A = node;
+        member->Name = found->second[i];
+        node = member;
     }
-    return nullptr;
+    return node;
 }
 
 void Parser::NoteName(Symbol* name, std::uint32_t line) {

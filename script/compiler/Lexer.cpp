@@ -38,6 +38,9 @@ bool IsNameCharacter(char letter) {
     return ClassOf(letter) >= LetterClass;
 }
 
+/// Names and texts stand in records of 64 KB at most, with what else these hold.
+constexpr std::size_t MaxText = 65000;
+
 /// Value of a digit of a base up to 16; 16 for what is none.
 unsigned DigitValue(char letter) {
     if (letter >= '0' && letter <= '9') return static_cast<unsigned>(letter - '0');
@@ -164,14 +167,16 @@ Token Lexer::Next() {
     }
 }
 
-bool Lexer::IsLead(char letter) const {
-    const auto byte = static_cast<Byte>(letter);
-    return !isUtf8_ && ((byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC));
+std::size_t Lexer::WidthAt(const char* at) const {
+    if (isUtf8_ || end_ - at < 2) return 1;
+    const auto lead = static_cast<Byte>(at[0]);
+    const auto trail = static_cast<Byte>(at[1]);
+    const bool isLead = (lead >= 0x81 && lead <= 0x9F) || (lead >= 0xE0 && lead <= 0xFC);
+    return isLead && trail >= 0x40 && trail <= 0xFC && trail != 0x7F ? 2 : 1;
 }
 
 void Lexer::Step() {
-    if (IsLead(*at_) && end_ - at_ > 1) ++at_;
-    ++at_;
+    at_ += WidthAt(at_);
 }
 
 /// U+3000.
@@ -252,6 +257,7 @@ Token Lexer::ReadName(Token token) {
         while (at_ != end_ && IsNameCharacter(*at_) && !isWide()) Step();
     }
     token.Text = Between(begin, at_);
+    CheckLength(token);
     token.Name = symbols_.Intern(token.Text);
     if (!token.Name->IsClassified) Classify(*token.Name, version_);
     token.Kind = token.Name->Kind;
@@ -267,7 +273,7 @@ bool Lexer::ReadSlashPath(Token& token, PathForm form) {
         if (end_ - at >= 2 && at[0] == '.' && at[1] == '.') {
             at += 2;
         } else {
-            while (at != end_ && IsNameCharacter(*at)) at += IsLead(*at) && end_ - at > 1 ? 2 : 1;
+            while (at != end_ && IsNameCharacter(*at)) at += WidthAt(at);
         }
         return at != first;
     };
@@ -290,9 +296,15 @@ bool Lexer::ReadSlashPath(Token& token, PathForm form) {
     if (!begins && !hasColon && (!isCall || form != PathForm::WithColonOrCall)) return false;
     token.Kind = TokenKind::SlashPath;
     token.Text = Between(begin, at);
+    CheckLength(token);
     token.Name = symbols_.Intern(token.Text);
     at_ = at;
     return true;
+}
+
+void Lexer::CheckLength(const Token& token) {
+    if (token.Text.size() > MaxText)
+        diagnostics_.Error(token.Line, token.Text, u"名前や文字列が長すぎます。64KB までです。");
 }
 
 Token Lexer::ReadNumber(Token token) {
@@ -375,6 +387,7 @@ Token Lexer::ReadString(Token token) {
     if (!isClosed)
         diagnostics_.Error(token.Line, token.Text,
                            u"文字列が閉じられていません。引用符が必要です。");
+    CheckLength(token);
     if (isPlain) {
         token.Name = symbols_.Intern(Between(plain, close));
     } else {

@@ -32,12 +32,14 @@ public:
 
 private:
     void SkipBlanks(Token& token);
+    void CheckLength(const Token& token);
     bool SkipWideBlank();
     void SkipLineComment();
     void SkipBlockComment();
     /// Steps over one character, which may be of two bytes in code page 932.
     void Step();
-    bool IsLead(char letter) const;
+    /// Bytes of the character at a place: 2 for a double byte of code page 932.
+    std::size_t WidthAt(const char* at) const;
     Token ReadName(Token token);
     Token ReadNumber(Token token);
     void ReadPrefixed(Token& token, unsigned base);

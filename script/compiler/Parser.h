@@ -1,5 +1,7 @@
 #pragma once
 
+#include <unordered_map>
+
 #include "script/compiler/ConstantFolder.h"
 #include "script/compiler/Lexer.h"
 #include "script/compiler/Node.h"
@@ -140,11 +142,6 @@ private:
         int Loops;
         int Switches;
     };
-    /// What an import makes of a short name.
-    struct Import {
-        Symbol* Name;
-        std::vector<Symbol*> Path;
-    };
 
     Lexer lexer_;
     Long version_;
@@ -169,7 +166,8 @@ private:
     std::vector<Guard> guards_;
     std::size_t firstGuard_ = 0;
     std::vector<Use> uses_;
-    std::vector<Import> imports_;
+    /// What imports make of short names: the parts of the full ones.
+    std::unordered_map<const Symbol*, std::vector<Symbol*>> imports_;
 };
 
 }  // namespace tamber

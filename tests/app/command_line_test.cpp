@@ -78,6 +78,19 @@ TEST_F(CommandLineTest, info_tells_what_the_project_holds) {
     EXPECT_EQ(flight["placement"]["tweenPoints"][2]["type"], "On");
 }
 
+TEST_F(CommandLineTest, disassemble_lists_a_movie_and_refuses_what_is_none) {
+    const std::string movie = "'" + (folder / "hello.swf").string() + "'";
+    ASSERT_EQ(Tamber("generate " + hello + " -o " + movie).Code, 0);
+    const Outcome run = Tamber("disassemble " + movie);
+    EXPECT_EQ(run.Code, 0) << run.Errors;
+    EXPECT_NE(run.Output.find(" ShowFrame, 0 bytes\n"), std::string::npos);
+    EXPECT_NE(run.Output.find(" End, 0 bytes\n"), std::string::npos);
+    const Outcome refused = Tamber("disassemble " + hello);
+    EXPECT_EQ(refused.Code, 1);
+    EXPECT_NE(refused.Errors.find("SWFファイルではありません。"), std::string::npos);
+    EXPECT_EQ(Tamber("disassemble").Code, 2);
+}
+
 TEST_F(CommandLineTest, info_names_references_filters_and_values) {
     const Outcome run = Tamber("info '" TAMBER_SOURCE_DIR "/examples/tour/tour.kvf' --json");
     ASSERT_EQ(run.Code, 0) << run.Errors;

@@ -1,0 +1,170 @@
+#include <gtest/gtest.h>
+
+#include <cstdio>
+
+#include "script/compiler/ActionCompiler.h"
+#include "script/compiler/ActionDisassembler.h"
+
+namespace tamber {
+namespace {
+
+struct CodeCase {
+    Long Version;
+    std::string_view Source;
+    /// In hexadecimal.
+    std::string_view Code;
+};
+
+std::string Hex(const Bytes& bytes) {
+    std::string text;
+    for (const Byte byte : bytes) {
+        char digits[4];
+        std::snprintf(digits, sizeof digits, "%02X ", static_cast<unsigned>(byte));
+        text += digits;
+    }
+    if (!text.empty()) text.pop_back();
+    return text;
+}
+
+std::string Compiled(std::string_view source, Long version) {
+    const CompiledScript script = ActionCompiler(version).Compile(source);
+    return script.IsCompiled() ? Hex(script.Actions) : "not compiled";
+}
+
+void Check(std::initializer_list<CodeCase> cases) {
+    for (const CodeCase& code : cases)
+        EXPECT_EQ(Compiled(code.Source, code.Version), code.Code)
+            << "version " << code.Version << ": " << code.Source;
+}
+
+TEST(Code, OfVersion4HasTextsForAllValuesAndJumpsForLoops) {
+    Check({
+        {4, "x = 5;", "96 06 00 00 78 00 00 35 00 1D"},
+        {4, "trace(a < 3);", "96 03 00 00 61 00 1C 96 03 00 00 33 00 0F 26"},
+        {4, "trace(a > 3);", "96 06 00 00 33 00 00 61 00 1C 0F 26"},
+        {4, "if (a) play();", "96 03 00 00 61 00 1C 12 9D 02 00 01 00 06"},
+        {4, "while (a) a--;",
+         "99 02 00 12 00 96 06 00 00 61 00 00 61 00 1C 96 03 00 00 31 00 0B 1D "
+         "96 03 00 00 61 00 1C 9D 02 00 E2 FF"},
+        {4, "setProperty(\"c\", _x, 1);", "96 09 00 00 63 00 00 30 00 00 31 00 23"},
+        {4, "/c:v = 1;", "96 09 00 00 2F 63 3A 76 00 00 31 00 1D"},
+        {4, "a.b.v = 1;", "96 0A 00 00 61 2F 62 3A 76 00 00 31 00 1D"},
+    });
+}
+
+TEST(Code, OfBuiltInFunctionsIsTheirAction) {
+    Check({
+        {4, "gotoAndPlay(3);", "81 02 00 02 00 06"},
+        {4, "gotoAndStop(\"end\");", "8C 04 00 65 6E 64 00"},
+        {4, "gotoAndPlay(x);", "96 03 00 00 78 00 1C 9F 01 00 01"},
+        {4, "getURL(\"u\", \"_self\");", "83 08 00 75 00 5F 73 65 6C 66 00"},
+        {4, "getURL(\"u\", \"w\", \"POST\");", "96 06 00 00 75 00 00 77 00 9A 01 00 02"},
+        {4, "loadMovie(\"u\", \"c\");", "96 06 00 00 75 00 00 63 00 9A 01 00 40"},
+        {4, "loadVariables(\"u\", \"c\", \"GET\");", "96 06 00 00 75 00 00 63 00 9A 01 00 C1"},
+        {4, "loadMovieNum(\"u\", 2);", "83 0A 00 75 00 5F 6C 65 76 65 6C 32 00"},
+        {4, "unloadMovie(\"c\");", "96 05 00 00 00 00 63 00 9A 01 00 40"},
+        {4, "print(\"c\", \"bmovie\");", "96 0B 00 00 70 72 69 6E 74 3A 00 00 63 00 9A 01 00 00"},
+        {4, "fscommand(\"a\", \"b\");", "83 0E 00 46 53 43 6F 6D 6D 61 6E 64 3A 61 00 62 00"},
+        {4, "call(\"x\");", "96 03 00 00 78 00 9E 00 00"},
+        {4, "tellTarget(\"c\") { stop(); }", "8B 02 00 63 00 07 8B 01 00 00"},
+        {4, "/c/stop();", "8B 03 00 2F 63 00 07 8B 01 00 00"},
+        {4, "ifFrameLoaded(2) { play(); }", "8A 03 00 01 00 01 99 02 00 05 00 99 02 00 01 00 06"},
+        {5, "duplicateMovieClip(\"a\", \"b\", 1);", "96 0B 00 00 61 00 00 62 00 07 01 40 00 00 24"},
+    });
+}
+
+TEST(Code, OfVersion5HasTypedValuesConstantsAndFunctions) {
+    Check({
+        {5, "x = 1;", "96 08 00 00 78 00 07 01 00 00 00 1D"},
+        {5, "x = 0.5;", "96 08 00 00 78 00 01 00 00 00 3F 1D"},
+        {5, "x = 0.1;", "96 0C 00 00 78 00 06 99 99 B9 3F 9A 99 99 99 1D"},
+        {5, "x = true;", "96 05 00 00 78 00 05 01 1D"},
+        {5, "x = x + 1;", "96 03 00 00 78 00 4C 1C 96 05 00 07 01 00 00 00 47 1D"},
+        {5, "foo = 1; foo = 2;",
+         "88 06 00 01 00 66 6F 6F 00 96 07 00 08 00 07 01 00 00 00 1D "
+         "96 07 00 08 00 07 02 00 00 00 1D"},
+        {5, "function f(a) { return a; }",
+         "9B 08 00 66 00 01 00 61 00 08 00 96 03 00 00 61 00 1C 3E"},
+        {5, "f(1, \"b\");", "96 0E 00 00 62 00 07 01 00 00 00 00 32 00 00 66 00 3D 17"},
+        {5, "x = a && b;",
+         "96 06 00 00 78 00 00 61 00 1C 4C 12 9D 02 00 08 00 17 96 03 00 00 62 00 1C 1D"},
+        {5, "x = \"\x95\x5C\";", "96 07 00 00 78 00 00 95 5C 00 1D"},
+    });
+}
+
+TEST(Code, OfVersion6ComparesStrictlyAndEnumeratesObjects) {
+    Check({
+        {6, "x = a === b;", "96 06 00 00 78 00 00 61 00 1C 96 03 00 00 62 00 1C 66 1D"},
+        {6, "trace(a > b);", "96 03 00 00 61 00 1C 96 03 00 00 62 00 1C 67 26"},
+        {6, "for (k in o) trace(k);",
+         "96 03 00 00 6F 00 1C 55 87 01 00 00 96 01 00 02 49 9D 02 00 16 00 "
+         "96 05 00 00 6B 00 04 00 1D 96 03 00 00 6B 00 1C 26 99 02 00 DC FF"},
+        {6, "x = \"\xE6\x97\xA5\";", "96 08 00 00 78 00 00 E6 97 A5 00 1D"},
+        {6, "x = MovieClip(a);", "96 06 00 00 78 00 00 61 00 1C 1D"},
+    });
+}
+
+TEST(Code, OfVersion7HasFunctionsWithRegistersExceptionsAndCasts) {
+    Check({
+        {7, "function f(a) { return a; }",
+         "8E 0C 00 66 00 01 00 02 2A 00 01 61 00 06 00 96 02 00 04 01 3E"},
+        {7, "throw 1;", "96 05 00 07 01 00 00 00 2A"},
+        {7, "try { f(); } catch (e) {}",
+         "8F 09 00 01 0D 00 00 00 00 00 65 00 96 08 00 07 00 00 00 00 00 66 00 3D 17"},
+        {7, "x = MovieClip(a);",
+         "96 0E 00 00 78 00 00 4D 6F 76 69 65 43 6C 69 70 00 1C 96 03 00 00 61 00 1C 2B 1D"},
+    });
+}
+
+TEST(Code, IsNotMadeOfWhatHasNoEffectOrCannotBeReached) {
+    Check({
+        {6, "", ""},
+        {6, " // only\n /* comments */ ; ", ""},
+        {6, "if (false) trace(1);", ""},
+        {6, "while (0) trace(1);", ""},
+        {6, "function f() { return 1; trace(2); }",
+         "9B 06 00 66 00 00 00 09 00 96 05 00 07 01 00 00 00 3E"},
+    });
+}
+
+TEST(Code, OfConstantsIsTheirResult) {
+    const CodeCase cases[] = {
+        {5, "x = 1 + 2 * 3;", "x = 7;"},
+        {5, "x = 7 >>> 1 << 2;", "x = 12;"},
+        {5, "x = -1 >>> 28;", "x = 15;"},
+        {5, "x = \"a\" + \"b\" + 1;", "x = \"ab1\";"},
+        {5, "x = !(2 < 1);", "x = true;"},
+        {4, "x = 6 / 4;", "x = 1.5;"},
+        {5, "x = 0x10 + 010;", "x = 24;"},
+        {5, "x = true ? 1 : y;", "x = 1;"},
+        {5, "x = \"\\x41\\102\\u0043\";", "x = \"ABC\";"},
+    };
+    for (const CodeCase& folded : cases)
+        EXPECT_EQ(Compiled(folded.Source, folded.Version), Compiled(folded.Code, folded.Version))
+            << folded.Source;
+}
+
+TEST(Code, KeepsVariablesOutOfRegistersThatOthersReachByName) {
+    const std::string_view sources[] = {
+        "function f() { var a = 1; return function () { return a; }; }",
+        "function f() { var a = 1; return eval(\"a\"); }",
+        "function f(o) { var a = 1; with (o) { return a; } }",
+        "function f() { var a = g; return a(); }",
+        "function f() { var a = 1; delete a; }",
+        "function f() { try { g(); } catch (a) { return a; } }",
+    };
+    for (const std::string_view source : sources) {
+        const std::string text =
+            ActionDisassembler(7).List(ActionCompiler(7).Compile(source).Actions);
+        EXPECT_NE(text.find("\"a\""), text.npos) << text;
+    }
+}
+
+TEST(Code, OfBuiltInsAndKeywordsIsFoundWithoutCaseBelowVersion7) {
+    EXPECT_EQ(Compiled("GOTOANDPLAY(3);", 6), "81 02 00 02 00 06");
+    EXPECT_EQ(Compiled("IF (a) Play();", 6), Compiled("if (a) play();", 6));
+    EXPECT_NE(Compiled("GOTOANDPLAY(3);", 7), "81 02 00 02 00 06");
+}
+
+}  // namespace
+}  // namespace tamber

@@ -1,0 +1,14 @@
+// versions: 5-8
+// Names differ by case from version 7 on.
+Value = 1;
+value = 2;
+trace(Value);    //=-6 2
+                 //=7+ 1
+Obj = {Part: 1};
+trace(Obj.Part); //= 1
+trace(Obj.part); //=-6 1
+                 //=7+ undefined
+function F() { return "F"; }
+function f() { return "f"; }
+trace(F());      //=-6 f
+                 //=7+ F

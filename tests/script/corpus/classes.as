@@ -1,0 +1,60 @@
+// versions: 6-8
+// Classes, interfaces, inheritance, statics, getters and setters, packages, types.
+interface zoo.Named { function getName():String; }
+class zoo.Animal implements zoo.Named {
+  private var name:String;
+  public var legs:Number = 4;
+  static var count:Number = 0;
+  function Animal(name:String) { this.name = name; count++; }
+  function getName():String { return name; }
+  function speak():String { return getName() + " makes " + sound(); }
+  function sound():String { return "noise"; }
+  function get label():String { return "<" + name + ">"; }
+  function set label(v:String):Void { name = v; }
+  static function total():Number { return count; }
+}
+class zoo.Dog extends zoo.Animal {
+  var tricks:Array;
+  function Dog(name:String, trick:String) { super(name); tricks = [trick]; }
+  function sound():String { return "woof"; }
+  function speak():String { return super.speak() + "!"; }
+  function learn(t:String):Number { tricks.push(t); return tricks.length; }
+  function walk():Number { return legs; }
+}
+class zoo.Puppy extends zoo.Dog { }
+var a:zoo.Animal = new zoo.Animal("Bo");
+trace(a.speak());          //= Bo makes noise
+var d:zoo.Dog = new zoo.Dog("Rex", "sit");
+trace(d.speak());          //= Rex makes woof!
+trace(d.learn("roll"));    //= 2
+trace(d.walk());           //= 4
+trace(zoo.Animal.total()); //= 2
+trace(zoo.Animal.count);   //= 2
+trace(d.label);            //= <Rex>
+d.label = "Max";
+trace(d.getName());        //= Max
+trace(d instanceof zoo.Animal); //= true
+trace(a instanceof zoo.Dog);    //= false
+trace(new zoo.Puppy("x", "y") instanceof zoo.Dog); //= true
+trace(d instanceof zoo.Named);  //=-6 false
+                           //=7+ true
+n = 0;
+for (var k in a) n++;
+trace(n);                  //= 1
+import zoo.Dog;
+var e:Dog = new Dog("Im", "t");
+trace(e.getName());        //= Im
+trace(Dog(e).walk());      //= 4
+trace(zoo.Dog(a) == null); //=-6 false
+                           //=7+ true
+function typed(a:Number, b:String):String { var c:Number = a; return b + c; }
+trace(typed(1, "t"));      //= t1
+class Shape extends MovieClip {
+  var hits:Number = 0;
+  function Shape() { hits = 3; }
+  function hit():Number { hits++; return hits; }
+}
+Object.registerClass("Sym", Shape);
+var s = attachMovie("Sym", "made", 5);
+trace(s.hit());            //= 4
+trace(made._currentframe); //= 1

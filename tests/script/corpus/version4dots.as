@@ -1,0 +1,16 @@
+// versions: 4-8
+// Names with dots: in version 4 they become paths.
+clip.v = 5;
+trace(clip.v + 1);      //= 6
+_root.clip.w = 7;
+trace(/clip:w);         //= 7
+trace(_root.clip._currentframe); //= 1
+clip._x = 12;
+trace(getProperty("clip", _x)); //= 12
+clip._x += 3; trace(clip._x); //= 15
+clip.gotoAndStop(3);
+trace(clip._currentframe); //= 3
+_root.clip.nextFrame(); trace(clip._currentframe); //= 4
+this.t = 3; trace(t);   //= 3
+clip.v++; trace(clip.v); //= 6
+trace(clip.v--);        //= 6

@@ -1,0 +1,181 @@
+#include <gtest/gtest.h>
+
+#include "platform/codepage.h"
+#include "script/compiler/ActionCompiler.h"
+#include "script/compiler/compileSWFActionCode.h"
+
+namespace tamber {
+namespace {
+
+CompiledScript Compiled(std::string_view source, Long version = 6) {
+    return ActionCompiler(version).Compile(source);
+}
+
+std::string Repeated(std::string_view text, std::size_t count) {
+    std::string repeated;
+    for (; count > 0; --count) repeated += text;
+    return repeated;
+}
+
+/// What the C-like call delivers, from code page 932.
+String Delivered(const std::string& source, Long version) {
+    const Byte* bytes = nullptr;
+    Long length = 0;
+    EXPECT_EQ(compileSWFActionCode(source.c_str(), version, &bytes, &length), 0);
+    return DecodeAnsi({bytes, static_cast<std::size_t>(length)});
+}
+
+struct Fault {
+    Long Version;
+    std::string_view Source;
+    Long Line;
+    std::string_view Token;
+};
+
+TEST(Diagnostics, NameTheLineAndTheToken) {
+    const Fault faults[] = {
+        {6, "x = ;", 1, ";"},
+        {6, "x = 1;\n\ny = (2;\n", 3, ";"},
+        {6, "// one\r\n/* two\r\nthree */ z = * 2;", 3, "*"},
+        {6, "a\nb\n\"open", 3, "\"open"},
+        {6, "/* open", 1, "/*"},
+        {6, "if (a {", 1, "{"},
+        {6, "function f() {\n", 2, ""},
+        {6, "}", 1, "}"},
+        {6, "break;", 1, "break"},
+        {6, "return 1;", 1, "return"},
+        {6, "1 = 2;", 1, "="},
+        {6, "x = 12abc;", 1, "12abc"},
+        {6, "x = 3 @ 4;", 1, "@"},
+        {6, "switch (a) { default: default: }", 1, "default"},
+        {6, "gotoAndPlay();", 1, "gotoAndPlay"},
+        {6, "a b;", 1, "b"},
+        {5, "x = a === b;", 1, "==="},
+        {6, "try { } catch (e) { }", 1, "try"},
+        {4, "\nfunction f() { }", 2, "function"},
+        {4, "x = [1];", 1, "["},
+        {4, "x = a % b;", 1, "%"},
+        {5, "class A { }", 1, "class"},
+        {6, "#include \"x\"", 1, "#"},
+    };
+    for (const Fault& fault : faults) {
+        const CompiledScript script = Compiled(fault.Source, fault.Version);
+        ASSERT_FALSE(script.Errors.empty()) << fault.Source;
+        EXPECT_EQ(script.Errors[0].Line, fault.Line) << fault.Source;
+        EXPECT_EQ(script.Errors[0].Token, fault.Token) << fault.Source;
+        EXPECT_FALSE(script.Errors[0].Text.empty()) << fault.Source;
+        EXPECT_TRUE(script.Actions.empty()) << fault.Source;
+    }
+}
+
+TEST(Diagnostics, GoOnBehindAnError) {
+    const CompiledScript script =
+        Compiled("x = ;\ny = 1;\nif (z { }\nfunction f() { a = ]; }\nw = );");
+    ASSERT_EQ(script.Errors.size(), 4U);
+    EXPECT_EQ(script.Errors[0].Line, 1);
+    EXPECT_EQ(script.Errors[1].Line, 3);
+    EXPECT_EQ(script.Errors[2].Line, 4);
+    EXPECT_EQ(script.Errors[3].Line, 5);
+}
+
+TEST(Diagnostics, EndAfterTwentyErrors) {
+    EXPECT_EQ(Compiled(Repeated("x = ;\n", 1000)).Errors.size(), 20U);
+}
+
+TEST(Diagnostics, WarnOfWhatIsProbablyNotMeant) {
+    const Fault faults[] = {
+        {6, "x = 1;\nif (x = 2) play();", 2, "="},
+        {6, "function f() {\nreturn 1;\nplay(); }", 3, "play"},
+        {5, "_global.x = 1;", 1, "_global"},
+        {4, "x = Math;", 1, "Math"},
+    };
+    for (const Fault& fault : faults) {
+        const CompiledScript script = Compiled(fault.Source, fault.Version);
+        EXPECT_TRUE(script.IsCompiled()) << fault.Source;
+        ASSERT_EQ(script.Warnings.size(), 1U) << fault.Source;
+        EXPECT_EQ(script.Warnings[0].Line, fault.Line) << fault.Source;
+        EXPECT_EQ(script.Warnings[0].Token, fault.Token) << fault.Source;
+    }
+    EXPECT_TRUE(Compiled("if (x == 2) play(); return1 = 2;").Warnings.empty());
+}
+
+TEST(Diagnostics, AreDeliveredAsLinesInTheCodePage) {
+    const String text = Delivered("if (a = 1) b();\n\nx = \"名前\" \"次\";\ny = ;", 6);
+    EXPECT_EQ(text,
+              u"Error: ; が必要です。\n"
+              u"4行目 [;] ここには式が必要です。\n"
+              u"Line 3: '\"次\"'\n"
+              u"Warning: 1行目 [=] 条件の中に代入があります。比較は == です。\n");
+    EXPECT_EQ(Delivered("x = 1 'q';", 6), u"Error: ; が必要です。\nLine 1: '\"q\"'\n");
+}
+
+TEST(Diagnostics, OfTheCallAreReplacedByTheNextRun) {
+    const Byte* bytes = nullptr;
+    Long length = -1;
+    EXPECT_EQ(compileSWFActionCode("x = ;", 6, &bytes, &length), 0);
+    EXPECT_GT(length, 0);
+    EXPECT_NE(compileSWFActionCode("play();", 6, &bytes, &length), 0);
+    ASSERT_EQ(length, 1);
+    EXPECT_EQ(bytes[0], 6);
+    EXPECT_NE(compileSWFActionCode(" // nothing", 6, &bytes, &length), 0);
+    EXPECT_EQ(length, 0);
+}
+
+TEST(Diagnostics, StandForTextsThatNoCodeCanHold) {
+    constexpr std::size_t Many = 100000;
+    const std::string sources[] = {
+        Repeated("(", Many),
+        Repeated("{", Many),
+        Repeated("[", Many),
+        "x = " + Repeated("-", Many) + "1;",
+        "x = " + Repeated("!", Many) + "1;",
+        "x = " + Repeated("new ", Many) + "A;",
+        "x = a" + Repeated(".b", Many) + ";",
+        "x = " + Repeated("a ? b : ", Many) + "1;",
+        Repeated("if (a) ", Many) + "b();",
+        Repeated("function f() {", Many),
+        Repeated("a = ", Many) + "1;",
+        Repeated("try {", Many),
+        std::string(1 << 20, 'x') + " = 1;",
+        "x = \"" + std::string(1 << 20, 'x') + "\";",
+        std::string("x = \0 1;", 8),
+        std::string("x = 'a\0b';", 10),
+        "\"" + Repeated("\\", Many),
+    };
+    for (const Long version : {4, 6, 7})
+        for (const std::string& source : sources)
+            EXPECT_FALSE(Compiled(source, version).IsCompiled()) << source.substr(0, 20);
+}
+
+TEST(Diagnostics, AreNotNeededForLongChains) {
+    constexpr std::size_t Many = 100000;
+    const std::string sources[] = {
+        "x = " + Repeated("a + ", Many) + "1;",
+        "x = " + Repeated("\"a\" + ", Many) + "b;",
+        "x = " + Repeated("a > ", Many) + "1;",
+        "if (" + Repeated("a && ", 1000) + "b) play();",
+        Repeated("if (a > 9) b(); else ", 500) + "c();",
+        "x = [" + Repeated("1, ", Many) + "2];",
+        Repeated("play();", Many),
+        "x = 1" + Repeated(", y = 2", Many) + ";",
+    };
+    for (const std::string& source : sources)
+        for (const Long version : {5, 8})
+            EXPECT_TRUE(Compiled(source, version).IsCompiled()) << source.substr(0, 20);
+}
+
+TEST(Diagnostics, TellOfJumpsAndBlocksThatAreTooLong) {
+    // Each call is 3 bytes of record, 5 of count, 3 of name, and two actions: 13.
+    const std::string body = Repeated("f();", 6000);
+    const CompiledScript jump = Compiled("x = 1;\nif (a) {" + body + "}", 7);
+    ASSERT_EQ(jump.Errors.size(), 1U);
+    EXPECT_EQ(jump.Errors[0].Line, 2);
+    const CompiledScript function = Compiled("\n\nfunction g() {" + body + "}", 7);
+    ASSERT_EQ(function.Errors.size(), 1U);
+    EXPECT_EQ(function.Errors[0].Line, 3);
+    EXPECT_TRUE(Compiled("if (a) {" + Repeated("f();", 2500) + "}", 7).IsCompiled());
+    EXPECT_TRUE(Compiled(body, 7).IsCompiled());
+}
+
+}  // namespace
+}  // namespace tamber
