@@ -11,6 +11,7 @@ ROOMS = ["platform", "swf", "vector", "media", "document", "script", "effects", 
 FLOORS = [
     (r"platform/", 0),
     (r"(swf/mdlSWFTag|swf/mdlZlib|document/(clsCSV|ProjectFileVersion))\.", 1),
+    (r"script/compiler/", 1),
     (r"swf/tags/", 2),
     (r"(vector|media|effects|script)/|document/clsEdgingTable\.", 3),
     (r"document/", 4),

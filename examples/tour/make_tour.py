@@ -17,7 +17,7 @@ FILTERS = {
     "Convolution": "5,5,1,0," + "0," * 12 + "1," + "0," * 12 + "0,0,0,0,False,False",
     "ColorMatrix": "1,0,0,0,0,0,1,0,0,0,0,0,1,0,0,0,0,0,1,0",
 }
-BACKGROUND, LABEL, LAYER_FOLDER = -1, -2, -4
+BACKGROUND, LABEL, FRAME_ACTION, LAYER_FOLDER = -1, -2, -3, -4
 SCRIPT = ",-1,0,0,,,"
 PLACED_TEXT = ["False,in,False,0,Left,False,20,,"]
 PLACED_SPRITE = ["False,in,False,0,Left,False,20,,"]
@@ -83,6 +83,60 @@ def draw_vectors():
               '<rect x="16" y="44" width="18" height="16" fill="#80c0ff" stroke="#604020" stroke-width="2"/>'
               '<rect x="46" y="46" width="16" height="30" fill="#604020"/>')
 
+    disc = "M40 20 C40 31 31 40 20 40 C9 40 0 31 0 20 C0 9 9 0 20 0 C31 0 40 9 40 20 Z"
+    for name, colour in (("釦", "#3070d0"), ("釦（上）", "#50a0ff"), ("釦（押）", "#204080")):
+        write_svg(f"{name}.svg", 40, 40, f'<path d="{disc}" fill="{colour}"/><path d="M14 10 L32 20 L14 30 Z" fill="#ffffff"/>')
+    write_svg("籠.svg", 60, 40, '<path d="M0 0 L60 0 L50 40 L10 40 Z" fill="#c08840" stroke="#805020" stroke-width="2"/>')
+    for name, mouth in (("顔", "M8 14 L22 14"), ("笑顔", "M8 12 Q15 22 22 12")):
+        write_svg(f"{name}.svg", 30, 20, '<rect x="7" y="2" width="4" height="6" fill="#402000"/><rect x="19" y="2" width="4" height="6" fill="#402000"/>'
+                  f'<path d="{mouth}" fill="none" stroke="#402000" stroke-width="2"/>')
+
+
+# The game: balls fall, and the basket catches them, led by the mouse or by the arrow keys.
+DROP = """var speed;
+function Drop() { this.again(); }
+function again() {
+  this._x = 30 + random(340);
+  this._y = -30 - random(120);
+  this.speed = 3 + random(4);
+}
+function onEnterFrame() {
+  this._y += this.speed;
+  if (this.hitTest(_root.basket)) {
+    _root.catchBall();
+    this.again();
+  } else if (this._y > 260) {
+    this.again();
+  }
+}
+"""
+BASKET = """onClipEvent (load) { mouse = _root._xmouse; }
+onClipEvent (enterFrame) {
+  if (mouse != _root._xmouse) _x = mouse = _root._xmouse;
+  if (Key.isDown(Key.LEFT)) _x -= 8;
+  if (Key.isDown(Key.RIGHT)) _x += 8;
+  _x = Math.max(30, Math.min(370, _x));
+}
+"""
+GAME = """stop();
+caught = 0;
+wanted = 10;
+function catchBall() {
+  caught++;
+  basket.face.gotoAndPlay("笑う");
+  tellScore();
+}
+function tellScore() {
+  var left = wanted - caught;
+  score = left > 0 ? "あと" + left + "個" : caught + "個集めました！";
+}
+function leave() {
+  for (var i = 0; i < 3; i++) removeMovieClip(this["drop" + i]);
+}
+for (i = 0; i < 3; i++) attachMovie("drop", "drop" + i, i + 1);
+tellScore();
+"""
+
 
 VECTOR = "False,False,0,0,0,0,0,0,0,0,False,False,False,0,0,1024"
 UPRIGHT = ["False,0,0,0,0,0,0,0,0,False"]
@@ -101,6 +155,23 @@ def text(number, content, size, colour, *, field="", embed="", box=(0, 0), space
     """field: the cells of a text field, empty for static text."""
     cells = f"{content},{embed},IPAGothic,{box[0]},{box[1]},{size},0,{space},False,False,{colour},{align},{not field},{bool(field)}"
     return f"{number},,ﾃｷｽﾄ,,,,{cells},{field + ',' if field else ''}False,0,0,{along}"
+
+
+def sprite(number, name, width, height, base, linkage=",,"):
+    return f"{number},,ｽﾌﾟﾗｲﾄ,{linkage},{name},{width},{height},{base[0]},{base[1]},False,0,0,0,0"
+
+
+def cell(content):
+    return '"' + content.replace("\n", "\r\n").replace('"', '""') + '"'
+
+
+def script(content):
+    return f"{cell(content)},-1,0,0,,,"
+
+
+def frame_actions(*actions):
+    return [f"{FRAME_ACTION},,,0,,{SCRIPT},True,{len(actions)}",
+            *(f"{frame},1,False,False,True,,{script(content)}" for frame, content in actions)]
 
 
 def bitmap(number, name, options="False,0,0,0,False,CR,100,False,70", linkage=",,"):
@@ -131,8 +202,12 @@ def key(start, count, rows, *, tween=False, fixed=False):
     return [f"{start},{count},{fixed},{tween},True,{rows[0]}", *rows[1:]]
 
 
-def layer(number, name, *keys, mask=0, instance="", visible=True):
-    return [f"{number},{name},{instance},{mask},,{SCRIPT},{visible},{len(keys)}", *(row for rows in keys for row in rows)]
+def layer(number, name, *keys, mask=0, instance="", visible=True, actions=SCRIPT):
+    return [f"{number},{name},{instance},{mask},,{actions},{visible},{len(keys)}", *(row for rows in keys for row in rows)]
+
+
+def button_layer(number, name, content, *keys):
+    return layer(number, name, *keys, actions="release," + script(content))
 
 
 def folder(name, count):
@@ -145,6 +220,7 @@ def timeline(*layers):
 
 def project():
     ball, sea, floor, wheel1, wheel2, wheel3, wheel, cart, window, flower, yellow_star, flag, house, title, name, motto, bow = range(1, 18)
+    disc, disc_over, disc_down, button, basket_shape, face_shape, smile, face, basket, drop, drop_class, play, back, score = range(18, 32)
     symbols = [
         "100,,Sﾌｫﾙﾀﾞ,,,,絵,6,True",
         bitmap(ball, "玉.png", linkage="ball,,ExportTop"),
@@ -152,7 +228,7 @@ def project():
         bitmap(floor, "床.bmp"),
         *(bitmap(number, f"車輪{number - 3}.gif") for number in (wheel1, wheel2, wheel3)),
         f"{wheel},,ｺﾏ動画,,,,車輪,2",
-        f"{cart},,ｽﾌﾟﾗｲﾄ,,,,荷車,100,60,50,60,False,0,0,0,0",
+        sprite(cart, "荷車", 100, 60, (50, 60)),
         "101,,Sﾌｫﾙﾀﾞ,,,,図形,5,True",
         vector(window, "丸窓.svg"),
         vector(flower, "花.svg"),
@@ -165,17 +241,45 @@ def project():
              embed="お名前" + "".join(map(chr, [*range(48, 58), *range(65, 91), *range(97, 123)]))),
         text(motto, "絵と図形と文字", 14, "200,60,40", align=2, along="1,1,True,True,False,2"),
         vector(bow, "弓.svg"),
+        "103,,Sﾌｫﾙﾀﾞ,,,,遊び,14,True",
+        vector(disc, "釦.svg"),
+        vector(disc_over, "釦（上）.svg"),
+        vector(disc_down, "釦（押）.svg"),
+        f"{button},,ﾎﾞﾀﾝ,,,,矢印,False,False,0,0,0,0,False,False",
+        vector(basket_shape, "籠.svg"),
+        vector(face_shape, "顔.svg"),
+        vector(smile, "笑顔.svg"),
+        sprite(face, "顔つき", 30, 20, (15, 10)),
+        sprite(basket, "籠", 60, 40, (30, 20)),
+        sprite(drop, "落ちる玉", 40, 40, (20, 20), "drop,game.Drop,ExportTop"),
+        f"{drop_class},,ｸﾗｽ,,,ExportTop,game.Drop,MovieClip,1\r\n落ちる玉,{cell(DROP)}",
+        text(play, "遊ぶ", 14, "40,60,120"),
+        text(back, "もどる", 14, "40,60,120"),
+        text(score, "", 16, "40,60,120", field="False,False,False,False,False,False,False,score", box=(160, 24),
+             embed="あと個集めました！0123456789"),
     ]
-    # Positions in the library: the pictures of the wheel, then what each drawing morphs into.
-    references = ["5,6,7", "0", "13", "0", "0", "0", "0", "0", "20", "0"]
+    # Positions in the library: the pictures of the wheel, what each drawing morphs into or each text follows, and the states
+    # of the button, its hit area first.
+    references = ["5,6,7", "0", "13", "0", "0", "0", "0", "0", "20", "0", "0", "0", "0", "0,24,23,22", "0", "0", "0", "0", "0", "0"]
     cart_layers = timeline(
         layer(wheel, "左の車輪", key(1, 6, placement(18, 44, offset=(16, 16)))),
         layer(wheel, "右の車輪", key(1, 6, placement(82, 44, offset=(16, 16)))),
         layer(floor, "荷台", key(1, 6, placement(0, 26, scale=0.25))),
     )
+    face_layers = timeline(
+        layer(LABEL, "", key(2, 1, ["笑う,False"])),
+        frame_actions((1, "stop();"), (12, "gotoAndStop(1);")),
+        layer(face_shape, "", key(1, 1, placement(0, 0, tail=UPRIGHT))),
+        layer(smile, "", key(2, 11, placement(0, 0, tail=UPRIGHT))),
+    )
+    basket_layers = timeline(
+        layer(face, "", key(1, 1, placement(30, 22, tail=PLACED_SPRITE)), instance="face"),
+        layer(basket_shape, "", key(1, 1, placement(0, 0, tail=UPRIGHT))),
+    )
+    drop_layers = timeline(layer(ball, "", key(1, 1, placement(0, 0))))
     shadow = {"DropShadow": "0,0,0,60,6,6,45,6,1,False,False,True,2"}
     main = timeline(
-        layer(LABEL, "しおり", key(1, 1, ["はじまり,True"]), key(60, 1, ["おわり,False"])),
+        layer(LABEL, "しおり", key(1, 1, ["はじまり,True"]), key(60, 1, ["おわり,False"]), key(82, 1, ["遊び,False"])),
         folder("跳ねる玉", 2),
         layer(ball, "玉",
               key(1, 40, placement(30, 150, offset=(20, 20), filters=shadow, curve=((0.3, 0.9),),
@@ -185,6 +289,14 @@ def project():
         layer(ball, "影の玉", key(1, 80, placement(320, 150, offset=(20, 20), opacity=60, blend=3))),
         layer(cart, "荷車", key(1, 80, placement(-40, 244, tail=PLACED_SPRITE, easing=-120), tween=True),
               key(81, 1, placement(440, 244, tail=PLACED_SPRITE)), instance="cart"),
+        frame_actions((81, 'gotoAndPlay("はじまり");'), (82, GAME)),
+        layer(basket, "籠", key(82, 1, placement(200, 232, tail=PLACED_SPRITE)), instance="basket", actions=script(BASKET)),
+        button_layer(button, "遊ぶ釦", 'on (release, keyPress "<Enter>") { gotoAndStop("遊び"); }', key(1, 81, placement(16, 254))),
+        layer(play, "遊ぶ", key(1, 81, placement(60, 266, tail=PLACED_TEXT))),
+        button_layer(button, "もどる釦", 'on (release, keyPress "<Escape>") { leave(); gotoAndPlay("はじまり"); }',
+                     key(82, 1, placement(16, 254))),
+        layer(back, "もどる", key(82, 1, placement(60, 266, tail=PLACED_TEXT))),
+        layer(score, "得点", key(82, 1, placement(200, 264, tail=PLACED_TEXT))),
         layer(title, "題", key(1, 20, placement(110, 262, opacity=0, tail=PLACED_TEXT), tween=True),
               key(21, 61, placement(110, 262, tail=PLACED_TEXT))),
         layer(name, "お名前", key(1, 81, placement(300, 264, tail=PLACED_TEXT)), instance="name_field"),
@@ -200,10 +312,11 @@ def project():
         layer(sea, "海",
               key(1, 80, placement(150, -20, skew=0), tween=True), key(81, 1, placement(210, 0, skew=15))),
         layer(window, "丸窓", key(1, 81, placement(200, 10, tail=UPRIGHT)), mask=1),
-        layer(floor, "床", key(1, 81, placement(0, 240))),
+        layer(floor, "床", key(1, 82, placement(0, 240))),
         [f"{BACKGROUND},,,0,,{SCRIPT},True,1", "1,1,True,False,True,250,240,230"],
     )
-    return ["KVF,0,9,0", "400,300,24,8", str(len(symbols)), *symbols, *references, *cart_layers, *main]
+    return ["KVF,0,9,0", "400,300,24,8", str(len(symbols)), *symbols, *references, *cart_layers, *face_layers,
+            *basket_layers, *drop_layers, *main]
 
 
 draw_pictures()
