@@ -41,12 +41,14 @@ write("text-centre", 6, [text(1, "■■■\r\n■", align=2)], ["0"], [placed(1
 write("text-long-line", 6, [text(1, "一" * 150 + "■", size=1)], ["0"], [placed(1, key(1, 1, 20, 20, scale=(1, 20)))])
 CIRCLE = ('<?xml version="1.0" encoding="UTF-8"?>\n<svg xmlns="http://www.w3.org/2000/svg" width="100" height="100">\n<path d="M50 0 '
           'C77.6 0 100 22.4 100 50 C100 77.6 77.6 100 50 100 C22.4 100 0 77.6 0 50 C0 22.4 22.4 0 50 0" fill="#000000"/>\n</svg>\n')
-for name, turned in (("text-circle-turned", True), ("text-circle-upright", False)):
+for name, version, turned in (("text-circle-turned", 6, True), ("text-circle-upright", 6, False), ("text-circle-swf4", 4, True),
+                              ("text-circle-swf8", 8, True)):
     # Half a character before the first one's middle, then a quarter of the circle, 78.54 pixels, to each next.
-    write(name, 6, [text(1, "一一一一", space=41.39, along=("1", "1", turned, False, False, 1)),
+    write(name, version, [text(1, "一一一一", space=41.39, along=("1", "1", turned, False, False, 1)),
                     f"2,円.svg,ﾍﾞｸﾀ,,,,{PLAIN_VECTOR}"], ["2", "0"], [placed(1, key(1, 1, 50, 25))], {"円.svg": CIRCLE})
 FIELD = ["False", "True", "True", "False", "True", "False", "False", "v"]
-write("text-input", 6, [text(1, "", field=FIELD, embed="|", box=(160, 50), automatic=False)], ["0"], [placed(1, at)])
+for name, version in (("text-input", 6), ("text-input-swf4", 4), ("text-input-swf7", 7)):
+    write(name, version, [text(1, "", field=FIELD, embed="|", box=(160, 50), automatic=False)], ["0"], [placed(1, at)])
 write("text-field", 8, [text(1, "■■", field=FIELD, embed="■一", box=(160, 50), automatic=False, colour=(0, 0, 255))], ["0"],
       [placed(1, at)])
 
