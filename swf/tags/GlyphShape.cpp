@@ -1,5 +1,7 @@
 #include "swf/tags/GlyphShape.h"
 
+#include <utility>
+
 #include "swf/tags/ShapeEdge.h"
 
 namespace tamber {
@@ -67,15 +69,17 @@ private:
 }  // namespace
 
 void AddGlyphShape(const GlyphOutline& outline, Bytes& shapes) {
-    const std::size_t start = shapes.size();
     // Each contour may be closed by a line.
     std::size_t edges = outline.Contours.size();
     for (const OutlineContour& contour : outline.Contours)
         edges += static_cast<std::size_t>(contour.EdgeCount);
-    shapes.resize(start + mdlSWFTag::BitRun::RoomFor(Frame + LongestMove * outline.Contours.size() +
-                                                     edges * shape_edge::LongestRecord));
-    const Byte* end = GlyphWriter(shapes.data() + start).Write(outline);
-    shapes.resize(static_cast<std::size_t>(end - shapes.data()));
+    const std::size_t room = mdlSWFTag::BitRun::RoomFor(
+        Frame + LongestMove * outline.Contours.size() + edges * shape_edge::LongestRecord);
+    // Kept for the next glyph, since a glyph needs a fraction of the room that it may need.
+    static thread_local Bytes target;
+    if (target.size() < room) target.resize(room);
+    const Byte* end = GlyphWriter(target.data()).Write(outline);
+    shapes.insert(shapes.end(), std::as_const(target).data(), end);
 }
 
 }  // namespace tamber
