@@ -27,7 +27,7 @@ constexpr int DoneWithMessages = 3;
 
 constexpr const char* Usage =
     "Tamber [PROJECT]                      the window (where built with one)\n"
-    "Tamber generate PROJECT [-o OUT.swf] [--strict] [--set KEY=VALUE ...]\n"
+    "Tamber generate PROJECT [-o OUT.swf] [--html] [--strict] [--set KEY=VALUE ...]\n"
     "Tamber convert IN.kvf OUT.kvfz        load and save again\n"
     "Tamber info PROJECT [--json]          stage, symbols, layers, key frames, as read\n"
     "Tamber disassemble FILE.swf           tags and actions of a movie\n"
@@ -43,6 +43,7 @@ struct Options {
     std::string Home;
     std::vector<std::string> Settings;
     bool Strict = false;
+    bool Html = false;
     bool Json = false;
     bool Yes = false;
     bool Help = false;
@@ -62,6 +63,7 @@ void TakeValue(Options& options, const std::string& name, const std::string& val
 
 bool TakeFlag(Options& options, const std::string& name) {
     if (name == "--strict") return options.Strict = true;
+    if (name == "--html") return options.Html = true;
     if (name == "--json") return options.Json = true;
     if (name == "--yes") return options.Yes = true;
     if (name == "--help" || name == "-h") return options.Help = true;
@@ -110,6 +112,7 @@ bool LoadFor(frmMain& controller, const std::string& word) {
 }
 
 int Generate(const Options& options, const ConsoleUserInterface& console) {
+    if (options.Html) mdlPrivateProfile::SettingsOverride(u"flgMakeHTML=1");
     frmMain controller;
     if (!LoadFor(controller, options.Words[1])) return CouldNot;
     const String project = controller.ProjectFileName;

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "app/AssetReader.h"
+#include "app/MoviePageWriter.h"
 #include "app/mdlPrivateProfile.h"
 #include "document/AppVersion.h"
 #include "document/ProjectWriter.h"
@@ -35,25 +36,6 @@ Single FrameRateOf(StringView text) {
     } catch (const RuntimeError&) {
         return DefaultFrameRate;
     }
-}
-
-/// The page's settings as the program holds them.
-HtmlSettings HtmlSection() {
-    namespace settings = mdlPrivateProfile;
-    HtmlSettings html;
-    html.SizeUnit = settings::HTML_SizeUnit();
-    html.WIDTH = ToText(settings::HTML_WIDTH());
-    html.HEIGHT = ToText(settings::HTML_HEIGHT());
-    html.align = settings::HTML_align();
-    html.salign = settings::HTML_salign();
-    html.play = settings::HTML_play();
-    html.loop = settings::HTML_loop();
-    html.menu = settings::HTML_menu();
-    html.quality = settings::HTML_quality();
-    html.wmode = settings::HTML_wmode();
-    html.scale = settings::HTML_scale();
-    html.NamedAnchors = settings::HTML_NamedAnchors();
-    return html;
 }
 
 /// Sizes beyond the range give its ends.
@@ -181,11 +163,30 @@ bool frmMain::mnuAuthoring(StringView path) {
     request.blProgress = true;
     request.blCompress = mdlPrivateProfile::flgSWFCompress();
     request.blTopToBottom = mdlPrivateProfile::flgTopToBottom();
+    String anchors;
+    request.AnchorLabels = &anchors;
     if (!mdlSWFAuthoring::BuildMovie(request)) return false;
+    if (mdlPrivateProfile::flgMakeHTML()) WritePage(path, anchors);
     const auto elapsed = std::chrono::duration_cast<std::chrono::milliseconds>(
         std::chrono::steady_clock::now() - begin);
     CurrentUserInterface().Status(ToGroupedText(elapsed.count()) + u" ms");
     return true;
+}
+
+/// `anchors` has a tab before each.
+void frmMain::WritePage(StringView moviePath, StringView anchors) const {
+    MoviePage page;
+    page.Width = inProject.MainWidth;
+    page.Height = inProject.MainHeight;
+    page.Version = inProject.SWFVersion;
+    page.Settings = inProject.Html ? *inProject.Html : HtmlSection();
+    while (!anchors.empty()) {
+        anchors.remove_prefix(1);
+        const std::size_t end = std::min(anchors.find(u'\t'), anchors.size());
+        page.Anchors.emplace_back(anchors.substr(0, end));
+        anchors.remove_prefix(end);
+    }
+    WriteMoviePage(moviePath, std::move(page));
 }
 
 }  // namespace tamber

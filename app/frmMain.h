@@ -69,8 +69,9 @@ public:
     bool OpenProject(StringView path);
     /// Writes the open project to a path. False when it could not be written, `why` then tells.
     bool SaveTo(StringView path, RuntimeError* why);
-    /// Generates the movie of the open project. False when nothing was written: a file that the
-    /// project is made from is no place for a movie.
+    /// Generates the movie of the open project, and its page where the settings ask for one. False
+    /// when nothing was written: a file that the project is made from is no place for a movie. A
+    /// page that cannot be made is told, and the movie stays.
     bool mnuAuthoring(StringView path);
 
 private:
@@ -82,6 +83,7 @@ private:
     void LogStep(StringView step);
     /// The project's own file, or one that a symbol is made from.
     bool IsSource(StringView path) const;
+    void WritePage(StringView moviePath, StringView anchors) const;
 };
 
 }  // namespace tamber

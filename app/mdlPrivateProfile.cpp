@@ -35,6 +35,7 @@ constexpr std::array KnownKeys = std::to_array<const KeyName*>({
     &flgTopToBottom,
     &flgSWFCompress,
     &flgMakeHTML,
+    &flgPagePlayer,
     &flgPrevPrjPath,
     &flgMouseSelect,
     &flgSameKeyFrameSelect,

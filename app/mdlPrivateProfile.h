@@ -91,6 +91,8 @@ inline constexpr FlagKey flgLoadMovie{u"Setting", u"flgLoadMovie", true};
 inline constexpr FlagKey flgTopToBottom{u"Setting", u"flgTopToBottom", true};
 inline constexpr FlagKey flgSWFCompress{u"Setting", u"flgSWFCompress", true};
 inline constexpr FlagKey flgMakeHTML{u"Setting", u"flgMakeHTML", false};
+/// The page of a movie loads a player that lies beside it.
+inline constexpr FlagKey flgPagePlayer{u"Setting", u"flgPagePlayer", true};
 inline constexpr FlagKey flgPrevPrjPath{u"Setting", u"flgPrevPrjPath", true};
 inline constexpr FlagKey flgMouseSelect{u"Setting", u"flgMouseSelect", true};
 inline constexpr FlagKey flgSameKeyFrameSelect{u"Setting", u"flgSameKeyFrameSelect", false};

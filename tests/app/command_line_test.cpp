@@ -61,6 +61,33 @@ TEST_F(CommandLineTest, generates_the_example_without_a_message) {
                                 static_cast<unsigned char>(plain[6]) << 16);
 }
 
+TEST_F(CommandLineTest, generate_writes_a_page_and_the_player_that_it_loads) {
+    const fs::path package = folder / "node_modules/@ruffle-rs/ruffle";
+    fs::create_directories(package);
+    std::ofstream(package / "ruffle.js") << "player";
+    std::ofstream(package / "core.wasm") << "core";
+    const Outcome run = Tamber("generate " + hello + " -o a.swf --html --strict");
+    EXPECT_EQ(run.Code, 0) << run.Errors;
+    EXPECT_NE(TextOf(folder / "a.html").find("SRC=\"a.swf\""), std::string::npos);
+    EXPECT_EQ(TextOf(folder / "ruffle/ruffle.js") + TextOf(folder / "ruffle/core.wasm"),
+              "playercore");
+    // Where it is asked for none, and where there is none to be had.
+    fs::remove_all(folder / "node_modules");
+    fs::remove_all(folder / "ruffle");
+    Tamber("generate " + hello + " -o b.swf --html --set flgPagePlayer=0");
+    EXPECT_EQ(TextOf(folder / "b.html").find("ruffle"), std::string::npos);
+    EXPECT_FALSE(fs::exists(folder / "ruffle"));
+}
+
+TEST_F(CommandLineTest, a_page_without_its_template_leaves_the_movie) {
+    const Outcome run = Tamber("generate " + hello + " -o a.swf --html --strict --home .");
+    EXPECT_EQ(run.Code, 3);
+    EXPECT_NE(run.Errors.find("template.txt が開けません。"), std::string::npos);
+    EXPECT_NE(run.Errors.find("HTMLファイルが保存できません。"), std::string::npos);
+    EXPECT_TRUE(fs::exists(folder / "a.swf"));
+    EXPECT_FALSE(fs::exists(folder / "a.html"));
+}
+
 TEST_F(CommandLineTest, info_tells_what_the_project_holds) {
     const Outcome run = Tamber("info " + hello + " --json");
     ASSERT_EQ(run.Code, 0) << run.Errors;

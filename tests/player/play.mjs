@@ -1,7 +1,7 @@
 #!/usr/bin/env node
 // Generates the movie of every case and looks at it in a real player; then compares drawings with another renderer.
 //
-//   node play.mjs TAMBER MODULES OUTPUT [CASE... | drawings]
+//   node play.mjs TAMBER MODULES OUTPUT [CASE... | page | drawings]
 //
 // TAMBER is the program, MODULES the folder with node_modules, OUTPUT where movies and the pictures of all looked-at
 // frames go. Exit status 0 when all is as expected, 1 when not.
@@ -76,6 +76,18 @@ async function checkCase(stage, tamber, name, output) {
   return [...headerDifferences(movie, description), ...await look(stage, movie, description, path.join(output, name))];
 }
 
+/** The page of a movie loads the player that was put beside it. The page's margin is 8 pixels wide. */
+async function checkPage(stage, tamber, output) {
+  const expectation = { frame: 1, pixels: [{ x: 68, y: 68, colour: '#ff0000' }, { x: 20, y: 20, colour: '#fff0c8' }, { x: 4, y: 4, colour: '#ffffff' }] };
+  const folder = path.join(casesFolder, 'order');
+  rmSync(stage.pageFolder, { recursive: true, force: true });
+  mkdirSync(stage.pageFolder);
+  generate(tamber, { project: 'order.kvf', arguments: ['--html'] }, folder, path.join(stage.pageFolder, 'order.swf'));
+  const { file, picture } = await stage.openPage('order.html', (seen) => differences(seen, expectation).length === 0);
+  writeFileSync(path.join(output, 'page.png'), file);
+  return differences(picture, expectation);
+}
+
 async function checkDrawings(stage, tamber, output, report) {
   const folder = path.join(output, 'drawings');
   await report('drawings', async () => {
@@ -108,8 +120,9 @@ async function main([tamber, modules, output, ...chosen]) {
   };
   try {
     await report('(the runner itself)', () => checkRunner(stage, output));
-    for (const name of names.filter((name) => name !== 'drawings'))
+    for (const name of names.filter((name) => name !== 'drawings' && name !== 'page'))
       await report(name, () => checkCase(stage, path.resolve(tamber), name, output));
+    if (!chosen.length || chosen.includes('page')) await report('page', () => checkPage(stage, path.resolve(tamber), output));
     if (!chosen.length || chosen.includes('drawings')) await checkDrawings(stage, path.resolve(tamber), output, report);
   } finally {
     await stage.close();

@@ -8,7 +8,7 @@ import path from 'node:path';
 import { decodePng } from './png.mjs';
 
 const here = path.dirname(fileURLToPath(import.meta.url));
-const types = { '.js': 'text/javascript', '.wasm': 'application/wasm' };
+const types = { '.html': 'text/html', '.js': 'text/javascript', '.wasm': 'application/wasm' };
 const html = `<!doctype html><meta charset="utf-8">
 <style>html, body { margin: 0; overflow: hidden } ruffle-player { display: block }</style><body>
 <script>window.RufflePlayer = { config: { polyfills: false } }</script><script src="/player/ruffle.js"></script>`;
@@ -26,12 +26,12 @@ function findBrowser() {
   return found;
 }
 
-function serve(playerFolder) {
+function serve(playerFolder, pageFolder) {
   const server = createServer(async (request, response) => {
-    const name = new URL(request.url, 'http://localhost').pathname;
+    const name = decodeURIComponent(new URL(request.url, 'http://localhost').pathname);
     if (name === '/') return response.writeHead(200, { 'content-type': 'text/html' }).end(html);
     try {
-      const file = path.join(playerFolder, path.basename(name));
+      const file = name.startsWith('/page/') ? path.join(pageFolder, name.slice(6)) : path.join(playerFolder, path.basename(name));
       const body = await readFile(file);
       response.writeHead(200, { 'content-type': types[path.extname(file)] ?? 'application/octet-stream' }).end(body);
     } catch {
@@ -47,7 +47,8 @@ export class Stage {
     const require = createRequire(pathToFileURL(path.join(modules, 'package.json')));
     const { chromium } = require('playwright-core');
     const stage = new Stage();
-    stage.server = await serve(path.join(modules, 'node_modules', '@ruffle-rs', 'ruffle'));
+    stage.pageFolder = path.join(modules, 'page');
+    stage.server = await serve(path.join(modules, 'node_modules', '@ruffle-rs', 'ruffle'), stage.pageFolder);
     stage.browser = await chromium.launch({ executablePath: findBrowser(), args: flags });
     stage.page = await stage.browser.newPage({ deviceScaleFactor: 1 });
     await stage.page.addInitScript({ path: path.join(here, 'page.js') });
@@ -84,6 +85,20 @@ export class Stage {
   /** The texts that the movie's scripts traced since the last call. */
   async traces() {
     return this.page.evaluate(() => window.movieStage.takeTraces());
+  }
+
+  /** Opens a page of the page folder as a person's browser does, its clock running; answers the picture once `isReady` says
+   * that it is there, or after 20 seconds. */
+  async openPage(name, isReady) {
+    const page = await this.browser.newPage({ deviceScaleFactor: 1, viewport: { width: 300, height: 250 } });
+    await page.goto(`http://127.0.0.1:${this.server.address().port}/page/${name}`);
+    for (const end = Date.now() + 20000; ; await new Promise((done) => setTimeout(done, 200))) {
+      const file = await page.screenshot();
+      const picture = decodePng(file);
+      if (!isReady(picture) && Date.now() < end) continue;
+      await page.close();
+      return { file, picture };
+    }
   }
 
   async close() {

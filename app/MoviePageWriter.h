@@ -1,0 +1,16 @@
+#pragma once
+
+#include "output/MovieHtml.h"
+
+namespace tamber {
+
+/// Settings of a page as the program holds them.
+HtmlSettings HtmlSection();
+
+/// Fills the program's `template.txt` and writes it beside a movie, with ".html" for its extension.
+/// A page that loads a player gets it from the installed package; where there is none, a status
+/// line tells what to do. False, with a message, when there is no template or nothing could be
+/// written.
+bool WriteMoviePage(StringView moviePath, MoviePage page);
+
+}  // namespace tamber
