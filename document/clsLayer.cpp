@@ -361,6 +361,12 @@ std::shared_ptr<clsLayer> clsLayer::Copy() const {
     return copy;
 }
 
+std::shared_ptr<clsLayer> clsLayer::CopyHead() const {
+    auto copy = std::make_shared<clsLayer>(*this);
+    copy->colObject.Clear();
+    return copy;
+}
+
 void clsLayer::CopyTo(clsLayer& target) const {
     if (&target == this) return;
     target = *this;

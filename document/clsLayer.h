@@ -110,6 +110,8 @@ public:
     clsLayerFolder* Folder() const;
 
     std::shared_ptr<clsLayer> Copy() const;
+    /// A copy without key frames.
+    std::shared_ptr<clsLayer> CopyHead() const;
     void CopyTo(clsLayer& target) const;
     /// Reads from the cell behind the symbol's ID; `SymbolData` is set before.
     void Load(clsCSV& csv);
