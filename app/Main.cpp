@@ -49,6 +49,7 @@ bool Application::Main(StringView commandLine) {
     DeleteOldKeywords();
     controller_ = std::make_unique<frmMain>();
     controller_->ClassNames = ClassNames();
+    controller_->blRecentFiles = true;
     controller_->Form_Load();
     const String path = ProjectPathOf(commandLine);
     if (!path.empty()) controller_->OpenProject(AbsolutePath(path));

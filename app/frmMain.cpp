@@ -86,11 +86,8 @@ void frmMain::Form_Load() {
     LogStep(u"シンボル用リストクラス初期化：");
     AddBackgroundLayer();
     LogStep(u"背景レイヤー追加：");
-    editLayers_ = colMainLayer();
-    editIndex = EditMain;
-    SelIndex1 = SelIndex2 = 1;
-    view_->DispDataTbl();
-    view_->ShowEditFrame();
+    cUndoRedo.MaxHistory(mdlPrivateProfile::UndoRedoMaxCount());
+    ShowProject();
     LogStep(u"メインのレイヤーをセット：");
     startLog_.clear();
     blHotKeyEnable = true;
@@ -99,6 +96,7 @@ void frmMain::Form_Load() {
 void frmMain::Form_Unload() {
     blHotKeyEnable = false;
     editLayers_.reset();
+    cUndoRedo = clsUndoRedo();
     ClearCollection(*inProject.colMainLayer);
     ClearCollection(*inProject.colSymbol);
 }
@@ -110,23 +108,6 @@ void frmMain::AddBackgroundLayer() {
     layer->Add(1, nullptr, index);
     layer->Object(index)->blFixed = true;
     colMainLayer()->Add(std::move(layer));
-}
-
-bool frmMain::OpenProject(StringView path) {
-    if (!FileExists(path)) {
-        ShowMessage(String(path) + u"\r\n\r\nファイルが見つかりません。");
-        return false;
-    }
-    if (!LoadProject(path, inProject, AssetReader())) return false;
-    ProjectFileName = path;
-    ProjectDir = GetFileFolder(path);
-    editLayers_ = colMainLayer();
-    editIndex = EditMain;
-    SelIndex1 = SelIndex2 = 1;
-    view_->RefreshFgrdSymbol();
-    view_->DispDataTbl();
-    view_->ShowEditFrame();
-    return true;
 }
 
 bool frmMain::SaveTo(StringView path, RuntimeError* why) {

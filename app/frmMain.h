@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "document/Project.h"
+#include "document/clsUndoRedo.h"
 #include "platform/RuntimeError.h"
 
 namespace tamber {
@@ -16,6 +17,15 @@ public:
     virtual void DispEditTimeLine() {}
     virtual void ShowEditFrame() {}
     virtual void RefreshFgrdSymbol() {}
+    virtual void SetCanvasSize(Long width, Long height) {
+        (void)width;
+        (void)height;
+    }
+    /// Whether a step can be undone, and redone.
+    virtual void ShowUndoRedo(bool undo, bool redo) {
+        (void)undo;
+        (void)redo;
+    }
 };
 
 /// The label over the layer table, which tells what is edited.
@@ -23,6 +33,16 @@ struct EditContext {
     String Text;
     /// Red in the low byte.
     Long BackColor = 0;
+};
+
+/// How a state enters a history.
+enum class UndoStep {
+    Init = 0,
+    Change = 1,
+    /// Put aside until a change follows in another timeline.
+    Pending = 2,
+    /// In place of the last one.
+    Merge = 3,
 };
 
 /// The controller: owns the open project and everything that edits it.
@@ -42,6 +62,10 @@ public:
     String ProjectDir;
     /// Names of the classes that the script editor offers.
     std::vector<String> ClassNames;
+    /// History of the main timeline, or of all timelines where the settings say "All".
+    clsUndoRedo cUndoRedo;
+    /// Opened and saved projects enter the list of recent files.
+    bool blRecentFiles = false;
 
     explicit frmMain(std::shared_ptr<MainView> view = std::make_shared<MainView>())
         : view_(std::move(view)) {}
@@ -64,9 +88,37 @@ public:
     /// Lets go of all that the start made, in its order.
     void Form_Unload();
     void AddBackgroundLayer();
-    /// Reads a project in place of the open one. False when it cannot be read; the user was told
-    /// and the open project stays.
+    /// Steps were recorded since the last save.
+    bool IsProjectChanged() const;
+    /// An empty project in place of the open one, with its stage, rate and version. False when the
+    /// user would rather keep what was changed.
+    bool mnuNew();
+    /// Reads a project in place of the open one; asks for its path when `path` is empty. False when
+    /// the user would rather not, and when it cannot be read; the user was told and the open
+    /// project stays.
     bool OpenProject(StringView path);
+    /// Saves to the project's own path, or asks for one. False when it is not saved.
+    bool mnuSave();
+    bool mnuSaveNew();
+    /// Saves to a path, which becomes the project's own.
+    bool mnuSaveNew(StringView path);
+    /// Stage in pixels, 1 to 2000; frames a second, 0.01 to 100; version 4, 6, 7 or 8. False, with
+    /// nothing changed, for anything else.
+    bool mnuPrjProperty(Long width, Long height, Single frameRate, Long swfVersion);
+    /// Makes a timeline the edited one and selects its row and, unless it is 0, key frame `col`:
+    /// `index` 0 stays with the present one, -1 is the main timeline, else a symbol's.
+    void SetLayers(Long index, Long row, Long col);
+    /// Switches to a timeline, the first row selected; 0 only shows the present one again.
+    void ChangeSprite(Long index);
+
+    /// Records the edited timeline. A tag that the last step had too joins the two.
+    void AddUndoRedoData(UndoStep type, StringView tag = {});
+    /// Records a timeline of a symbol in a history, which is made when there is none.
+    static void AddUndoRedoData2(std::shared_ptr<clsUndoRedo>& history,
+                                 const Collection<clsLayer>& layers,
+                                 const std::shared_ptr<clsSymbolData>& symbol, UndoStep type);
+    /// 0 undoes a step, 1 redoes one, 2 shows the present state again.
+    void mnuUndoRedo(Long index);
     /// Writes the open project to a path. False when it could not be written, `why` then tells.
     bool SaveTo(StringView path, RuntimeError* why);
     /// Generates the movie of the open project, and its page where the settings ask for one. False
@@ -83,6 +135,18 @@ private:
     void LogStep(StringView step);
     /// The project's own file, or one that a symbol is made from.
     bool IsSource(StringView path) const;
+    /// The symbol whose timeline is edited; null for the main timeline.
+    std::shared_ptr<clsSymbolData> EditSymbol() const;
+    /// History that edits of the edited timeline go into.
+    clsUndoRedo& EditHistory();
+    void AttachHistory();
+    /// Asks what to do with changes. False when the command must not go on.
+    bool Guard();
+    void ClearHistories();
+    void Renumber();
+    /// What all commands that put another project in place end with.
+    void ShowProject();
+    void AddRecentFile(StringView path) const;
     void WritePage(StringView moviePath, StringView anchors) const;
 };
 

@@ -48,7 +48,9 @@ void clsPropertyClass::CopyTo(clsPropertyData& target) const {
     auto layers = std::make_shared<Collection<clsLayer>>();
     for (const auto& layer : *colLayer) layers->Add(layer->Copy());
     NestLayers(*layers);
-    dynamic_cast<clsPropertyClass&>(target).colLayer = std::move(layers);
+    auto& copy = dynamic_cast<clsPropertyClass&>(target);
+    copy.colLayer = std::move(layers);
+    copy.cUndoRedo.reset();
 }
 
 }  // namespace tamber

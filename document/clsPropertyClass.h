@@ -8,6 +8,7 @@
 namespace tamber {
 
 class clsLayer;
+class clsUndoRedo;
 
 /// A class of ActionScript; each layer holds a part of its text.
 class clsPropertyClass : public clsPropertyData {
@@ -15,6 +16,8 @@ public:
     String className;
     String Extends;
     std::shared_ptr<Collection<clsLayer>> colLayer = std::make_shared<Collection<clsLayer>>();
+    /// History of the timeline, where each has its own; null until it is edited. A copy has none.
+    std::shared_ptr<clsUndoRedo> cUndoRedo;
 
     Long eType() const override { return KindClass; }
     void Load(clsCSV& csv) override;

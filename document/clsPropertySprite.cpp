@@ -41,7 +41,9 @@ void clsPropertySprite::CopyTo(clsPropertyData& target) const {
     auto layers = std::make_shared<Collection<clsLayer>>();
     for (const auto& layer : *colLayer) layers->Add(layer->Copy());
     NestLayers(*layers);
-    dynamic_cast<clsPropertySprite&>(target).colLayer = std::move(layers);
+    auto& copy = dynamic_cast<clsPropertySprite&>(target);
+    copy.colLayer = std::move(layers);
+    copy.cUndoRedo.reset();
 }
 
 bool clsPropertySprite::CkHasLoop(const clsSymbolData& symbol) const {

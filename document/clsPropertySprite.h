@@ -8,6 +8,7 @@
 namespace tamber {
 
 class clsLayer;
+class clsUndoRedo;
 class clsSymbolData;
 
 /// A sprite: a timeline of its own.
@@ -25,6 +26,8 @@ public:
     Long GridRight = 0;
     Long GridBottom = 0;
     std::shared_ptr<Collection<clsLayer>> colLayer = std::make_shared<Collection<clsLayer>>();
+    /// History of the timeline, where each has its own; null until it is edited. A copy has none.
+    std::shared_ptr<clsUndoRedo> cUndoRedo;
 
     /// True when the timeline, and all that it shows, reaches `symbol`.
     bool CkHasLoop(const clsSymbolData& symbol) const;

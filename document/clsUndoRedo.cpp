@@ -79,8 +79,13 @@ const LayerSnapshot& clsUndoRedo::LatestOf(const std::shared_ptr<clsSymbolData>&
     return none;
 }
 
-void clsUndoRedo::Change(clsUndoRedoData data, const Collection<clsLayer>& layers, bool merge) {
+void clsUndoRedo::Complete(clsUndoRedoData& data, const Collection<clsLayer>& layers) const {
+    if (data.inSprite == Owner.lock()) data.inSprite.reset();
     data.colEditLayer = TakeLayerSnapshot(layers, LatestOf(data.inSprite));
+}
+
+void clsUndoRedo::Change(clsUndoRedoData data, const Collection<clsLayer>& layers, bool merge) {
+    Complete(data, layers);
     if (merge && !states_.empty()) {
         data.Kept = std::move(Present().Kept);
         Present() = std::move(data);
@@ -104,7 +109,7 @@ void clsUndoRedo::Push(clsUndoRedoData data) {
 }
 
 void clsUndoRedo::SetUndoRedoData(clsUndoRedoData data, const Collection<clsLayer>& layers) {
-    data.colEditLayer = TakeLayerSnapshot(layers, LatestOf(data.inSprite));
+    Complete(data, layers);
     pending_ = std::move(data);
 }
 
@@ -119,14 +124,14 @@ clsUndoRedo::Restored clsUndoRedo::Restore(Collection<clsSymbolData>& library,
     const clsUndoRedoData& state = Present();
     Restored restored;
     restored.colEditLayer = RestoreLayers(state.colEditLayer);
-    restored.inSprite = state.inSprite;
+    restored.inSprite = state.inSprite ? state.inSprite : Owner.lock();
     const clsUndoRedoData& selection = state.inSprite != left.inSprite ? state : left;
     restored.Row = selection.Row;
     restored.KeyFrame = selection.KeyFrame;
     for (const auto& layer : *restored.colEditLayer) ReturnToLibrary(layer->SymbolData(), library);
-    if (state.inSprite) {
-        ReturnToLibrary(state.inSprite, library);
-        SetLayersOf(*state.inSprite, restored.colEditLayer);
+    if (restored.inSprite) {
+        ReturnToLibrary(restored.inSprite, library);
+        SetLayersOf(*restored.inSprite, restored.colEditLayer);
     }
     RaiseOnUndoRedo();
     return restored;

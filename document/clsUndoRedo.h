@@ -33,6 +33,9 @@ public:
         Long KeyFrame = 1;
     };
 
+    /// The symbol whose record holds this history, in place of which its states are stored without
+    /// one: they would keep it for ever. Empty for the controller's.
+    std::weak_ptr<clsSymbolData> Owner;
     /// Steps since the last save, less those undone; 0 for a project that was not changed.
     Long TotalHistory = 0;
     /// Tag of the last step, by which the next may join it.
@@ -74,6 +77,7 @@ private:
     const LayerSnapshot& LatestOf(const std::shared_ptr<clsSymbolData>& sprite) const;
     Restored Restore(Collection<clsSymbolData>& library, const clsUndoRedoData& left);
     void Push(clsUndoRedoData data);
+    void Complete(clsUndoRedoData& data, const Collection<clsLayer>& layers) const;
     clsUndoRedoData& Present() { return states_[position_ - 1]; }
 
     std::deque<clsUndoRedoData> states_;

@@ -1,0 +1,284 @@
+#include <algorithm>
+
+#include "app/AssetReader.h"
+#include "app/frmMain.h"
+#include "app/mdlPrivateProfile.h"
+#include "document/ProjectWriter.h"
+#include "document/SymbolKinds.h"
+#include "document/clsPropertyClass.h"
+#include "document/clsPropertySprite.h"
+#include "platform/UserInterface.h"
+#include "platform/paths.h"
+#include "platform/text.h"
+
+// The commands that tell which project is open, and which of its timelines is edited.
+
+namespace tamber {
+
+namespace {
+
+constexpr Long LargestStage = 2000;
+constexpr Single LowestRate = 0.01f;
+constexpr Single HighestRate = 100;
+
+bool IsOfferedVersion(Long version) {
+    return version == 4 || (version >= 6 && version <= 8);
+}
+
+/// The history that the record of a sprite or class holds; null for other kinds.
+std::shared_ptr<clsUndoRedo>* OwnHistory(const clsSymbolData& symbol) {
+    if (auto* sprite = symbol.Property<clsPropertySprite>()) return &sprite->cUndoRedo;
+    if (auto* record = symbol.Property<clsPropertyClass>()) return &record->cUndoRedo;
+    return nullptr;
+}
+
+std::shared_ptr<Collection<clsLayer>> LayersOf(const clsSymbolData& symbol) {
+    if (const auto* sprite = symbol.Property<clsPropertySprite>()) return sprite->colLayer;
+    if (const auto* record = symbol.Property<clsPropertyClass>()) return record->colLayer;
+    return nullptr;
+}
+
+FileDialog ProjectDialog(StringView title) {
+    FileDialog dialog;
+    dialog.Title = title;
+    return dialog;
+}
+
+}  // namespace
+
+bool frmMain::IsProjectChanged() const {
+    if (cUndoRedo.TotalHistory != 0) return true;
+    if (mdlPrivateProfile::UndoRedoType()) return false;
+    return std::any_of(colSymbol()->begin(), colSymbol()->end(), [](const auto& symbol) {
+        const auto* history = OwnHistory(*symbol);
+        return history != nullptr && *history && (*history)->TotalHistory != 0;
+    });
+}
+
+bool frmMain::Guard() {
+    if (!IsProjectChanged()) return true;
+    const Answer answer =
+        CurrentUserInterface().Ask(u"プロジェクトは変更されています。\r\n上書き保存しますか？",
+                                   ProgramTitle, Choices::YesNoCancel);
+    if (answer == Answer::Cancel) return false;
+    return answer == Answer::No || (mnuSave() && !IsProjectChanged());
+}
+
+void frmMain::ShowProject() {
+    editIndex = 0;
+    SetLayers(EditMain, 1, 0);
+    view_->RefreshFgrdSymbol();
+    cUndoRedo.OnUndo = cUndoRedo.OnRedo = nullptr;
+    AddUndoRedoData(UndoStep::Init);
+    AttachHistory();
+}
+
+bool frmMain::mnuNew() {
+    if (!Guard()) return false;
+    ProjectFileName.clear();
+    ProjectDir.clear();
+    inProject.colSymbol = std::make_shared<Collection<clsSymbolData>>();
+    inProject.colMainLayer = std::make_shared<Collection<clsLayer>>();
+    inProject.Html.reset();
+    AddBackgroundLayer();
+    ShowProject();
+    return true;
+}
+
+bool frmMain::OpenProject(StringView path) {
+    if (!Guard()) return false;
+    String chosen(path);
+    if (chosen.empty()) {
+        FileDialog dialog = ProjectDialog(u"プロジェクトを開く");
+        dialog.Filters = {{u"KVFファイル (*.kvf;*.kvfz)", u"*.kvf;*.kvfz"}};
+        chosen = CurrentUserInterface().OpenFileDialog(dialog);
+        if (chosen.empty()) return false;
+    }
+    if (!FileExists(chosen)) {
+        ShowMessage(chosen + u"\r\n\r\nファイルが見つかりません。");
+        return false;
+    }
+    if (!LoadProject(chosen, inProject, AssetReader())) return false;
+    ProjectFileName = chosen;
+    ProjectDir = GetFileFolder(chosen);
+    ShowProject();
+    AddRecentFile(chosen);
+    return true;
+}
+
+bool frmMain::mnuSave() {
+    return ProjectFileName.empty() ? mnuSaveNew() : mnuSaveNew(ProjectFileName);
+}
+
+bool frmMain::mnuSaveNew() {
+    FileDialog dialog = ProjectDialog(u"名前を付けて保存");
+    dialog.Filters = {{u"KVFファイル (*.kvf)", u"*.kvf"}, {u"KVFZファイル (*.kvfz)", u"*.kvfz"}};
+    dialog.FilterIndex = FoldCase(GetFileExt(ProjectFileName)) == u"kvfz" ? 1 : 0;
+    dialog.FileName = GetFileBase(ProjectFileName);
+    const String path = CurrentUserInterface().SaveFileDialog(dialog);
+    return !path.empty() && mnuSaveNew(path);
+}
+
+bool frmMain::mnuSaveNew(StringView path) {
+    const String target(path);
+    RuntimeError why(0, u"", u"");
+    if (!SaveTo(target, &why)) {
+        ShowMessage(u"保存できませんでした。\r\n\r\n「Number： " + ToText(why.Number) + u"\r\n" +
+                    why.Description + u"」");
+        return false;
+    }
+    ProjectFileName = target;
+    ProjectDir = GetFileFolder(target);
+    ClearHistories();
+    AddRecentFile(target);
+    CurrentUserInterface().Status(u"保存しました");
+    return true;
+}
+
+void frmMain::ClearHistories() {
+    cUndoRedo.TotalHistory = 0;
+    if (mdlPrivateProfile::UndoRedoType()) return;
+    for (const auto& symbol : *colSymbol())
+        if (auto* history = OwnHistory(*symbol); history != nullptr && *history)
+            (*history)->TotalHistory = 0;
+}
+
+void frmMain::AddRecentFile(StringView path) const {
+    if (!blRecentFiles) return;
+    std::vector<String> paths = mdlPrivateProfile::RecentFile();
+    std::erase_if(paths, [path](const String& known) { return EqualsNoCase(known, path); });
+    paths.insert(paths.begin(), String(path));
+    mdlPrivateProfile::RecentFile(paths);
+}
+
+bool frmMain::mnuPrjProperty(Long width, Long height, Single frameRate, Long swfVersion) {
+    const auto isSide = [](Long side) { return side >= 1 && side <= LargestStage; };
+    if (!isSide(width) || !isSide(height) || !(frameRate >= LowestRate) ||
+        frameRate > HighestRate || !IsOfferedVersion(swfVersion))
+        return false;
+    inProject.MainWidth = width;
+    inProject.MainHeight = height;
+    inProject.FrameRate = frameRate;
+    inProject.SWFVersion = swfVersion;
+    if (editIndex == EditMain) view_->SetCanvasSize(width, height);
+    view_->DispDataTbl();
+    view_->ShowEditFrame();
+    return true;
+}
+
+std::shared_ptr<clsSymbolData> frmMain::EditSymbol() const {
+    return editIndex > 0 ? colSymbol()->Item(editIndex) : nullptr;
+}
+
+void frmMain::SetLayers(Long index, Long row, Long col) {
+    const bool changed = index != 0 && index != editIndex;
+    if (index != 0) editIndex = index;
+    if (const auto symbol = EditSymbol()) {
+        editLayers_ = LayersOf(*symbol);
+        const bool isClass = symbol->eType() == KindClass;
+        view_->SetCanvasSize(isClass ? inProject.MainWidth : symbol->PixelWidth(),
+                             isClass ? inProject.MainHeight : symbol->PixelHeight());
+    } else {
+        editLayers_ = colMainLayer();
+        view_->SetCanvasSize(inProject.MainWidth, inProject.MainHeight);
+    }
+    SelIndex1 = SelIndex2 = row;
+    if (const auto layer = EditLayer(); layer && col != 0)
+        layer->SelectIndex = std::clamp(col, 1, std::max(layer->ObjectCount(), 1));
+    view_->DispDataTbl();
+    view_->ShowEditFrame();
+    if (changed && !mdlPrivateProfile::UndoRedoType()) AttachHistory();
+}
+
+void frmMain::ChangeSprite(Long index) {
+    if (index == 0) {
+        view_->DispDataTbl();
+        return;
+    }
+    const bool isTimeline = index == EditMain || (index >= 1 && index <= colSymbol()->Count() &&
+                                                  LayersOf(*colSymbol()->Item(index)) != nullptr);
+    if (index == editIndex || !isTimeline) return;
+    SetLayers(index, 1, 0);
+    if (mdlPrivateProfile::UndoRedoType()) AddUndoRedoData(UndoStep::Pending);
+}
+
+clsUndoRedo& frmMain::EditHistory() {
+    const auto symbol = EditSymbol();
+    if (!symbol || mdlPrivateProfile::UndoRedoType()) return cUndoRedo;
+    std::shared_ptr<clsUndoRedo>& own = *OwnHistory(*symbol);
+    if (!own) AddUndoRedoData2(own, *editLayers_, symbol, UndoStep::Change);
+    return *own;
+}
+
+/// The buttons show what the history of the edited timeline can do.
+void frmMain::AttachHistory() {
+    clsUndoRedo& history = EditHistory();
+    const auto show = [this, &history](bool) {
+        view_->ShowUndoRedo(history.CanUndo(), history.CanRedo());
+    };
+    history.OnUndo = history.OnRedo = show;
+    history.RaiseOnUndoRedo();
+}
+
+void frmMain::AddUndoRedoData(UndoStep type, StringView tag) {
+    clsUndoRedo& history = EditHistory();
+    clsUndoRedoData data;
+    data.inSprite = EditSymbol();
+    data.Row = SelIndex1;
+    if (const auto layer = EditLayer()) data.KeyFrame = layer->SelectIndex;
+    if (!tag.empty() && history.Tag == tag) type = UndoStep::Merge;
+    history.Tag = tag;
+    switch (type) {
+        case UndoStep::Init:
+            history.Init(data, *editLayers_);
+            break;
+        case UndoStep::Pending:
+            history.SetUndoRedoData(std::move(data), *editLayers_);
+            break;
+        case UndoStep::Change:
+        case UndoStep::Merge:
+            history.Change(std::move(data), *editLayers_, type == UndoStep::Merge);
+            break;
+    }
+}
+
+void frmMain::AddUndoRedoData2(std::shared_ptr<clsUndoRedo>& history,
+                               const Collection<clsLayer>& layers,
+                               const std::shared_ptr<clsSymbolData>& symbol, UndoStep type) {
+    clsUndoRedoData data;
+    data.inSprite = symbol;
+    if (!history) {
+        history = std::make_shared<clsUndoRedo>();
+        history->Owner = symbol;
+        history->MaxHistory(mdlPrivateProfile::UndoRedoMaxCount());
+        history->Init(data, layers);
+        return;
+    }
+    if (type == UndoStep::Pending)
+        history->SetUndoRedoData(std::move(data), layers);
+    else
+        history->Change(std::move(data), layers, type == UndoStep::Merge);
+}
+
+void frmMain::Renumber() {
+    Long index = 0;
+    for (const auto& symbol : *colSymbol()) symbol->Index = ++index;
+    view_->RefreshFgrdSymbol();
+}
+
+void frmMain::mnuUndoRedo(Long index) {
+    clsUndoRedo& history = EditHistory();
+    const Long symbols = colSymbol()->Count();
+    const auto restored = index == 0   ? history.Undo(*colSymbol())
+                          : index == 1 ? history.Redo(*colSymbol())
+                                       : history.Ondo(*colSymbol());
+    if (!restored) return;
+    history.Tag.clear();
+    if (colSymbol()->Count() != symbols) Renumber();
+    if (!restored->inSprite) inProject.colMainLayer = restored->colEditLayer;
+    const Long timeline = restored->inSprite ? restored->inSprite->Index : EditMain;
+    const Long rows = std::max(restored->colEditLayer->Count(), 1);
+    SetLayers(timeline, std::clamp(restored->Row, 1, rows), restored->KeyFrame);
+}
+
+}  // namespace tamber

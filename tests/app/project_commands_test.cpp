@@ -1,0 +1,226 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "app/frmMain.h"
+#include "app/mdlPrivateProfile.h"
+#include "document/SymbolKinds.h"
+#include "document/clsObjBackGround.h"
+#include "document/clsPropertySprite.h"
+#include "platform/RecordingUserInterface.h"
+#include "platform/codepage.h"
+#include "platform/files.h"
+#include "platform/paths.h"
+
+namespace tamber {
+namespace {
+
+/// What the controller asked its window for.
+class RecordingView : public MainView {
+public:
+    Long Width = 0;
+    Long Height = 0;
+    bool Undo = true;
+    bool Redo = true;
+    void SetCanvasSize(Long width, Long height) override {
+        Width = width;
+        Height = height;
+    }
+    void ShowUndoRedo(bool undo, bool redo) override {
+        Undo = undo;
+        Redo = redo;
+    }
+};
+
+class ProjectCommands : public testing::Test {
+protected:
+    void SetUp() override {
+        std::string folder = (std::filesystem::temp_directory_path() / "commandsXXXXXX").string();
+        ASSERT_NE(mkdtemp(folder.data()), nullptr);
+        folder_ = FromNarrow(folder);
+        program_ = ProgramFolder();
+        ProgramFolder(folder_);
+        main_.Form_Load();
+    }
+    void TearDown() override {
+        ProgramFolder(program_);
+        std::filesystem::remove_all(ToNarrow(folder_));
+    }
+
+    String Path(StringView name) const { return folder_ + u"/" + String(name); }
+    /// Paints the background and records it.
+    void Paint(Byte red, StringView tag = {}) {
+        Background().BackColorRed = red;
+        main_.AddUndoRedoData(UndoStep::Change, tag);
+    }
+    clsObjBackGround& Background() {
+        return *(*main_.colMainLayer())(main_.colMainLayer()->Count())
+                    ->Object(1)
+                    ->ObjectAs<clsObjBackGround>();
+    }
+    Long AddSprite(Long width) {
+        auto sprite = std::make_shared<clsSymbolData>(KindSprite);
+        sprite->ID = sprite->Index = main_.colSymbol()->Count() + 1;
+        sprite->Property<clsPropertySprite>()->Width = width;
+        main_.colSymbol()->Add(sprite);
+        return sprite->Index;
+    }
+    /// Adds a row to the edited timeline and records it.
+    void AddRow() {
+        auto layer = std::make_shared<clsLayer>();
+        layer->SymbolData(std::make_shared<clsSymbolData>(KindFrameAction));
+        Long index = 0;
+        layer->Add(1, nullptr, index);
+        main_.colEditLayer()->Insert(layer, 1);
+        main_.AddUndoRedoData(UndoStep::Change);
+    }
+
+    String folder_;
+    String program_;
+    RecordingUserInterface interface_;
+    UserInterfaceScope scope_{interface_};
+    std::shared_ptr<RecordingView> view_ = std::make_shared<RecordingView>();
+    frmMain main_{view_};
+};
+
+TEST_F(ProjectCommands, ask_before_changes_are_lost) {
+    EXPECT_FALSE(main_.IsProjectChanged());
+    EXPECT_TRUE(main_.mnuNew());
+    EXPECT_TRUE(interface_.Questions.empty());
+    Paint(1);
+    EXPECT_TRUE(main_.IsProjectChanged());
+    // No answer is a cancel.
+    EXPECT_FALSE(main_.mnuNew());
+    ASSERT_EQ(interface_.Questions.size(), 1u);
+    EXPECT_EQ(interface_.Questions[0].Text,
+              u"プロジェクトは変更されています。\r\n上書き保存しますか？");
+    EXPECT_EQ(Background().BackColorRed, 1);
+    // Yes, but the dialog for the path is cancelled.
+    interface_.Answers = {Answer::Yes};
+    EXPECT_FALSE(main_.mnuNew());
+    EXPECT_TRUE(main_.IsProjectChanged());
+    interface_.Answers = {Answer::Yes};
+    interface_.Paths = {Path(u"a.kvf")};
+    EXPECT_TRUE(main_.mnuNew());
+    EXPECT_TRUE(FileExists(Path(u"a.kvf")));
+    EXPECT_EQ(main_.ProjectFileName, u"");
+    EXPECT_EQ(Background().BackColorRed, 255);
+    Paint(2);
+    interface_.Answers = {Answer::No};
+    EXPECT_TRUE(main_.OpenProject(Path(u"a.kvf")));
+    EXPECT_EQ(Background().BackColorRed, 1);
+    EXPECT_FALSE(main_.IsProjectChanged());
+}
+
+TEST_F(ProjectCommands, saving_counts_from_there) {
+    Paint(1);
+    interface_.Paths = {Path(u"a.kvf")};
+    EXPECT_TRUE(main_.mnuSave());
+    EXPECT_EQ(main_.ProjectDir, folder_);
+    EXPECT_FALSE(main_.IsProjectChanged());
+    EXPECT_EQ(interface_.StatusLines.back(), u"保存しました");
+    // What is shown is not what was saved.
+    main_.mnuUndoRedo(0);
+    EXPECT_TRUE(main_.IsProjectChanged());
+    EXPECT_TRUE(main_.mnuSave());
+    ASSERT_TRUE(WriteFileBytes(Bytes(), Path(u"file")));
+    EXPECT_FALSE(main_.mnuSaveNew(Path(u"file/a.kvf")));
+    EXPECT_EQ(main_.ProjectFileName, Path(u"a.kvf"));
+    EXPECT_TRUE(
+        interface_.Messages.back().Text.starts_with(u"保存できませんでした。\r\n\r\n「Number： "));
+}
+
+TEST_F(ProjectCommands, a_new_project_keeps_stage_rate_and_version) {
+    EXPECT_TRUE(main_.mnuPrjProperty(400, 300, 12.5f, 7));
+    EXPECT_EQ(view_->Width, 400);
+    for (const auto& [width, rate, version] :
+         {std::tuple{0, 12.0f, 6}, {2001, 12.0f, 6}, {10, 0.001f, 6}, {10, 12.0f, 5}})
+        EXPECT_FALSE(main_.mnuPrjProperty(width, 10, rate, version));
+    EXPECT_FALSE(main_.IsProjectChanged());
+    main_.mnuNew();
+    EXPECT_EQ(main_.inProject.MainWidth, 400);
+    EXPECT_EQ(main_.inProject.FrameRate, 12.5f);
+    EXPECT_EQ(main_.inProject.SWFVersion, 7);
+}
+
+TEST_F(ProjectCommands, edits_with_one_tag_are_one_step) {
+    Paint(1, u"red");
+    Paint(2, u"red");
+    Paint(3, u"other");
+    Paint(4, u"red");
+    EXPECT_TRUE(view_->Undo);
+    main_.mnuUndoRedo(0);
+    EXPECT_EQ(Background().BackColorRed, 3);
+    EXPECT_TRUE(view_->Redo);
+    main_.mnuUndoRedo(0);
+    EXPECT_EQ(Background().BackColorRed, 2);
+    main_.mnuUndoRedo(0);
+    EXPECT_EQ(Background().BackColorRed, 255);
+    EXPECT_FALSE(view_->Undo);
+    main_.mnuUndoRedo(0);
+    main_.mnuUndoRedo(1);
+    EXPECT_EQ(Background().BackColorRed, 2);
+    // A step behind an undo is one of its own, whatever its tag.
+    Paint(5, u"red");
+    main_.mnuUndoRedo(0);
+    EXPECT_EQ(Background().BackColorRed, 2);
+}
+
+TEST_F(ProjectCommands, one_history_of_all_timelines_switches_back) {
+    const Long sprite = AddSprite(77);
+    Paint(1);
+    main_.ChangeSprite(sprite);
+    EXPECT_EQ(view_->Width, 77);
+    AddRow();
+    AddRow();
+    main_.mnuUndoRedo(0);
+    EXPECT_EQ(main_.editIndex, sprite);
+    EXPECT_EQ(main_.colEditLayer()->Count(), 1);
+    main_.mnuUndoRedo(0);
+    main_.mnuUndoRedo(0);
+    EXPECT_EQ(main_.editIndex, frmMain::EditMain);
+    main_.mnuUndoRedo(0);
+    EXPECT_EQ(Background().BackColorRed, 255);
+    for (int i = 0; i < 4; ++i) main_.mnuUndoRedo(1);
+    EXPECT_EQ(main_.editIndex, sprite);
+    EXPECT_EQ(main_.colEditLayer()->Count(), 2);
+}
+
+TEST_F(ProjectCommands, a_history_for_each_timeline_stays_in_it) {
+    EXPECT_TRUE(mdlPrivateProfile::UndoRedoType(false));
+    const Long sprite = AddSprite(77);
+    main_.ChangeSprite(sprite);
+    EXPECT_FALSE(view_->Undo);
+    AddRow();
+    EXPECT_TRUE(view_->Undo);
+    EXPECT_TRUE(main_.IsProjectChanged());
+    main_.ChangeSprite(frmMain::EditMain);
+    EXPECT_FALSE(view_->Undo);
+    Paint(1);
+    main_.mnuUndoRedo(0);
+    EXPECT_EQ(main_.editIndex, frmMain::EditMain);
+    main_.ChangeSprite(sprite);
+    EXPECT_EQ(main_.colEditLayer()->Count(), 1);
+    main_.mnuUndoRedo(0);
+    EXPECT_EQ(main_.editIndex, sprite);
+    EXPECT_EQ(main_.colEditLayer()->Count(), 0);
+    EXPECT_FALSE(main_.IsProjectChanged());
+    // A place that is no timeline.
+    main_.ChangeSprite(99);
+    EXPECT_EQ(main_.editIndex, sprite);
+}
+
+TEST_F(ProjectCommands, recent_files_move_to_the_front_without_case) {
+    Paint(1);
+    EXPECT_TRUE(main_.mnuSaveNew(Path(u"a.kvf")));
+    EXPECT_TRUE(mdlPrivateProfile::RecentFile().empty());
+    main_.blRecentFiles = true;
+    main_.mnuSaveNew(Path(u"b.kvf"));
+    main_.mnuSaveNew(Path(u"a.kvf"));
+    main_.mnuSaveNew(Path(u"B.kvf"));
+    EXPECT_EQ(mdlPrivateProfile::RecentFile(),
+              (std::vector<String>{Path(u"B.kvf"), Path(u"a.kvf")}));
+}
+
+}  // namespace
+}  // namespace tamber
