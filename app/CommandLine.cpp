@@ -1,9 +1,12 @@
 #include "app/CommandLine.h"
 
 #include <cstdio>
+#include <iostream>
+#include <iterator>
 #include <new>
 #include <optional>
 
+#include "app/BatchRunner.h"
 #include "app/Main.h"
 #include "app/ProjectInfo.h"
 #include "app/mdlPrivateProfile.h"
@@ -11,6 +14,7 @@
 #include "output/MovieListing.h"
 #include "platform/ConsoleUserInterface.h"
 #include "platform/RuntimeError.h"
+#include "platform/TextEncoding.h"
 #include "platform/codepage.h"
 #include "platform/files.h"
 #include "platform/paths.h"
@@ -30,6 +34,8 @@ constexpr const char* Usage =
     "Tamber generate PROJECT [-o OUT.swf] [--html] [--strict] [--set KEY=VALUE ...]\n"
     "Tamber convert IN.kvf OUT.kvfz        load and save again\n"
     "Tamber info PROJECT [--json]          stage, symbols, layers, key frames, as read\n"
+    "Tamber batch [FILE]                   controller commands from a text, one a line\n"
+    "Tamber batch --list                   the commands, with their arguments\n"
     "Tamber disassemble FILE.swf           tags and actions of a movie\n"
     "Tamber --version | --help\n"
     "\n"
@@ -44,6 +50,7 @@ struct Options {
     std::vector<std::string> Settings;
     bool Strict = false;
     bool Html = false;
+    bool List = false;
     bool Json = false;
     bool Yes = false;
     bool Help = false;
@@ -63,6 +70,7 @@ void TakeValue(Options& options, const std::string& name, const std::string& val
 
 bool TakeFlag(Options& options, const std::string& name) {
     if (name == "--strict") return options.Strict = true;
+    if (name == "--list") return options.List = true;
     if (name == "--html") return options.Html = true;
     if (name == "--json") return options.Json = true;
     if (name == "--yes") return options.Yes = true;
@@ -154,6 +162,36 @@ int Disassemble(const Options& options) {
     return CouldNot;
 }
 
+/// The text of a file, or of standard input. Nothing when it cannot be read.
+std::optional<String> ScriptText(const Options& options) {
+    if (options.Words.size() == 1) {
+        const std::string input{std::istreambuf_iterator<char>(std::cin), {}};
+        return FromNarrow(input);
+    }
+    Bytes bytes;
+    if (!ReadFileBytes(PathOf(options.Words[1]), bytes)) return std::nullopt;
+    return DecodeText(bytes);
+}
+
+int Batch(const Options& options) {
+    if (options.List) return Print(BatchRunner::List());
+    const std::optional<String> script = ScriptText(options);
+    if (!script) {
+        ShowMessage(PathOf(options.Words[1]) + u"\r\n\r\nファイルが見つかりません。");
+        return CouldNot;
+    }
+    BatchUserInterface interface(options.Yes);
+    const UserInterfaceScope scope(interface);
+    frmMain controller;
+    controller.Form_Load();
+    bool printed = true;
+    BatchRunner runner(controller, interface, [&printed](const std::string& text) {
+        printed = Print(text) == Done && printed;
+    });
+    const bool done = runner.Run(*script);
+    return done && printed ? Done : CouldNot;
+}
+
 int RunWithoutWindow(const Options& options) {
     OwnEnvironment environment;
     Application application(environment);
@@ -173,6 +211,8 @@ int Dispatch(const Options& options, const ConsoleUserInterface& console) {
         return count == 3 ? Convert(options) : RefuseUsage("convert needs two paths");
     if (command == "info")
         return count == 2 ? Info(options) : RefuseUsage("info needs one project");
+    if (command == "batch")
+        return count <= 2 ? Batch(options) : RefuseUsage("batch needs one script at most");
     if (command == "disassemble")
         return count == 2 ? Disassemble(options) : RefuseUsage("disassemble needs one movie");
     if (count > 1) return RefuseUsage("unknown command " + command);

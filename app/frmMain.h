@@ -117,6 +117,8 @@ public:
     static void AddUndoRedoData2(std::shared_ptr<clsUndoRedo>& history,
                                  const Collection<clsLayer>& layers,
                                  const std::shared_ptr<clsSymbolData>& symbol, UndoStep type);
+    bool CanUndo() { return EditHistory().CanUndo(); }
+    bool CanRedo() { return EditHistory().CanRedo(); }
     /// 0 undoes a step, 1 redoes one, 2 shows the present state again.
     void mnuUndoRedo(Long index);
     /// Writes the open project to a path. False when it could not be written, `why` then tells.

@@ -88,6 +88,38 @@ TEST_F(CommandLineTest, a_page_without_its_template_leaves_the_movie) {
     EXPECT_FALSE(fs::exists(folder / "a.html"));
 }
 
+TEST_F(CommandLineTest, batch_runs_commands_and_tells_the_lines_that_fail) {
+    fs::copy(fs::path(TAMBER_SOURCE_DIR) / "examples/hello", folder / "p");
+    std::ofstream(folder / "script.txt") << "# a session\n"
+                                            "OpenProject p/hello.kvf\r\n"
+                                            "mnuPrjProperty 111 222 12.5 7\n\n"
+                                            "mnuSaveNew \"p/b c.kvfz\"\n"
+                                            "mnuAuthoring out.swf\n"
+                                            "Print\n";
+    const Outcome run = Tamber("batch script.txt");
+    EXPECT_EQ(run.Code, 0) << run.Errors;
+    EXPECT_EQ(TextOf(folder / "p/b c.kvfz").substr(0, 4), "KVFZ");
+    EXPECT_EQ(TextOf(folder / "out.swf").substr(0, 4), std::string("CWS\x07"));
+    const auto state = nlohmann::json::parse(run.Output);
+    EXPECT_EQ(state["changed"], false);
+    EXPECT_EQ(state["editIndex"], -1);
+    EXPECT_TRUE(fs::path(state["path"].get<std::string>()).is_absolute());
+
+    std::ofstream(folder / "faulty.txt")
+        << "mnuNone\nmnuUndoRedo\nmnuUndoRedo x\nOpenProject none.kvf\n"
+           "mnuPrjProperty 0 1 1 6\nmnuSaveNew a.kvf\n";
+    const Outcome faulty = Tamber("batch < faulty.txt");
+    EXPECT_EQ(faulty.Code, 1);
+    for (const char* line : {"1行目： 不明なコマンドです。「mnuNone」",
+                             "2行目： 引数の数が違います。「mnuUndoRedo 0|1」",
+                             "3行目： 引数が正しくありません。", "ファイルが見つかりません。",
+                             "4行目： 実行できませんでした。", "5行目： 実行できませんでした。"})
+        EXPECT_NE(faulty.Errors.find(line), std::string::npos) << line << "\n" << faulty.Errors;
+    EXPECT_TRUE(fs::exists(folder / "a.kvf"));
+    EXPECT_NE(Tamber("batch --list").Output.find("mnuPrjProperty WIDTH HEIGHT RATE VERSION\n"),
+              std::string::npos);
+}
+
 TEST_F(CommandLineTest, info_tells_what_the_project_holds) {
     const Outcome run = Tamber("info " + hello + " --json");
     ASSERT_EQ(run.Code, 0) << run.Errors;
