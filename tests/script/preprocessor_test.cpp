@@ -104,6 +104,12 @@ TEST_F(Includes, are_read_in_the_encoding_that_is_told_or_detected) {
         EXPECT_EQ(Expand(u"#include <" + String(item.Word) + u"> \"x.as\""), text);
         EXPECT_EQ(Expand(u"#include \"x.as\""), text) << ToNarrow(item.Word);
     }
+    // Characters beyond JIS X 0208, and those that other tables of it have elsewhere in Unicode.
+    Write(u"x.as", ByteView(Bytes{0x1B, '$', '@', 0x21, 0x41, 0x21, 0x5D, 0x2D, 0x21, 0x79, 0x21,
+                                  0x1B, '(', 'I', 0x31, 0x1B, '(', 'J', '~'}));
+    EXPECT_EQ(Expand(u"#include <jis> \"x.as\""), u"\uFF5E\uFF0D\u2460\u7E8A\uFF71~");
+    Write(u"x.as", ByteView(Bytes{0xA1, 0xC1, 0xA1, 0xDD}));
+    EXPECT_EQ(Expand(u"#include <euc> \"x.as\""), u"\uFF5E\uFF0D");
     Write(u"x.as", ByteView(Bytes{0x42, 0x30}));
     EXPECT_EQ(Expand(u"#include <unicode> \"x.as\""), u"\u3042");
     Write(u"x.as", ByteView(Bytes{'+', 'M', 'E', 'I', '-', '!'}));
