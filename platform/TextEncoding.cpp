@@ -126,13 +126,45 @@ String Convert(ByteView bytes, const char* from) {
     return converter.Ok() ? converter.Convert(bytes) : DecodeAnsi(bytes);
 }
 
-/// The Roman set of this encoding has a yen sign and an overline where programs mean a backslash
-/// and a tilde.
+/// Appends the code that a character of JIS X 0208, two bytes of 21h to 7Eh, has in code page 932.
+void AppendKanji(Bytes& codes, Byte row, Byte cell) {
+    const int lead = (row - 0x21) / 2 + 0x81;
+    const bool odd = (row & 1) != 0;
+    codes.push_back(static_cast<Byte>(lead <= 0x9F ? lead : lead + 0x40));
+    codes.push_back(static_cast<Byte>(odd ? cell + (cell < 0x60 ? 0x1F : 0x20) : cell + 0x7E));
+}
+
+/// By way of code page 932, so that a text has the same characters whichever of the two encodings
+/// it comes in. The Roman set counts as ASCII: programs mean a backslash with its yen sign.
 String DecodeJis(ByteView bytes) {
-    String text = Convert(bytes, "ISO-2022-JP-3");
-    std::replace(text.begin(), text.end(), u'\u00A5', u'\\');
-    std::replace(text.begin(), text.end(), u'\u203E', u'~');
-    return text;
+    constexpr Byte NoCharacter = 0x80;
+    enum class Set { Ascii, Kanji, Kana };
+    Set set = Set::Ascii;
+    Bytes codes;
+    const auto graphic = [bytes](std::size_t i) {
+        return i < bytes.size() && bytes[i] >= 0x21 && bytes[i] <= 0x7E;
+    };
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        const ByteView rest = bytes.subspan(i);
+        if (StartsWith(rest, {Escape, '$', '@'}) || StartsWith(rest, {Escape, '$', 'B'})) {
+            set = Set::Kanji;
+            i += 2;
+        } else if (StartsWith(rest, {Escape, '(', 'B'}) || StartsWith(rest, {Escape, '(', 'J'})) {
+            set = Set::Ascii;
+            i += 2;
+        } else if (StartsWith(rest, {Escape, '(', 'I'})) {
+            set = Set::Kana;
+            i += 2;
+        } else if (set == Set::Kanji && graphic(i) && graphic(i + 1)) {
+            AppendKanji(codes, bytes[i], bytes[i + 1]);
+            ++i;
+        } else if (set == Set::Kana && graphic(i)) {
+            codes.push_back(bytes[i] | 0x80);
+        } else {
+            codes.push_back(bytes[i] < 0x80 ? bytes[i] : NoCharacter);
+        }
+    }
+    return DecodeAnsi(codes);
 }
 
 String DecodeUnicode(ByteView bytes) {

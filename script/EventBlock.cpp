@@ -201,11 +201,11 @@ Long GetKeyCode(StringView script, Long& pos) {
     if (At(script, pos) != u'"') return 0;
     char16_t character = At(script, ++pos);
     Long code = 0;
-    const auto close = script.find(u">\"", static_cast<std::size_t>(pos));
     if (character == u'<' && At(script, pos + 1) != u'"') {
-        if (close == StringView::npos) return 0;
-        code = CodeOfName(Between(script, pos + 1, static_cast<Long>(close) + 1));
-        pos = static_cast<Long>(close) + 2;
+        const Long close = FindTokenEnd(script, pos, u'>', u'"');
+        if (At(script, close) != u'>') return 0;
+        code = CodeOfName(Between(script, pos + 1, close));
+        pos = close + 1;
     } else {
         if (character == u'"') return 0;
         if (character == u'\\') {

@@ -1,5 +1,7 @@
 #include "script/InitBlock.h"
 
+#include <limits>
+
 #include "platform/text.h"
 #include "script/ScriptScanner.h"
 
@@ -24,11 +26,18 @@ Long NextLine(StringView script, Long pos) {
     return static_cast<Long>(end) + (both ? 3 : 2);
 }
 
-/// The whole number that a text is, -1 when it is none.
+/// The whole number that a text is, -1 when it is none or does not fit.
 Long OrderOf(StringView text) {
-    constexpr std::size_t MostDigits = 9;
-    const bool digits = text.find_first_not_of(u"0123456789") == StringView::npos;
-    return digits && !text.empty() && text.size() <= MostDigits ? ToLong(text) : -1;
+    constexpr Long Most = std::numeric_limits<Long>::max();
+    if (text.empty()) return -1;
+    Long order = 0;
+    for (const char16_t c : text) {
+        if (c < u'0' || c > u'9') return -1;
+        const Long digit = c - u'0';
+        if (order > (Most - digit) / 10) return -1;
+        order = order * 10 + digit;
+    }
+    return order;
 }
 
 bool IsStart(StringView script, Long pos) {
@@ -55,7 +64,8 @@ bool ReadBlock(StringView script, Long pos, InitBlock& block) {
         block.Text = u"改行 が必要です。";
         return false;
     }
-    const Long token = SkipToToken(script, pos + Length(StartWord));
+    block.BodyPos = body;
+    const Long token = SkipBlanks(script, pos + Length(StartWord));
     if (token < body)
         block.OrderNum = OrderOf(Between(script, token, FindTokenEnd(script, token, u';', u'{')));
     const Long end = FindEndWord(script, body);

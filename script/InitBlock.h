@@ -9,6 +9,7 @@ namespace tamber {
 /// A block between "#initclip" and "#endinitclip". Positions count from 1.
 struct InitBlock {
     Long StartPos = 0;   ///< of the "#initclip"
+    Long BodyPos = 0;    ///< of the first character behind the "#initclip" line
     Long EndPos = 0;     ///< of the last character of the "#endinitclip"
     Long OrderNum = -1;  ///< -1 when none is told
     String Text;         ///< the body, or why there is none

@@ -26,11 +26,14 @@ ScriptCheckResult IncludeFault(Long result, const String& chain) {
     return FaultAt(result, u"循環参照です。", u"\r\n\r\n" + ReplaceAll(chain, u",", u" →\r\n"));
 }
 
-/// `firstLine` is the line of the script that the text begins in.
-ScriptCheckResult CheckText(StringView text, Long firstLine, Long version) {
+/// `pos` is where the text begins in the script.
+ScriptCheckResult CheckText(StringView script, Long pos, StringView text, Long version) {
     Bytes bytes;
     if (CompileActionScript(bytes, text, version, true)) return {};
-    const CompilerDiagnostic fault = ParseCompilerDiagnostic(bytes, firstLine);
+    // Behind as many line ends as in the script each line that the diagnostics name is right.
+    const auto linesBefore = static_cast<std::size_t>(ScriptScanner::LineOf(script, pos) - 1);
+    CompileActionScript(bytes, String(linesBefore, u'\n').append(text), version, true);
+    const CompilerDiagnostic fault = ParseCompilerDiagnostic(bytes, 1);
     const String rule(37, u'-');
     return FaultAt(fault.Line, SyntaxFault,
                    u"\r\n\r\n[" + fault.Token + u"]\r\n\r\n" + rule + u"\r\n" + fault.Header +
@@ -44,8 +47,7 @@ ScriptCheckResult CheckEvents(StringView script, EventScript kind, Long version)
         if (!ParseEventBlock(script, pos, block, kind, version))
             return FaultAt(ScriptScanner::LineOf(script, block.Position), block.Text);
         if (pos == 0) return {};
-        const ScriptCheckResult result =
-            CheckText(block.Text, ScriptScanner::LineOf(script, block.Position), version);
+        const ScriptCheckResult result = CheckText(script, block.Position, block.Text, version);
         if (!result.Ok) return result;
     }
 }
@@ -62,12 +64,11 @@ ScriptCheckResult CheckFrame(String script, Long version) {
     if (version >= InitClipVersion && !FindInitBlocks(script, blocks))
         return FaultAt(ScriptScanner::LineOf(script, blocks.back().StartPos), blocks.back().Text);
     for (const InitBlock& block : blocks) {
-        const Long line = ScriptScanner::LineOf(script, block.StartPos) + 1;
-        const ScriptCheckResult result = CheckText(block.Text, line, version);
+        const ScriptCheckResult result = CheckText(script, block.BodyPos, block.Text, version);
         if (!result.Ok) return result;
         BlankOut(script, block);
     }
-    return CheckText(script, 1, version);
+    return CheckText(script, 1, script, version);
 }
 
 }  // namespace

@@ -11,6 +11,9 @@ namespace tamber {
 namespace {
 
 constexpr Long UnicodeVersion = 6;
+/// Events of clips have 16 bits below this version.
+constexpr Long WideEventVersion = 6;
+constexpr Long NarrowEvents = 0xFFFF;
 
 /// Takes the first line off a text; its end is LF.
 StringView TakeLine(StringView& text) {
@@ -93,7 +96,9 @@ bool CompileEventBlocks(std::vector<SwfEventActions>& result, StringView script,
         if (read && pos == 0) return true;
         if (!read || !CompileActionScript(actions.Actions, block.Text, version, true)) break;
         if (actions.Actions.empty()) continue;
-        actions.Flags = block.Flags;
+        actions.Flags = version < WideEventVersion ? block.Flags & NarrowEvents : block.Flags;
+        // An entry without events would end the list.
+        if (actions.Flags == 0) continue;
         actions.KeyCode = static_cast<Byte>(block.KeyCode);
         result.push_back(std::move(actions));
     }

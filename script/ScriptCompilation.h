@@ -24,8 +24,8 @@ bool CompileActionScript(Bytes& result, StringView text, Long version, bool unic
 /// Takes the diagnostics apart; line 1 of what was compiled is `firstLine` of the script.
 CompilerDiagnostic ParseCompilerDiagnostic(ByteView bytes, Long firstLine);
 
-/// Compiles the event blocks of a script, those without actions left out. False when one has a
-/// fault; there are no actions then.
+/// Compiles the event blocks of a script, those without actions and those for events that the
+/// version does not have left out. False when one has a fault; there are no actions then.
 bool CompileEventBlocks(std::vector<SwfEventActions>& result, StringView script, EventScript kind,
                         Long version);
 

@@ -128,16 +128,26 @@ private:
         if (word == FileWord || word == IncludeWord) PassDirective(start);
     }
 
+    /// The next ">" from the cursor on, the text's end when there is none. A text without any is
+    /// looked through once, however many directives it has.
+    Long NextBracket() {
+        if (bracket_ < pos_) {
+            const std::size_t found = text_.find(u'>', static_cast<std::size_t>(pos_ - 1));
+            bracket_ = static_cast<Long>(std::min(found, text_.size())) + 1;
+        }
+        return bracket_;
+    }
+
     /// `start` is where the directive begins; the cursor stands behind its word.
     void PassDirective(Long start) {
         const Long line = line_;
         TextEncoding encoding = TextEncoding::Detect;
         MoveTo(SkipBlanks(text_, pos_));
         if (At(text_, pos_) == u'<') {
-            const std::size_t close = text_.find(u'>', static_cast<std::size_t>(pos_));
-            if (close == String::npos) return;
-            encoding = EncodingOf(Between(text_, pos_ + 1, static_cast<Long>(close) + 1));
-            MoveTo(SkipBlanks(text_, static_cast<Long>(close) + 2));
+            const Long close = NextBracket();
+            if (AtEnd(text_, close)) return;
+            encoding = EncodingOf(Between(text_, pos_ + 1, close));
+            MoveTo(SkipBlanks(text_, close + 1));
         }
         const char16_t quote = At(text_, pos_);
         if (!IsQuote(quote)) return;
@@ -217,6 +227,8 @@ private:
     Long pos_ = 1;
     Long copied_ = 1;
     Long line_ = 1;
+    /// What NextBracket found last.
+    Long bracket_ = 0;
     Long result_ = 0;
     bool inComment_ = false;
 };

@@ -71,7 +71,7 @@ private:
     void PlaceLayer(const Timeline& timeline, Long index, Long depth);
     void DefineExport(clsSWFAdmin& admin, clsSymbolData& symbol, Long lateFrame);
     void WriteFrameActions(const Timeline& timeline, const clsLayer& layer);
-    /// Defines the button of one layer, with the layer's script.
+    /// Defines the button of one layer, with the layer's script. 0 for a layer without key frames.
     Long DefineButton(const Timeline& timeline, const clsLayer& layer, Long depth);
     void PlaceKomas(const Timeline& timeline, const clsLayer& layer,
                     LayerPlacement::Character character);

@@ -169,6 +169,7 @@ void Authoring::PlaceLayer(const Timeline& timeline, Long index, Long depth) {
 }
 
 Long Authoring::DefineButton(const Timeline& timeline, const clsLayer& layer, Long depth) {
+    if (layer.ObjectCount() == 0) return 0;
     auto& button = *layer.SymbolData()->Property<clsPropertyButton>();
     const Long frame = timeline.IsMain() ? layer.Object(1)->StartFrame() : timeline.SpriteFrame;
     const ButtonCharacters characters = DefineButtonStates(timeline.Admin, button, 2);

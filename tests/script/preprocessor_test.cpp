@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
 
 #include "platform/codepage.h"
@@ -64,6 +65,8 @@ TEST_F(Includes, stand_in_place_of_their_directives) {
         {u"#include \"\"", u"#include \"\""},
         {u"#includes \"a.as\"", u"#includes \"a.as\""},
         {u"a/b; #include \"a.as\"", u"a/b; A();"},
+        {u"#include <\r\n#include \"a.as\"", u"#include <\r\nA();"},
+        {u"x>y; #include<none>\"a.as\"#FILE <sjis> 'a.as'", u"x>y; A();A();"},
     };
     for (const auto& item : cases)
         EXPECT_EQ(Expand(String(item.Script)), item.Expected) << ToNarrow(item.Script);
@@ -104,6 +107,12 @@ TEST_F(Includes, are_read_in_the_encoding_that_is_told_or_detected) {
         EXPECT_EQ(Expand(u"#include <" + String(item.Word) + u"> \"x.as\""), text);
         EXPECT_EQ(Expand(u"#include \"x.as\""), text) << ToNarrow(item.Word);
     }
+    // Characters beyond JIS X 0208, and those that other tables of it have elsewhere in Unicode.
+    Write(u"x.as", ByteView(Bytes{0x1B, '$', '@', 0x21, 0x41, 0x21, 0x5D, 0x2D, 0x21, 0x79, 0x21,
+                                  0x1B, '(', 'I', 0x31, 0x1B, '(', 'J', '~'}));
+    EXPECT_EQ(Expand(u"#include <jis> \"x.as\""), u"\uFF5E\uFF0D\u2460\u7E8A\uFF71~");
+    Write(u"x.as", ByteView(Bytes{0xA1, 0xC1, 0xA1, 0xDD}));
+    EXPECT_EQ(Expand(u"#include <euc> \"x.as\""), u"\uFF5E\uFF0D");
     Write(u"x.as", ByteView(Bytes{0x42, 0x30}));
     EXPECT_EQ(Expand(u"#include <unicode> \"x.as\""), u"\u3042");
     Write(u"x.as", ByteView(Bytes{'+', 'M', 'E', 'I', '-', '!'}));
@@ -175,6 +184,46 @@ TEST(Checks, tell_the_line_of_a_fault_wherever_it_is) {
         const ScriptCheckResult result = CheckScript(item.Script, item.Kind, 6, {});
         EXPECT_FALSE(result.Ok) << ToNarrow(item.Script);
         EXPECT_EQ(result.Line, item.Line) << ToNarrow(item.Script) << ToNarrow(result.Message);
+    }
+}
+
+TEST(Checks, name_lines_of_the_script_for_all_faults_of_a_block) {
+    const StringView script = u"\r\non (press) {\r\n  a = ;\r\n  b = ;\r\n}";
+    const ScriptCheckResult result = CheckScript(script, ScriptKind::Button, 6, {});
+    EXPECT_EQ(result.Line, 3);
+    EXPECT_NE(result.Message.find(u"4行目"), String::npos) << ToNarrow(result.Message);
+}
+
+TEST(Checks, take_time_that_grows_with_the_length_only) {
+    const auto repeated = [](StringView text) {
+        String script;
+        while (script.size() < 1 << 20) script += text;
+        return script;
+    };
+    struct {
+        StringView Part;
+        ScriptKind Kind;
+        bool Ok;
+    } cases[] = {
+        {u"on(keyPress \"a\"){}\r\n", ScriptKind::Button, true},
+        {u"on(press){", ScriptKind::Button, false},
+        {u"onClipEvent(load){x;}\r\n", ScriptKind::Clip, true},
+        {u"#initclip\r\n#endinitclip\r\n", ScriptKind::Frame, true},
+        {u"#initclip\r\n", ScriptKind::Frame, false},
+        {u"#include", ScriptKind::Frame, false},
+        {u"#include<", ScriptKind::Frame, false},
+        {u"#include \"\" ", ScriptKind::Frame, false},
+        {u"/* ", ScriptKind::Frame, false},
+        {u"/* ", ScriptKind::Button, true},
+        {u"\"'", ScriptKind::Frame, false},
+    };
+    for (const auto& item : cases) {
+        const auto start = std::chrono::steady_clock::now();
+        EXPECT_EQ(CheckScript(repeated(item.Part), item.Kind, 6, {}).Ok, item.Ok)
+            << ToNarrow(item.Part);
+        // Anything that grows with the square takes minutes.
+        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20))
+            << ToNarrow(item.Part);
     }
 }
 

@@ -29,6 +29,23 @@ TEST(InitBlocks, are_cut_out_and_the_last_one_counts) {
     EXPECT_EQ(block.EndPos, 27);
 }
 
+TEST(InitBlocks, have_the_order_that_stands_in_their_first_line) {
+    struct {
+        StringView Word;
+        Long OrderNum;
+    } cases[] = {
+        {u" 0", 0},           {u"\t12 // 13", 12}, {u" /* 1 */ 2", 2},
+        {u" -5", -1},         {u" 5x", -1},        {u" 2147483647", 2147483647},
+        {u" 2147483648", -1}, {u" // 3", -1},      {u"\r\n4", -1},
+    };
+    for (const auto& item : cases) {
+        String script = u"#initclip" + String(item.Word) + u"\r\nx\r\n#endinitclip";
+        InitBlock block;
+        EXPECT_TRUE(ExtractInitClip(script, block));
+        EXPECT_EQ(block.OrderNum, item.OrderNum) << ToNarrow(item.Word);
+    }
+}
+
 TEST(InitBlocks, without_their_end_are_faults) {
     struct {
         StringView Script;

@@ -130,6 +130,35 @@ TEST_F(ScriptAuthoring, clip_actions_stand_with_the_first_placement) {
     EXPECT_EQ(places[1][0] & 0x80, 0);
 }
 
+TEST_F(ScriptAuthoring, a_clip_event_that_the_version_lacks_does_not_end_the_list) {
+    PlaceScripted(AddSprite(),
+                  u"onClipEvent(construct){play();}onClipEvent(construct,load){stop();}");
+    const Bytes place = Build(5).Bodies(TagCode::PlaceObject2).at(0);
+    const Bytes actions{0, 0, 1, 0, 1, 0, 2, 0, 0, 0, Stop, 0, 0, 0};
+    ASSERT_GT(place.size(), actions.size());
+    EXPECT_EQ(Bytes(place.end() - static_cast<std::ptrdiff_t>(actions.size()), place.end()),
+              actions);
+}
+
+TEST_F(ScriptAuthoring, a_button_on_a_layer_without_key_frames_is_nothing) {
+    auto symbol = AddSymbol(std::make_shared<clsSymbolData>(KindButton));
+    symbol->Property<clsPropertyButton>()->UpSymbol(AddBitmap(4, 4));
+    AddLayer(symbol);
+    EXPECT_TRUE(Build().Bodies(TagCode::DefineButton2).empty());
+}
+
+TEST_F(ScriptAuthoring, a_movie_built_again_is_the_same) {
+    auto symbol = AddSymbol(std::make_shared<clsSymbolData>(KindButton));
+    const auto up = AddSprite();
+    up->Property<clsPropertySprite>()->Width = 30;
+    up->Property<clsPropertySprite>()->height = 20;
+    symbol->Property<clsPropertyButton>()->UpSymbol(up);
+    PlaceScripted(symbol, u"on(press){stop();}");
+    AddClass(u"a.B", u"var n = 1;");
+    const std::vector<Long> first = Build().Codes();
+    EXPECT_EQ(Build().Codes(), first);
+}
+
 TEST_F(ScriptAuthoring,
        an_init_block_of_a_sprite_is_an_init_action_and_one_of_the_movie_is_dropped) {
     AddFrameAction(1, u"#initclip\r\nplay();\r\n#endinitclip\r\nstop();");
