@@ -90,7 +90,7 @@ TEST_F(CommandLineTest, a_page_without_its_template_leaves_the_movie) {
 
 TEST_F(CommandLineTest, batch_runs_commands_and_tells_the_lines_that_fail) {
     fs::copy(fs::path(TAMBER_SOURCE_DIR) / "examples/hello", folder / "p");
-    std::ofstream(folder / "script.txt") << "# a session\n"
+    std::ofstream(folder / "script.txt") << "# a wider stage\n"
                                             "OpenProject p/hello.kvf\r\n"
                                             "mnuPrjProperty 111 222 12.5 7\n\n"
                                             "mnuSaveNew \"p/b c.kvfz\"\n"
