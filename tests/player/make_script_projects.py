@@ -4,7 +4,8 @@ from make_projects import CASES, PICTURES, RED, GREEN, BLUE, YELLOW, key
 
 EFFECT = "False,in,False,0,Left,False,20,,"
 NO_MATRIX = "False,False"
-SPRITE, BUTTON, CLASS, LINK = "ｽﾌﾟﾗｲﾄ", "ﾎﾞﾀﾝ", "ｸﾗｽ", "ﾘﾝｸ"
+NO_GRID = "False,0,0,0,0"
+SPRITE, BUTTON, CLASS, LINK, KOMA = "ｽﾌﾟﾗｲﾄ", "ﾎﾞﾀﾝ", "ｸﾗｽ", "ﾘﾝｸ", "ｺﾏ動画"
 
 
 def cell(text):
@@ -19,13 +20,17 @@ def square(number, colour):
     return f"{number},{colour}.svg,ﾍﾞｸﾀ,,,,False,False,0,0,0,0,0,0,0,0,False,False,False,0,0,1024"
 
 
-def sprite(number, name, *, link="", class_name="", width=40, height=40, base=(0, 0)):
+def sprite(number, name, *, link="", class_name="", width=40, height=40, base=(0, 0), grid=NO_GRID):
     export = "ExportTop" if link else ""
-    return f"{number},,{SPRITE},{link},{class_name},{export},{name},{width},{height},{base[0]},{base[1]},False,0,0,0,0"
+    return f"{number},,{SPRITE},{link},{class_name},{export},{name},{width},{height},{base[0]},{base[1]},{grid}"
 
 
-def button(number, name, matrices=NO_MATRIX):
-    return f"{number},,{BUTTON},,,,{name},False,False,0,0,0,0,{matrices}"
+def button(number, name, matrices=NO_MATRIX, grid=NO_GRID):
+    return f"{number},,{BUTTON},,,,{name},False,{grid},{matrices}"
+
+
+def koma(number, name, frames_each):
+    return f"{number},,{KOMA},,,,{name},{frames_each}"
 
 
 def class_of(number, name, base, *scripts):
@@ -90,6 +95,10 @@ def write_buttons():
            clip(3, [key(1, 1, 120, 30)], instance="second", script='onClipEvent(load) { depth = 7; }')])
     keys = 'on (keyPress "<Left>") { trace("left"); } on (keyPress "a") { trace("a"); } on (keyPress "<Space>") { trace("space"); }'
     write("button-keys", 6, STATES, ["4,3,2,1"], [], [layer(5, [key(1, 1, 20, 20)], is_button=True, script=keys)])
+    names = ["<Enter>", "<BackSpace>", "<DELETE>", "<home>", "<End>", "<PgUp>", "<PageDown>", "<Up>", "<Down>", "<Escape>", "<Insert>", "<Tab>",
+             '\\"', "\\'", "\\\\", "<", "Z"]
+    keys = "\n".join(f'on (keyPress "{name}") {{ trace({number}); }}' for number, name in enumerate(names, 1))
+    write("button-key-names", 6, STATES, ["4,3,2,1"], [], [layer(5, [key(1, 1, 20, 20)], is_button=True, script=keys)])
 
 
 def write_clips():
@@ -106,6 +115,40 @@ on (keyPress "<Right>") { trace("right"); }
           [clip(2, [key(1, 5, 20, 20)], script=events), layer(1, [key(6, 3, 100, 100)])])
     write("clip-events-swf5", 5, [picture(1, RED), sprite(2, "クリップ")], [], [body],
           [clip(2, [key(1, 5, 20, 20)], script=events[:events.index("on (press)")]), layer(1, [key(6, 3, 100, 100)])])
+    more = """onClipEvent (initialize) { trace("initialize"); }
+onClipEvent (construct) { trace("construct"); }
+onClipEvent (load) { trace("load"); }
+onClipEvent (mouseMove) { trace("move"); }
+onClipEvent (mouseUp) { trace("up"); }
+onClipEvent (keyUp, data) { trace("key " + Key.getCode()); }
+on (rollOver, rollOut) { trace("roll"); }
+on (release, releaseOutside) { trace("release"); }
+"""
+    write("clip-events-swf7", 7, [picture(1, RED), sprite(2, "クリップ")], [], [body], [clip(2, [key(1, 1, 20, 20)], script=more)])
+
+
+def write_linkage():
+    attach = 'attachMovie("ball", "b1", 1);\nb1._x = 60;\nattachMovie("ball", "b2", 2);\nb2._y = 60;\ntrace(b1._width);'
+    write("attach-swf5", 5, [picture(1, RED), sprite(2, "玉", link="ball")], [], [[layer(1, [key(1, 1, 0, 0)])]], [frame_actions((1, attach))])
+
+
+def write_komas():
+    """A sprite with a picture list, as a button's up state and by itself."""
+    pictures = [picture(1, RED), picture(2, GREEN), picture(3, BLUE)]
+    write("koma", 6, [*pictures, koma(4, "絵", 2), sprite(5, "動く絵"), button(6, "動くボタン")], ["1,2,3", "0,3,0,5"],
+          [[layer(4, [key(1, 6, 0, 0)])]],
+          [layer(6, [key(1, 1, 20, 20)], is_button=True, script='on (release) { trace("koma"); }'), clip(5, [key(1, 1, 120, 20)])])
+
+
+def write_grids():
+    """Drawings grown to the double. The player leaves grids out of account and grows the frame too; with a grid or without, the middle is the field."""
+    grid = "True,200,600,200,600"
+    drawing = '<svg width="40" height="40"><rect width="40" height="40" fill="red"/><rect x="10" y="10" width="20" height="20" fill="lime"/></svg>'
+    body = [layer(1, [key(1, 1, 0, 0)])]
+    twice = {"scale": (2, 2)}
+    write("grid-swf8", 8, [square(1, "frame"), sprite(2, "枠", grid=grid), button(3, "枠のボタン", grid=grid)], ["0", "0,0,0,1"], [body],
+          [clip(2, [key(1, 1, 10, 10, **twice)]), layer(3, [key(1, 1, 110, 10, **twice)], is_button=True, script='on (press) { trace("grid"); }')],
+          {"frame.svg": drawing.encode()})
 
 
 def write_classes():
@@ -158,6 +201,9 @@ def write_includes():
 if __name__ == "__main__":
     write_buttons()
     write_clips()
+    write_linkage()
+    write_komas()
+    write_grids()
     write_classes()
     write_init_order()
     write_includes()
