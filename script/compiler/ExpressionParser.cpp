@@ -296,9 +296,10 @@ bool Parser::IsSlashPathAhead() {
     const bool isStatement = std::exchange(atStatement_, false);
     if (Is(TokenKind::Slash) || Is(TokenKind::Colon) || Is(TokenKind::Dot))
         return lexer_.ReadSlashPath(token_, Lexer::PathForm::Rooted);
-    if (version_ > 4 || !Is(TokenKind::Identifier) || colonsAwaited_ > 0) return false;
+    if (!Is(TokenKind::Identifier) || colonsAwaited_ > 0) return false;
+    const bool mayCall = isStatement && version_ == 4;
     return lexer_.ReadSlashPath(
-        token_, isStatement ? Lexer::PathForm::WithColonOrCall : Lexer::PathForm::WithColon);
+        token_, mayCall ? Lexer::PathForm::WithColonOrCall : Lexer::PathForm::WithColon);
 }
 
 Node* Parser::Primary() {
