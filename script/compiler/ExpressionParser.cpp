@@ -336,8 +336,8 @@ Node* Parser::Primary() {
         case TokenKind::Function: {
             const std::uint32_t line = token_.Line;
             Advance();
-            Symbol* name = Is(TokenKind::Identifier) ? TakeName(u"関数名") : nullptr;
-            return FunctionRest(name, line);
+            if (Is(TokenKind::OpenParenthesis)) return FunctionRest(nullptr, line);
+            return FunctionRest(FunctionName(), line);
         }
         default:
             Fail(Is(TokenKind::End) ? u"式が必要です。" : u"ここには式が必要です。");
