@@ -55,6 +55,7 @@ bool CodeGenerator::Call(const Node& node) {
 bool CodeGenerator::IsCallOfBuiltin(const Node& node) const {
     if (node.A->Kind != NodeKind::Name || node.A->Name->BuiltinEntry == nullptr) return false;
     const Builtin& builtin = *node.A->Name->BuiltinEntry;
+    if (IsOwnMethod(builtin, node)) return false;
     if (builtin.Action == Opcode::ToNumber || builtin.Action == Opcode::ToString)
         return node.Count == 1 && version_ >= builtin.MinVersion;
     return function_.Withs == 0 || !IsMethodOfClip(builtin);
@@ -90,7 +91,7 @@ bool CodeGenerator::CallInTarget(const std::string& path, Symbol* name, const No
     }
     code_->Emit(ItemKind::SetTarget, symbols_.InternCopy(path)->Index);
     const bool hasValue = BuiltinCall(*name->BuiltinEntry, node);
-    RestoreTarget();
+    RestoreTarget(scopes_.size());
     return hasValue;
 }
 
@@ -188,16 +189,16 @@ void CodeGenerator::PushArgumentsBackward(const Node* first, std::uint32_t count
 
 void CodeGenerator::PlainCall(const Node& node) {
     const Node& callee = *node.A;
-    if (callee.Kind == NodeKind::Name && callee.Name->Register == Symbol::NoRegister) {
-        const MemberFound found = FindMember(callee.Name);
-        if (!found.IsFound) {
-            PushArgumentsBackward(node.B, node.Count);
-            Numeric(node.Count);
-            code_->PushText(callee.Name);
-            return code_->Emit(Opcode::CallFunction);
-        }
-    }
-    MethodCall(node);
+    if (callee.Kind != NodeKind::Name || IsMemberPlace(callee)) return MethodCall(node);
+    PushArgumentsBackward(node.B, node.Count);
+    Numeric(node.Count);
+    code_->PushText(callee.Name);
+    code_->Emit(Opcode::CallFunction);
+}
+
+bool CodeGenerator::IsMemberPlace(const Node& callee) const {
+    return callee.Kind == NodeKind::Member || callee.Kind == NodeKind::Index ||
+           (callee.Kind == NodeKind::Name && FindMember(callee.Name).IsFound);
 }
 
 /// A value that is no member is called by a method without a name.
@@ -205,9 +206,7 @@ void CodeGenerator::MethodCall(const Node& node) {
     const Node& callee = *node.A;
     PushArgumentsBackward(node.B, node.Count);
     Numeric(node.Count);
-    const bool isMember = callee.Kind == NodeKind::Member || callee.Kind == NodeKind::Index ||
-                          (callee.Kind == NodeKind::Name && FindMember(callee.Name).IsFound);
-    if (isMember) {
+    if (IsMemberPlace(callee)) {
         PushPlace(PlaceOf(callee));
     } else {
         Expression(callee);
@@ -220,11 +219,12 @@ void CodeGenerator::New(const Node& node) {
     const Node& callee = *node.A;
     PushArgumentsBackward(node.B, node.Count);
     Numeric(node.Count);
-    if (callee.Kind == NodeKind::Name && callee.Name->Register == Symbol::NoRegister) {
+    const bool isMember = IsMemberPlace(callee);
+    if (callee.Kind == NodeKind::Name && !isMember) {
         code_->PushText(callee.Name);
         return code_->Emit(Opcode::NewObject);
     }
-    if (callee.Kind == NodeKind::Member || callee.Kind == NodeKind::Index) {
+    if (isMember) {
         PushPlace(PlaceOf(callee));
     } else {
         Expression(callee);
@@ -358,9 +358,10 @@ void CodeGenerator::Duplicate(const Node& node) {
     if (depth.Kind == NodeKind::Number) {
         code_->PushNumber(depth.Value + FirstDepth);
     } else {
+        // Adding would join a text and a number.
         Expression(depth);
-        PushInteger(FirstDepth);
-        code_->Emit(version_ < 5 ? Opcode::Add : Opcode::Add2);
+        PushInteger(-FirstDepth);
+        code_->Emit(Opcode::Subtract);
     }
     code_->Emit(Opcode::CloneSprite);
 }

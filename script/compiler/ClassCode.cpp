@@ -1,3 +1,4 @@
+#include "script/compiler/Builtin.h"
 #include "script/compiler/CodeGenerator.h"
 #include "script/compiler/Vocabulary.h"
 
@@ -7,6 +8,7 @@ namespace {
 
 constexpr Long FirstExtendsVersion = 7;
 constexpr Long HiddenFromLoops = 1;
+constexpr std::string_view ClipClass = "MovieClip";
 
 }  // namespace
 
@@ -14,6 +16,7 @@ constexpr Long HiddenFromLoops = 1;
 void CodeGenerator::Class(const Node& node) {
     const ClassNode& definition = *node.Class;
     ClassRecord& record = classes_[DottedPath(*definition.Name)];
+    record.Name = Kept(*definition.Name);
     record.Base = definition.Base == nullptr ? std::string() : DottedPath(*definition.Base);
     for (const MemberNode* member = definition.FirstMember; member; member = member->Next)
         record.Members[member->Name] = member->IsStatic;
@@ -22,7 +25,6 @@ void CodeGenerator::Class(const Node& node) {
     code_->JumpIf(end);
     if (definition.Name->Kind == NodeKind::Member) Package(*definition.Name->A);
     class_ = &record;
-    className_ = definition.Name;
     Constructor(definition);
     if (definition.Base != nullptr) Inherit(definition);
     if (definition.Interfaces.Count > 0) Implement(definition);
@@ -30,8 +32,14 @@ void CodeGenerator::Class(const Node& node) {
     Members(definition, true);
     HideMembers(definition);
     class_ = nullptr;
-    className_ = nullptr;
     code_->Place(end);
+}
+
+/// A copy of a class's name that stays.
+const Node* CodeGenerator::Kept(const Node& name) {
+    tamber::Node& kept = classNames_.emplace_back(name);
+    if (name.Kind == NodeKind::Member) kept.A = const_cast<tamber::Node*>(Kept(*name.A));
+    return &kept;
 }
 
 std::string CodeGenerator::DottedPath(const Node& node) const {
@@ -203,16 +211,32 @@ bool CodeGenerator::Cast(const Node& node) {
 CodeGenerator::MemberFound CodeGenerator::FindMember(const Symbol* name) const {
     if (class_ == nullptr || name->Declarations > 0) return {};
     const ClassRecord* record = class_;
-    for (std::size_t count = 0; record != nullptr && count <= classes_.size(); ++count) {
+    for (std::size_t count = 0; count <= classes_.size(); ++count) {
         const auto found = record->Members.find(name);
-        if (found != record->Members.end()) {
-            const bool isOwn = record == class_;
-            return {isOwn || !found->second, found->second, className_};
-        }
+        if (found != record->Members.end())
+            return {true, found->second ? record->Name : nullptr, false};
         const auto base = classes_.find(record->Base);
-        record = base == classes_.end() ? nullptr : &base->second;
+        if (base == classes_.end()) {
+            const bool isOfClip = record->Base == ClipClass && IsMemberOfClip(name);
+            return {isOfClip, nullptr, isOfClip};
+        }
+        record = &base->second;
     }
     return {};
+}
+
+/// A class that extends clips has their members in what runs for one.
+bool CodeGenerator::IsMemberOfClip(const Symbol* name) const {
+    const bool isForOne = function_.Node != nullptr && function_.Node->IsMethod;
+    return isForOne && (name->Property != Symbol::NoProperty || IsClipMember(name->Text));
+}
+
+/// Whether a call names a method of the class and no built-in function: one that an author's class
+/// has, or one of clips that acts on a timeline or takes other arguments than the function.
+bool CodeGenerator::IsOwnMethod(const Builtin& builtin, const Node& call) const {
+    const MemberFound found = FindMember(call.A->Name);
+    const bool fits = call.Count >= builtin.MinArguments && call.Count <= builtin.MaxArguments;
+    return found.IsFound && (!found.IsOfClip || IsMethodOfClip(builtin) || !fits);
 }
 
 }  // namespace tamber

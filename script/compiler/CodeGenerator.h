@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <deque>
 #include <map>
 #include <string>
 
@@ -37,6 +38,8 @@ private:
         const Node* Statement = nullptr;
         /// Of a guard, the variable that says how the block was left.
         Symbol* Exit = nullptr;
+        /// Whether it is the block of a `finally`, which nothing runs after.
+        bool IsLast = false;
     };
     static constexpr std::size_t NoRecord = SIZE_MAX;
     /// Expressions in each other that are made by recursion on the left.
@@ -54,6 +57,9 @@ private:
         Byte Root = 0;
         Byte Parent = 0;
         Byte Global = 0;
+        /// For an object and its key between two actions; 0 until needed.
+        Byte Object = 0;
+        Byte Key = 0;
     };
     /// Where a value lies.
     enum class PlaceKind : Byte { Register, Variable, Property, Member, Index, Named };
@@ -67,6 +73,7 @@ private:
         const Node* Key = nullptr;
     };
     struct ClassRecord {
+        const Node* Name = nullptr;
         /// Path of the base class; empty for none.
         std::string Base;
         /// True for a static member.
@@ -74,8 +81,10 @@ private:
     };
     struct MemberFound {
         bool IsFound = false;
-        bool IsStatic = false;
+        /// Of a static member, the class that has it.
         const Node* Class = nullptr;
+        /// Whether it is one of all clips.
+        bool IsOfClip = false;
     };
 
     // Statements.
@@ -96,7 +105,7 @@ private:
     void With(const Node& node);
     void TellTarget(const Node& node);
     void SetTarget(const Node& target);
-    void RestoreTarget();
+    void RestoreTarget(std::size_t scopes);
     void IfFrameLoaded(const Node& node);
     void Try(const Node& node);
     void GuardBlock(const Node* block, const Node& statement, Symbol* exit);
@@ -159,7 +168,7 @@ private:
     void Increment(const Node& node, bool isWanted);
     void IncrementAfter(const Place& place, Operator op);
     bool IsSimplePlace(const Place& place) const;
-    Byte Temporary();
+    void ChooseKeyRegisters();
     bool SlashPathOf(const Node& node, std::string& path) const;
 
     // Calls.
@@ -168,6 +177,7 @@ private:
     bool BuiltinCall(const Builtin& builtin, const Node& node);
     bool IsCallOfBuiltin(const Node& node) const;
     void PlainCall(const Node& node);
+    bool IsMemberPlace(const Node& callee) const;
     void MethodCall(const Node& node);
     bool CallInSlashPath(const Node& node);
     bool CallInTarget(const std::string& path, Symbol* name, const Node& node);
@@ -190,7 +200,7 @@ private:
 
     // Functions and classes.
     void Function(const Node& node);
-    void FunctionBody(const FunctionNode& function);
+    void FunctionValue(const Node& node);
     void ChoosePreloads(FunctionState& state, ActionCode::FunctionRecord& record) const;
     void Bind(const FunctionNode& function, bool isBound);
     void Class(const Node& node);
@@ -206,7 +216,10 @@ private:
     void HideMembers(const ClassNode& node);
     bool Cast(const Node& node);
     std::string DottedPath(const Node& node) const;
+    const Node* Kept(const Node& name);
     MemberFound FindMember(const Symbol* name) const;
+    bool IsMemberOfClip(const Symbol* name) const;
+    bool IsOwnMethod(const Builtin& builtin, const Node& call) const;
 
     Symbol* Known(std::string_view text) { return symbols_.Intern(text); }
     void Complain(const Node& node, String text);
@@ -227,7 +240,8 @@ private:
     std::vector<ActionCode::Parameter> parameters_;
     std::map<std::string, ClassRecord, std::less<>> classes_;
     const ClassRecord* class_ = nullptr;
-    const Node* className_ = nullptr;
+    /// The names of the classes, which outlive their statements.
+    std::deque<Node> classNames_;
     int depth_ = 0;
 };
 

@@ -77,8 +77,9 @@ bool Calculate(Operator op, double a, double b, double& result) {
             result = ToSigned(a) >> shift;
             return true;
         case Operator::UnsignedRight:
+            // Players of version 8 make a negative number of what needs the highest bit.
             result = ToUnsigned(a) >> shift;
-            return true;
+            return result <= INT32_MAX;
         default:
             return false;
     }

@@ -22,15 +22,19 @@ int PreloadedCount(const FunctionNode& function) {
 Node* Parser::FunctionStatement() {
     const std::uint32_t line = token_.Line;
     Advance();
-    if (!Is(TokenKind::Identifier)) Fail(u"関数名が必要です。");
-    Symbol* name = TakeName(u"関数名");
-    Declare(name);
-    KeepNamed(name);
-    Node* node = FunctionRest(name, line);
+    Node* node = FunctionRest(FunctionName(), line);
     node->Flag = true;
     if (function_ == nullptr || blocks_ > 0) return node;
     function_->Functions.Add(node);
     return Make(NodeKind::Empty, line);
+}
+
+/// A function with a name becomes a variable of that name.
+Symbol* Parser::FunctionName() {
+    Symbol* name = TakeName(u"関数名");
+    Declare(name);
+    KeepNamed(name);
+    return name;
 }
 
 /// What stands behind the name: parameters, the type of the result, the body.
@@ -41,7 +45,8 @@ Node* Parser::FunctionRest(Symbol* name, std::uint32_t line) {
     FunctionNode* function = arena_.Make<FunctionNode>();
     node->Function = function;
     function->Name = name;
-    function->IsMethod = std::exchange(isMethodNext_, false);
+    const bool inMethod = function_ != nullptr && function_->IsMethod;
+    function->IsMethod = std::exchange(isMethodNext_, false) || inMethod;
     function->Line = line;
     function->Number = ++functionCount_;
     function->Depth = function_ == nullptr ? 1 : function_->Depth + 1;

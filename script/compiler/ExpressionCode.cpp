@@ -42,7 +42,7 @@ void CodeGenerator::Expression(const Node& node) {
         case NodeKind::Increment:
             return Increment(node, true);
         case NodeKind::Function:
-            return Function(node);
+            return FunctionValue(node);
         case NodeKind::Object:
             return ObjectLiteral(node);
         case NodeKind::Array:
@@ -131,8 +131,9 @@ void CodeGenerator::Name(const Node& node) {
         }
     };
     const Byte number = preloaded();
-    if (number != Symbol::NoRegister) return code_->PushRegister(number);
     const Place place = PlaceOf(node);
+    if (number != Symbol::NoRegister && place.Kind == PlaceKind::Variable)
+        return code_->PushRegister(number);
     PushPlace(place);
     Load(place);
 }

@@ -296,9 +296,10 @@ bool Parser::IsSlashPathAhead() {
     const bool isStatement = std::exchange(atStatement_, false);
     if (Is(TokenKind::Slash) || Is(TokenKind::Colon) || Is(TokenKind::Dot))
         return lexer_.ReadSlashPath(token_, Lexer::PathForm::Rooted);
-    if (version_ > 4 || !Is(TokenKind::Identifier) || colonsAwaited_ > 0) return false;
+    if (!Is(TokenKind::Identifier) || colonsAwaited_ > 0) return false;
+    const bool mayCall = isStatement && version_ == 4;
     return lexer_.ReadSlashPath(
-        token_, isStatement ? Lexer::PathForm::WithColonOrCall : Lexer::PathForm::WithColon);
+        token_, mayCall ? Lexer::PathForm::WithColonOrCall : Lexer::PathForm::WithColon);
 }
 
 Node* Parser::Primary() {
@@ -335,8 +336,8 @@ Node* Parser::Primary() {
         case TokenKind::Function: {
             const std::uint32_t line = token_.Line;
             Advance();
-            Symbol* name = Is(TokenKind::Identifier) ? TakeName(u"関数名") : nullptr;
-            return FunctionRest(name, line);
+            if (Is(TokenKind::OpenParenthesis)) return FunctionRest(nullptr, line);
+            return FunctionRest(FunctionName(), line);
         }
         default:
             Fail(Is(TokenKind::End) ? u"式が必要です。" : u"ここには式が必要です。");

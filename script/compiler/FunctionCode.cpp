@@ -46,6 +46,15 @@ void CodeGenerator::Function(const Node& node) {
     function_ = outer;
 }
 
+/// The action leaves the value of a function without a name only; one with a name becomes a
+/// variable.
+void CodeGenerator::FunctionValue(const Node& node) {
+    Function(node);
+    if (node.Function->Name == nullptr) return;
+    code_->PushText(node.Function->Name);
+    code_->Emit(Opcode::GetVariable);
+}
+
 /// Values that the function starts with go into the first registers, in this order; those that it
 /// does not use are not made. Where names are made at run time, all are made, by their names.
 void CodeGenerator::ChoosePreloads(FunctionState& state, ActionCode::FunctionRecord& record) const {

@@ -40,7 +40,8 @@ Symbol* CodeGenerator::ExitName() {
 void CodeGenerator::GuardBlock(const Node* block, const Node& statement, Symbol* exit) {
     if (block == nullptr) return;
     const Label end = code_->NewLabel(statement.Line);
-    scopes_.push_back({ScopeKind::Guard, end, end, &statement, exit});
+    const bool isLast = block == statement.C;
+    scopes_.push_back({ScopeKind::Guard, end, end, &statement, exit, isLast});
     Statement(*block);
     scopes_.pop_back();
     code_->Place(end);
@@ -74,10 +75,10 @@ void CodeGenerator::LeaveGuard(const Scope& scope, NodeKind kind) {
     code_->Jump(scope.Break);
 }
 
-/// Whether it is a try with a `finally`, which runs before a function ends.
+/// Whether it is a part of a try whose `finally` runs before a function ends.
 bool CodeGenerator::HasLast(const Scope& scope) {
     return scope.Kind == ScopeKind::Guard && scope.Statement->Kind == NodeKind::Try &&
-           scope.Statement->C != nullptr;
+           scope.Statement->C != nullptr && !scope.IsLast;
 }
 
 /// Goes to where break, continue or return lead, out of what stands between. The value of a return
@@ -90,7 +91,7 @@ void CodeGenerator::Leave(NodeKind kind) {
         if (kind == NodeKind::Break && (isLoop || scope.Kind == ScopeKind::Switch))
             return code_->Jump(scope.Break);
         if (scope.Kind == ScopeKind::ForIn && code_->IsReachable()) UnwindForIn();
-        if (scope.Kind == ScopeKind::TellTarget) code_->Emit(ItemKind::SetTarget, Known("")->Index);
+        if (scope.Kind == ScopeKind::TellTarget) RestoreTarget(i);
         if (scope.Kind == ScopeKind::Guard && (kind != NodeKind::Return || HasLast(scope)))
             return LeaveGuard(scope, kind);
     }

@@ -278,7 +278,8 @@ bool Lexer::ReadSlashPath(Token& token, PathForm form) {
         return at != first;
     };
     const bool begins = is('/') || is(':') || (is('.') && end_ - at > 1 && at[1] == '.');
-    if (!begins && form == PathForm::Rooted) return false;
+    const bool goesOn = Ahead(0) == '/' || Ahead(0) == ':';
+    if (!begins && (form == PathForm::Rooted || !goesOn)) return false;
     bool hasSlash = false;
     bool hasColon = false;
     if (!is('/') && !is(':')) skipName();
@@ -318,9 +319,9 @@ Token Lexer::ReadNumber(Token token) {
     } else {
         const char* digits = begin;
         while (digits != end_ && *digits >= '0' && *digits <= '7') ++digits;
-        const bool isOctal = *begin == '0' && digits - begin > 1 &&
-                             (digits == end_ || (*digits != '.' && *digits != '8' &&
-                                                 *digits != '9' && *digits != 'e'));
+        const bool isOctal =
+            *begin == '0' && digits - begin > 1 &&
+            (digits == end_ || std::string_view(".89eE").find(*digits) == std::string_view::npos);
         if (isOctal)
             ReadPrefixed(token, 8);
         else

@@ -116,6 +116,7 @@ private:
     Node* MakeBinary(Operator op, Node* left, Node* right, std::uint32_t line);
 
     // Functions and classes.
+    Symbol* FunctionName();
     Node* FunctionRest(Symbol* name, std::uint32_t line);
     void Parameters(FunctionNode& function);
     void Declare(Symbol* name, bool isParameter = false);

@@ -19,7 +19,7 @@ CodeGenerator::Place CodeGenerator::PlaceOf(const Node& node) {
                 return {PlaceKind::Register, node.Name->Register, 0, node.Name};
             const MemberFound found = FindMember(node.Name);
             if (!found.IsFound) return {.Name = node.Name};
-            return {PlaceKind::Member, 0, 0, node.Name, found.IsStatic ? found.Class : nullptr};
+            return {PlaceKind::Member, 0, 0, node.Name, found.Class};
         }
         case NodeKind::SlashPath:
             return {.Name = node.Name};
@@ -221,25 +221,31 @@ void CodeGenerator::ChangeComplex(const Place& place, const Node* value, Operato
         code_->Emit(Opcode::StackSwap);
         return StoreWanted(place, isWanted);
     }
-    const bool isOwn = function_.Node != nullptr && function_.Record != NoRecord;
-    const Byte object = isOwn ? Temporary() : ObjectRegister;
-    const Byte key = isOwn ? Temporary() : KeyRegister;
+    ChooseKeyRegisters();
     PushPlace(place);
-    code_->Emit(ItemKind::StoreRegister, key);
+    code_->Emit(ItemKind::StoreRegister, function_.Key);
     code_->Emit(Opcode::StackSwap);
-    code_->Emit(ItemKind::StoreRegister, object);
+    code_->Emit(ItemKind::StoreRegister, function_.Object);
     code_->Emit(Opcode::StackSwap);
-    code_->PushRegister(object);
-    code_->PushRegister(key);
+    code_->PushRegister(function_.Object);
+    code_->PushRegister(function_.Key);
     Load(place);
     ApplyChange(value, op);
     StoreWanted(place, isWanted);
 }
 
-/// A register of the function that nothing else uses.
-Byte CodeGenerator::Temporary() {
+/// Registers that nothing else uses, behind the function's variables where it has its own. Nothing
+/// is worked out while they hold their values, so that one pair does for a function.
+void CodeGenerator::ChooseKeyRegisters() {
+    if (function_.Key != 0) return;
+    if (function_.Record == NoRecord) {
+        function_.Object = ObjectRegister;
+        function_.Key = KeyRegister;
+        return;
+    }
     Byte& count = code_->Functions[function_.Record].RegisterCount;
-    return count < 255 ? count++ : static_cast<Byte>(254);
+    function_.Object = count++;
+    function_.Key = count++;
 }
 
 void CodeGenerator::ApplyChange(const Node* value, Operator op) {

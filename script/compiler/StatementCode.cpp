@@ -319,10 +319,11 @@ void CodeGenerator::SetLocal() {
     code_->Emit(function_.Node != nullptr ? Opcode::DefineLocal : Opcode::SetVariable);
 }
 
-/// Inside another target that one is set again, and otherwise the script's own clip.
-void CodeGenerator::RestoreTarget() {
+/// Inside another target, within the first so many scopes, that one is set again, and otherwise the
+/// script's own clip.
+void CodeGenerator::RestoreTarget(std::size_t scopes) {
     code_->Emit(ItemKind::SetTarget, Known("")->Index);
-    for (std::size_t i = function_.FirstScope; i < scopes_.size(); ++i)
+    for (std::size_t i = function_.FirstScope; i < scopes; ++i)
         if (scopes_[i].Kind == ScopeKind::TellTarget) SetTarget(*scopes_[i].Statement->A);
 }
 
@@ -343,7 +344,7 @@ void CodeGenerator::TellTarget(const Node& node) {
     scopes_.push_back({ScopeKind::TellTarget, 0, 0, &node});
     Statement(*node.B);
     scopes_.pop_back();
-    RestoreTarget();
+    RestoreTarget(scopes_.size());
 }
 
 /// The action skips one action when the frame is not there: the jump to the body.

@@ -67,3 +67,5 @@ trace((1, 2, p)); //= 9
 trace(p -= 2);    //= 7
 trace(int(7.9)); //= 7
 trace(int(-7.9)); //= -7
+minus = -1;
+trace((-1 >>> 0) == (minus >>> 0)); //= true

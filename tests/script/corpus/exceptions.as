@@ -36,3 +36,27 @@ trace(nested2());                 //= unwound
                                   //= 1
 function registers(a) { var b = a; try { b += 1; throw b; } catch (e) { b += e; } return b; }
 trace(registers(1));              //= 4
+function overrides() { try { throw 1; } finally { return 2; } }
+trace(overrides());               //= 2
+function lastWins() { for (var k in {a: 1}) { try { return 1; } finally { return 3; } } }
+trace(lastWins());                //= 3
+function innerLast() { try { try { return 1; } finally { return 4; } } finally { trace("outer"); } }
+trace(innerLast());               //= outer
+                                  //= 4
+function throwing() { throw "t"; }
+seen = "";
+for (k in {a: 1, b: 1}) { try { seen += "x" + throwing(); } catch (e) { seen += "c"; } }
+trace(seen);                      //= cc
+function inLoop() { for (var j in {p: 1, q: 1, r: 1}) throwing(); }
+caught = 0;
+for (k in {a: 1, b: 1}) { try { inLoop(); } catch (e) { caught++; } }
+trace(caught);                    //= 2
+for (k in {a: 1, b: 1}) { try { for (j in {p: 1, q: 1}) throwing(); } catch (e) { caught++; } }
+trace(caught);                    //= 4
+function throwsAgain() { try { throw 1; } catch (e) { throw 2; } finally { trace("F"); } }
+try { throwsAgain(); } catch (e) { trace("got " + e); } //= F
+                                  //= got 2
+function leaves(o) { while (true) { with (o) { try { if (v) break; } finally { v = 1; trace("w"); } } } return "done"; }
+trace(leaves({v: 0}));            //= w
+                                  //= w
+                                  //= done

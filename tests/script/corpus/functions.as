@@ -52,3 +52,5 @@ trace(forIn({a: 1})); //= a=1
 function cond(a) { var r = a || "none"; return r && r + "!"; }
 trace(typeof cond(0));      //= string
 trace(cond(5));      //= 5!
+named = function sums(n) { return n > 0 ? n + sums(n - 1) : 0; };
+trace(named(3));     //= 6

@@ -69,3 +69,13 @@ if (again++ < 1) gotoAndPlay(n); else gotoAndPlay("f4"); //=-6 frame 2
 //@ frame 4
 trace("frame 4");            //= frame 4
 if (!called) { called = true; call("f1x"); call(9); }
+for (t = 0; t < 2; t++) { tellTarget("clip") { while (1) { tellTarget("/") { break; } } trace(_target); } } //= /clip
+                             //= /clip
+clip.q = 6;
+trace(clip:q);               //= 6
+trace(_level0/clip:q);       //= 6
+trace(true ? clip.q:none);   //= 6
+switch (6) { case clip.q: trace("case"); } //= case
+text = "5"; duplicateMovieClip("clip", "deep", text);
+trace(deep.getDepth());      //=6+ 5
+                             //=5-5 undefined
