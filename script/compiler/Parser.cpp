@@ -2,6 +2,7 @@
 
 #include "platform/text.h"
 #include "script/compiler/ParserLevel.h"
+#include "script/compiler/VersionAdvice.h"
 
 namespace tamber {
 
@@ -42,6 +43,7 @@ Node* Parser::GuardedStatement() {
     const bool inClass = inClass_;
     const std::size_t firstGuard = firstGuard_;
     const std::size_t guards = guards_.size();
+    const char* const first = token_.Text.data();
     try {
         return Statement();
     } catch (const SyntaxError&) {
@@ -55,6 +57,7 @@ Node* Parser::GuardedStatement() {
         inClass_ = inClass;
         if (diagnostics_.IsFull()) throw HopelessError();
         Recover();
+        if (token_.Text.data() == first) Advance();
     }
     return nullptr;
 }
@@ -89,13 +92,17 @@ void Parser::Complain(std::uint32_t line, std::string_view token, String text) {
 }
 
 void Parser::NeedVersion(Long version, std::string_view token, std::uint32_t line) {
-    if (version_ < version)
-        Complain(line, token,
-                 u"SWF" + ToText(version_) + u"では使用できません。SWF" + ToText(version) +
-                     u"以降にして下さい。");
+    if (version_ >= version) return;
+    String text = u"SWF" + ToText(version_) + u"では使用できません。SWF" + ToText(version) +
+                  u"以降にして下さい。";
+    const StringView advice = VersionAdvice(token);
+    if (!advice.empty()) text.append(u"または").append(advice);
+    Complain(line, token, text);
 }
 
 Symbol* Parser::TakeName(StringView what) {
+    if (IsWord(token_.Kind))
+        Fail(u"予約語は" + String(what) + u"に使用できません。別の名前にして下さい。");
     if (!Is(TokenKind::Identifier)) Fail(String(what) + u"が必要です。");
     Symbol* name = token_.Name;
     Advance();
@@ -109,9 +116,14 @@ Symbol* Parser::TakeMemberName() {
     return name;
 }
 
-/// Steps to where a statement may begin: behind a semicolon, at a word that begins one, or at the
-/// brace that closes the block.
+/// Steps to where a statement may begin. The `else` of an `if` that could not be read is none.
 void Parser::Recover() {
+    SkipToStatement();
+    Accept(TokenKind::Else);
+}
+
+/// Behind a semicolon, at a word that begins a line, or at the brace that closes the block.
+void Parser::SkipToStatement() {
     int braces = 0;
     for (; !Is(TokenKind::End); Advance()) {
         if (Is(TokenKind::OpenBrace)) ++braces;
@@ -166,6 +178,14 @@ Node* Parser::Statement() {
             return ThrowStatement();
         case TokenKind::Function:
             return FunctionStatement();
+        case TokenKind::Else:
+            return StrayPart(u"else の前に if がありません。");
+        case TokenKind::Case:
+        case TokenKind::Default:
+            return StrayPart(u"case と default は switch の中でのみ使用できます。");
+        case TokenKind::Catch:
+        case TokenKind::Finally:
+            return StrayPart(u"catch と finally の前に try がありません。");
         default:
             return SimpleStatement();
     }
@@ -180,6 +200,21 @@ Node* Parser::SimpleStatement() {
     if (IsSpecial(SpecialName::Import) && Peek().Kind == TokenKind::Identifier)
         return ImportStatement();
     return ExpressionStatement();
+}
+
+/// A part of a statement that does not stand in one. What it governs is read by itself.
+Node* Parser::StrayPart(const String& text) {
+    Complain(token_.Line, token_.Text, text);
+    Node* node = Make(NodeKind::Empty, token_.Line);
+    const bool hasHead = !Is(TokenKind::Else);
+    Advance();
+    const auto ends = [this] {
+        return token_.StartsLine || Is(TokenKind::End) || Is(TokenKind::OpenBrace) ||
+               Is(TokenKind::CloseBrace) || Is(TokenKind::Colon);
+    };
+    while (hasHead && !ends()) Advance();
+    if (hasHead) Accept(TokenKind::Colon);
+    return node;
 }
 
 Node* Parser::ExpressionStatement() {
@@ -416,109 +451,6 @@ Node* Parser::ReturnStatement() {
     const bool isBare = Is(TokenKind::Semicolon) || Is(TokenKind::CloseBrace) ||
                         Is(TokenKind::End) || Is(TokenKind::Else) || token_.StartsLine;
     if (!isBare) node->A = Expression();
-    EndStatement();
-    return node;
-}
-
-Node* Parser::SwitchStatement() {
-    Node* node = Make(NodeKind::Switch, token_.Line);
-    Advance();
-    node->A = Condition();
-    Expect(TokenKind::OpenBrace, u"{");
-    NodeList cases;
-    bool hasDefault = false;
-    ++switches_;
-    while (!Is(TokenKind::CloseBrace)) {
-        if (Is(TokenKind::Default)) {
-            if (hasDefault) Complain(token_.Line, token_.Text, u"default は一つだけです。");
-            hasDefault = true;
-        }
-        cases.Add(CaseClause());
-    }
-    --switches_;
-    Advance();
-    node->B = cases.First;
-    node->Count = cases.Count;
-    return node;
-}
-
-Node* Parser::CaseClause() {
-    Node* node = Make(NodeKind::Case, token_.Line);
-    if (Accept(TokenKind::Case)) {
-        ++colonsAwaited_;
-        node->A = Expression();
-        --colonsAwaited_;
-    } else {
-        Expect(TokenKind::Default, u"case または default");
-    }
-    Expect(TokenKind::Colon, u":");
-    NodeList list;
-    ++blocks_;
-    while (!Is(TokenKind::Case) && !Is(TokenKind::Default) && !Is(TokenKind::CloseBrace)) {
-        if (Is(TokenKind::End)) Fail(u"} が必要です。");
-        WarnOfUnreachable(list.Last);
-        if (Node* statement = GuardedStatement()) list.Add(statement);
-    }
-    --blocks_;
-    node->B = list.First;
-    node->Count = list.Count;
-    return node;
-}
-
-Node* Parser::WithStatement() {
-    Node* node = Make(NodeKind::With, token_.Line);
-    NeedVersion(5, token_.Text, token_.Line);
-    Advance();
-    node->A = Condition();
-    if (function_ != nullptr) function_->NeedsNames = true;
-    node->B = GuardedBlock(node, &Parser::Body);
-    return node;
-}
-
-Node* Parser::TellTargetStatement() {
-    Node* node = Make(NodeKind::TellTarget, token_.Line);
-    Advance();
-    node->A = Condition();
-    node->B = Body();
-    return node;
-}
-
-/// With two arguments the first is a scene; frames are counted, and labels known, over all of them.
-Node* Parser::IfFrameLoadedStatement() {
-    Node* node = Make(NodeKind::IfFrameLoaded, token_.Line);
-    Advance();
-    Expect(TokenKind::OpenParenthesis, u"(");
-    node->A = Assignment();
-    if (Accept(TokenKind::Comma)) node->A = Assignment();
-    Expect(TokenKind::CloseParenthesis, u")");
-    node->B = Body();
-    return node;
-}
-
-Node* Parser::TryStatement() {
-    Node* node = Make(NodeKind::Try, token_.Line);
-    NeedVersion(7, token_.Text, token_.Line);
-    Advance();
-    node->A = GuardedBlock(node, &Parser::Block);
-    if (Accept(TokenKind::Catch)) {
-        Expect(TokenKind::OpenParenthesis, u"(");
-        node->Name = TakeName(u"変数名");
-        Declare(node->Name);
-        KeepNamed(node->Name);
-        SkipType();
-        Expect(TokenKind::CloseParenthesis, u")");
-        node->B = GuardedBlock(node, &Parser::Block);
-    }
-    if (Accept(TokenKind::Finally)) node->C = GuardedBlock(node, &Parser::Block);
-    if (node->B == nullptr && node->C == nullptr) Fail(u"catch または finally が必要です。");
-    return node;
-}
-
-Node* Parser::ThrowStatement() {
-    Node* node = Make(NodeKind::Throw, token_.Line);
-    NeedVersion(7, token_.Text, token_.Line);
-    Advance();
-    node->A = Expression();
     EndStatement();
     return node;
 }

@@ -44,12 +44,14 @@ private:
     Symbol* TakeName(StringView what);
     Symbol* TakeMemberName();
     void Recover();
+    void SkipToStatement();
     Node* Make(NodeKind kind, std::uint32_t line);
 
     // Statements.
     Node* GuardedStatement();
     Node* Statement();
     Node* SimpleStatement();
+    Node* StrayPart(const String& text);
     Node* ExpressionStatement();
     Node* Block();
     Node* Grouped(const NodeList& list, std::uint32_t line);

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
 
 #include "script/compiler/ActionCompiler.h"
@@ -62,6 +63,14 @@ TEST(Code, OfBuiltInFunctionsIsTheirAction) {
         {4, "loadMovie(\"u\", \"c\");", "96 06 00 00 75 00 00 63 00 9A 01 00 40"},
         {4, "loadVariables(\"u\", \"c\", \"GET\");", "96 06 00 00 75 00 00 63 00 9A 01 00 C1"},
         {4, "loadMovieNum(\"u\", 2);", "83 0A 00 75 00 5F 6C 65 76 65 6C 32 00"},
+        {4, "loadMovie(\"u\", \"c\", \"POST\");", "96 06 00 00 75 00 00 63 00 9A 01 00 42"},
+        {4, "loadVariablesNum(\"u\", 0, \"POST\");",
+         "96 0C 00 00 75 00 00 5F 6C 65 76 65 6C 30 00 9A 01 00 82"},
+        {4, "loadMovieNum(\"u\", 1, \"GET\");",
+         "96 0C 00 00 75 00 00 5F 6C 65 76 65 6C 31 00 9A 01 00 01"},
+        {4, "unloadMovieNum(3);", "83 09 00 00 5F 6C 65 76 65 6C 33 00"},
+        {4, "printNum(0, \"bframe\");",
+         "83 16 00 70 72 69 6E 74 3A 23 62 66 72 61 6D 65 00 5F 6C 65 76 65 6C 30 00"},
         {4, "unloadMovie(\"c\");", "96 05 00 00 00 00 63 00 9A 01 00 40"},
         {4, "print(\"c\", \"bmovie\");", "96 0B 00 00 70 72 69 6E 74 3A 00 00 63 00 9A 01 00 00"},
         {4, "fscommand(\"a\", \"b\");", "83 0E 00 46 53 43 6F 6D 6D 61 6E 64 3A 61 00 62 00"},
@@ -129,15 +138,11 @@ TEST(Code, IsNotMadeOfWhatHasNoEffectOrCannotBeReached) {
 
 TEST(Code, OfConstantsIsTheirResult) {
     const CodeCase cases[] = {
-        {5, "x = 1 + 2 * 3;", "x = 7;"},
-        {5, "x = 7 >>> 1 << 2;", "x = 12;"},
-        {5, "x = -1 >>> 28;", "x = 15;"},
-        {5, "x = \"a\" + \"b\" + 1;", "x = \"ab1\";"},
-        {5, "x = !(2 < 1);", "x = true;"},
-        {4, "x = 6 / 4;", "x = 1.5;"},
-        {5, "x = 0x10 + 010;", "x = 24;"},
-        {5, "x = true ? 1 : y;", "x = 1;"},
-        {5, "x = \"\\x41\\102\\u0043\";", "x = \"ABC\";"},
+        {5, "x = 1 + 2 * 3;", "x = 7;"},   {5, "x = 7 >>> 1 << 2;", "x = 12;"},
+        {5, "x = -1 >>> 28;", "x = 15;"},  {5, "x = \"a\" + \"b\" + 1;", "x = \"ab1\";"},
+        {5, "x = !(2 < 1);", "x = true;"}, {4, "x = 6 / 4;", "x = 1.5;"},
+        {5, "x = 0x10 + 010;", "x = 24;"}, {5, "x = true ? 1 : y;", "x = 1;"},
+        {5, "x = 01E3;", "x = 1000;"},     {5, "x = \"\\x41\\102\\u0043\";", "x = \"ABC\";"},
     };
     for (const CodeCase& folded : cases)
         EXPECT_EQ(Compiled(folded.Source, folded.Version), Compiled(folded.Code, folded.Version))
@@ -158,6 +163,18 @@ TEST(Code, KeepsVariablesOutOfRegistersThatOthersReachByName) {
             ActionDisassembler(7).List(ActionCompiler(7).Compile(source).Actions);
         EXPECT_NE(text.find("\"a\""), text.npos) << text;
     }
+}
+
+TEST(Code, UsesOnePairOfRegistersForAllElementsThatChange) {
+    std::string body;
+    for (int i = 0; i < 200; ++i) body += "a[f()] += 1;";
+    const CompiledScript script = ActionCompiler(7).Compile("function g(a) {" + body + "}");
+    // Behind the code, the record's length, the name and the number of parameters: register 0, that
+    // of the parameter, and the pair.
+    constexpr std::size_t RegisterCountAt = 3 + 2 + 2;
+    const auto at = std::find(script.Actions.begin(), script.Actions.end(), Byte{0x8E});
+    ASSERT_GT(script.Actions.end() - at, 8);
+    EXPECT_EQ(at[RegisterCountAt], 4);
 }
 
 TEST(Code, OfBuiltInsAndKeywordsIsFoundWithoutCaseBelowVersion7) {

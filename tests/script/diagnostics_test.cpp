@@ -57,6 +57,13 @@ TEST(Diagnostics, NameTheLineAndTheToken) {
         {4, "x = a % b;", 1, "%"},
         {5, "class A { }", 1, "class"},
         {6, "#include \"x\"", 1, "#"},
+        {6, "a();\nelse b();", 2, "else"},
+        {6, "a();\n\ncase 1: b();", 3, "case"},
+        {7, "a();\ncatch (e) { }", 2, "catch"},
+        {6, "var\nif = 1;", 2, "if"},
+        {6, "f(1;", 1, ";"},
+        {6, "x = 2 +;", 1, ";"},
+        {6, "\nadd 1;", 2, "add"},
     };
     for (const Fault& fault : faults) {
         const CompiledScript script = Compiled(fault.Source, fault.Version);
@@ -76,6 +83,40 @@ TEST(Diagnostics, GoOnBehindAnError) {
     EXPECT_EQ(script.Errors[1].Line, 3);
     EXPECT_EQ(script.Errors[2].Line, 4);
     EXPECT_EQ(script.Errors[3].Line, 5);
+}
+
+TEST(Diagnostics, AreNotRepeatedForOneFault) {
+    const std::string_view sources[] = {
+        "a();\nelse b();\nc();",
+        "a();\ncase 1: b();",
+        "a();\nfinally { b(); }",
+        "if (a) x = ;\nelse b();",
+        "if (a { b(); }\nelse { c(); }",
+        "a();\nin b;",
+        "switch (a) {\ncase 1: x = ;\ncase 2: y();\n}",
+        "x = \"open\ny = 1;",
+    };
+    for (const std::string_view source : sources)
+        EXPECT_EQ(Compiled(source, 7).Errors.size(), 1U) << source;
+}
+
+TEST(Diagnostics, TellWhatElseToWriteInAVersion) {
+    const struct {
+        Long Version;
+        std::string_view Source;
+        StringView Advice;
+    } cases[] = {
+        {4, "x = a % b;", u"a - int(a / b) * b"},
+        {4, "x = a[1];", u"eval("},
+        {4, "function f() { }", u"call()"},
+        {4, "with (a) { }", u"tellTarget"},
+        {5, "x = a === b;", u"=="},
+    };
+    for (const auto& advised : cases) {
+        const CompiledScript script = Compiled(advised.Source, advised.Version);
+        ASSERT_FALSE(script.Errors.empty()) << advised.Source;
+        EXPECT_NE(script.Errors[0].Text.find(advised.Advice), String::npos) << advised.Source;
+    }
 }
 
 TEST(Diagnostics, EndAfterTwentyErrors) {

@@ -1,0 +1,243 @@
+#include <utility>
+
+#include "platform/text.h"
+#include "script/compiler/Builtin.h"
+#include "script/compiler/Parser.h"
+
+namespace tamber {
+
+bool Parser::IsSlashPathAhead() {
+    const bool isStatement = std::exchange(atStatement_, false);
+    if (Is(TokenKind::Slash) || Is(TokenKind::Colon) || Is(TokenKind::Dot))
+        return lexer_.ReadSlashPath(token_, Lexer::PathForm::Rooted);
+    if (!Is(TokenKind::Identifier) || colonsAwaited_ > 0) return false;
+    const bool mayCall = isStatement && version_ == 4;
+    return lexer_.ReadSlashPath(
+        token_, mayCall ? Lexer::PathForm::WithColonOrCall : Lexer::PathForm::WithColon);
+}
+
+Node* Parser::Primary() {
+    if (IsSlashPathAhead()) {
+        Node* node = Make(NodeKind::SlashPath, token_.Line);
+        node->Name = token_.Name;
+        Advance();
+        return node;
+    }
+    Node* node = nullptr;
+    switch (token_.Kind) {
+        case TokenKind::Identifier:
+            return Name();
+        case TokenKind::Number:
+            node = Make(NodeKind::Number, token_.Line);
+            node->Value = token_.Number;
+            break;
+        case TokenKind::Text:
+            node = Make(NodeKind::Text, token_.Line);
+            node->Name = token_.Name;
+            break;
+        case TokenKind::This:
+            node = Make(NodeKind::This, token_.Line);
+            if (function_ != nullptr) function_->UsesThis = true;
+            break;
+        case TokenKind::OpenParenthesis:
+            return Parenthesised();
+        case TokenKind::OpenBracket:
+            return ArrayLiteral();
+        case TokenKind::OpenBrace:
+            return ObjectLiteral();
+        case TokenKind::New:
+            return NewExpression();
+        case TokenKind::Function: {
+            const std::uint32_t line = token_.Line;
+            Advance();
+            if (Is(TokenKind::OpenParenthesis)) return FunctionRest(nullptr, line);
+            return FunctionRest(FunctionName(), line);
+        }
+        default:
+            Fail(Is(TokenKind::End) ? u"式が必要です。" : u"ここには式が必要です。");
+    }
+    Advance();
+    return node;
+}
+
+Node* Parser::Name() {
+    const std::uint32_t line = token_.Line;
+    Symbol* name = token_.Name;
+    Advance();
+    if (name->Special != SpecialName::None && name->Special <= SpecialName::Super)
+        return SpecialValue(name->Special, line);
+    NoteName(name, line);
+    NoteUse(name);
+    NoteSpecial(name->Special);
+    if (!imports_.empty())
+        if (Node* imported = Imported(name, line)) return imported;
+    Node* node = Make(NodeKind::Name, line);
+    node->Name = name;
+    return node;
+}
+
+Node* Parser::SpecialValue(SpecialName name, std::uint32_t line) {
+    Node* node = nullptr;
+    switch (name) {
+        case SpecialName::True:
+        case SpecialName::False:
+            node = Make(version_ < 5 ? NodeKind::Number : NodeKind::Boolean, line);
+            node->Flag = name == SpecialName::True;
+            if (version_ < 5) node->Value = node->Flag ? 1 : 0;
+            return node;
+        case SpecialName::NewLine:
+            node = Make(NodeKind::Text, line);
+            node->Name = symbols_.Intern("\n");
+            return node;
+        case SpecialName::Super:
+            NeedVersion(6, "super", line);
+            if (function_ == nullptr)
+                Complain(line, "super", u"関数の中でのみ使用できます。");
+            else
+                function_->UsesSuper = true;
+            return Make(NodeKind::Super, line);
+        default:
+            NeedVersion(5, name == SpecialName::Null ? "null" : "undefined", line);
+            return Make(name == SpecialName::Null ? NodeKind::Null : NodeKind::Undefined, line);
+    }
+}
+
+Node* Parser::Imported(const Symbol* name, std::uint32_t line) {
+    const auto found = imports_.find(name);
+    if (found == imports_.end()) return nullptr;
+    Node* node = Make(NodeKind::Name, line);
+    node->Name = found->second.front();
+    for (std::size_t i = 1; i < found->second.size(); ++i) {
+        Node* member = Make(NodeKind::Member, line);
+        member->A = node;
+        member->Name = found->second[i];
+        node = member;
+    }
+    return node;
+}
+
+void Parser::NoteName(Symbol* name, std::uint32_t line) {
+    if (name->NeededVersion <= version_) return;
+    diagnostics_.Warn(line, name->Text,
+                      u"SWF" + ToText(static_cast<Long>(name->NeededVersion)) +
+                          u"以降の名前です。SWF" + ToText(version_) + u"では働きません。");
+    name->NeededVersion = 0;
+}
+
+void Parser::NoteUse(Symbol* name) {
+    if (function_ != nullptr && function_->Depth > 1) uses_.push_back({name, function_->Depth});
+}
+
+void Parser::NoteCall(Symbol* name) {
+    if (function_ == nullptr) return;
+    if (name->BuiltinEntry == nullptr) {
+        KeepNamed(name);
+    } else if (name->BuiltinEntry->Form == BuiltinForm::Evaluate ||
+               name->BuiltinEntry->Form == BuiltinForm::SetNamed) {
+        function_->NeedsNames = true;
+    }
+}
+
+void Parser::KeepNamed(Symbol* name) {
+    if (function_ != nullptr) uses_.push_back({name, function_->Depth + 1});
+}
+
+void Parser::NoteSpecial(SpecialName name) {
+    if (function_ == nullptr) return;
+    switch (name) {
+        case SpecialName::Arguments:
+            function_->UsesArguments = true;
+            break;
+        case SpecialName::Root:
+            function_->UsesRoot = true;
+            break;
+        case SpecialName::Parent:
+            function_->UsesParent = true;
+            break;
+        case SpecialName::Global:
+            function_->UsesGlobal = true;
+            break;
+        default:
+            break;
+    }
+}
+
+void Parser::CheckTarget(const Node& target) {
+    switch (target.Kind) {
+        case NodeKind::Name:
+        case NodeKind::SlashPath:
+        case NodeKind::Member:
+        case NodeKind::Index:
+            return;
+        case NodeKind::Call:
+            if (target.A->Kind == NodeKind::Name && target.A->Name->BuiltinEntry != nullptr &&
+                target.A->Name->BuiltinEntry->Form == BuiltinForm::Evaluate)
+                return;
+            break;
+        default:
+            break;
+    }
+    Complain(token_.Line, token_.Text, u"代入できるのは変数とメンバーだけです。");
+}
+
+Node* Parser::Parenthesised() {
+    Advance();
+    const int colons = std::exchange(colonsAwaited_, 0);
+    Node* node = Expression();
+    colonsAwaited_ = colons;
+    Expect(TokenKind::CloseParenthesis, u")");
+    return node;
+}
+
+Node* Parser::ArrayLiteral() {
+    Node* node = Make(NodeKind::Array, token_.Line);
+    NeedVersion(5, token_.Text, token_.Line);
+    Advance();
+    NodeList list;
+    while (!Is(TokenKind::CloseBracket)) {
+        if (Is(TokenKind::Comma))
+            list.Add(Make(NodeKind::Undefined, token_.Line));
+        else
+            list.Add(Assignment());
+        if (!Is(TokenKind::CloseBracket)) Expect(TokenKind::Comma, u", または ]");
+    }
+    Advance();
+    node->A = list.First;
+    node->Count = list.Count;
+    return node;
+}
+
+Node* Parser::ObjectLiteral() {
+    Node* node = Make(NodeKind::Object, token_.Line);
+    NeedVersion(5, token_.Text, token_.Line);
+    Advance();
+    NodeList list;
+    while (!Is(TokenKind::CloseBrace)) {
+        Node* key = PropertyKey();
+        Expect(TokenKind::Colon, u":");
+        Node* value = Assignment();
+        Node* entry = Make(NodeKind::Empty, key->Line);
+        entry->A = value;
+        entry->D = key;
+        list.Add(entry);
+        if (!Is(TokenKind::CloseBrace)) Expect(TokenKind::Comma, u", または }");
+    }
+    Advance();
+    node->A = list.First;
+    node->Count = list.Count;
+    return node;
+}
+
+Node* Parser::PropertyKey() {
+    Node* key = Make(Is(TokenKind::Number) ? NodeKind::Number : NodeKind::Text, token_.Line);
+    if (Is(TokenKind::Number))
+        key->Value = token_.Number;
+    else if (Is(TokenKind::Text) || Is(TokenKind::Identifier) || IsWord(token_.Kind))
+        key->Name = token_.Name;
+    else
+        Fail(u"プロパティ名が必要です。");
+    Advance();
+    return key;
+}
+
+}  // namespace tamber
