@@ -185,10 +185,10 @@ int Batch(const Options& options) {
     frmMain controller;
     controller.Form_Load();
     bool printed = true;
-    BatchRunner runner(controller, interface, [&printed](const std::string& text) {
+    const auto print = [&printed](const std::string& text) {
         printed = Print(text) == Done && printed;
-    });
-    const bool done = runner.Run(*script);
+    };
+    const bool done = BatchRunner({controller, interface, print}).Run(*script);
     return done && printed ? Done : CouldNot;
 }
 
