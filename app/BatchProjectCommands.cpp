@@ -68,6 +68,11 @@ bool Print(BatchContext& context, const BatchArguments&) {
     state["editIndex"] = controller.editIndex;
     state["SelIndex1"] = controller.SelIndex1;
     state["SelIndex2"] = controller.SelIndex2;
+    state["SelFrame1"] = controller.SelFrame1;
+    state["SelFrame2"] = controller.SelFrame2;
+    state["SelSymbol1"] = controller.SelSymbol1;
+    state["SelSymbol2"] = controller.SelSymbol2;
+    state["SelectIndex"] = controller.EditLayer() ? controller.EditLayer()->SelectIndex : 0;
     state["canUndo"] = controller.CanUndo();
     state["canRedo"] = controller.CanRedo();
     state["changed"] = controller.IsProjectChanged();

@@ -162,7 +162,7 @@ bool frmMain::mnuPrjProperty(Long width, Long height, Single frameRate, Long swf
     inProject.SWFVersion = swfVersion;
     if (editIndex == EditMain) view_->SetCanvasSize(width, height);
     view_->DispDataTbl();
-    view_->ShowEditFrame();
+    ShowEditFrame();
     return true;
 }
 
@@ -176,6 +176,7 @@ void frmMain::SetLayers(Long index, Long row, Long col) {
     if (const auto symbol = EditSymbol()) {
         editLayers_ = LayersOf(*symbol);
         const bool isClass = symbol->eType() == KindClass;
+        if (isClass || editLayers_->Empty()) SelFrame1 = SelFrame2 = 1;
         view_->SetCanvasSize(isClass ? inProject.MainWidth : symbol->PixelWidth(),
                              isClass ? inProject.MainHeight : symbol->PixelHeight());
     } else {
@@ -186,7 +187,7 @@ void frmMain::SetLayers(Long index, Long row, Long col) {
     if (const auto layer = EditLayer(); layer && col != 0)
         layer->SelectIndex = std::clamp(col, 1, std::max(layer->ObjectCount(), 1));
     view_->DispDataTbl();
-    view_->ShowEditFrame();
+    ShowEditFrame();
     if (changed && !mdlPrivateProfile::UndoRedoType()) AttachHistory();
 }
 
