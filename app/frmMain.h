@@ -9,6 +9,7 @@
 #include "canvas/RowRange.h"
 #include "document/Project.h"
 #include "document/clsUndoRedo.h"
+#include "output/ProjectImport.h"
 #include "platform/RuntimeError.h"
 
 namespace tamber {
@@ -103,6 +104,9 @@ public:
     void AddBackgroundLayer();
     /// Steps were recorded since the last save.
     bool IsProjectChanged() const;
+    /// There is work to save: the project is changed, or the library or the stage are, of which no
+    /// steps are recorded.
+    bool HasUnsavedWork() const { return libraryChanged_ || IsProjectChanged(); }
     /// An empty project in place of the open one, with its stage, rate and version. False when the
     /// user would rather keep what was changed.
     bool mnuNew();
@@ -115,6 +119,11 @@ public:
     bool mnuSaveNew();
     /// Saves to a path, which becomes the project's own.
     bool mnuSaveNew(StringView path);
+    /// Lets a person choose what comes along. False when they would rather not.
+    using ChooseImport = std::function<bool(const Project& incoming, ImportOptions& options)>;
+    /// Brings symbols and layers of another project into this one; asks for its path when `path` is
+    /// empty. False when nothing came; a project that cannot be read was told.
+    bool mnuKVFImport(StringView path, const ChooseImport& choose);
     /// Stage in pixels, 1 to 2000; frames a second, 0.01 to 100; version 4, 6, 7 or 8. False, with
     /// nothing changed, for anything else.
     bool mnuPrjProperty(Long width, Long height, Single frameRate, Long swfVersion);
@@ -195,6 +204,8 @@ public:
 
 private:
     std::shared_ptr<MainView> view_;
+    /// The library, or the stage, since the last save.
+    bool libraryChanged_ = false;
     std::shared_ptr<Collection<clsLayer>> editLayers_;
     /// What the start has done, a line a step; dropped once it went well.
     String startLog_;

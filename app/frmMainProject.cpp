@@ -56,12 +56,12 @@ bool frmMain::IsProjectChanged() const {
 }
 
 bool frmMain::Guard() {
-    if (!IsProjectChanged()) return true;
+    if (!HasUnsavedWork()) return true;
     const Answer answer =
         CurrentUserInterface().Ask(u"プロジェクトは変更されています。\r\n上書き保存しますか？",
                                    ProgramTitle, Choices::YesNoCancel);
     if (answer == Answer::Cancel) return false;
-    return answer == Answer::No || (mnuSave() && !IsProjectChanged());
+    return answer == Answer::No || (mnuSave() && !HasUnsavedWork());
 }
 
 void frmMain::ShowProject() {
@@ -71,6 +71,7 @@ void frmMain::ShowProject() {
     cUndoRedo.OnUndo = cUndoRedo.OnRedo = nullptr;
     AddUndoRedoData(UndoStep::Init);
     AttachHistory();
+    libraryChanged_ = false;
 }
 
 bool frmMain::mnuNew() {
@@ -136,6 +137,7 @@ bool frmMain::mnuSaveNew(StringView path) {
 }
 
 void frmMain::ClearHistories() {
+    libraryChanged_ = false;
     cUndoRedo.TotalHistory = 0;
     if (mdlPrivateProfile::UndoRedoType()) return;
     for (const auto& symbol : *colSymbol())
@@ -160,6 +162,7 @@ bool frmMain::mnuPrjProperty(Long width, Long height, Single frameRate, Long swf
     inProject.MainHeight = height;
     inProject.FrameRate = frameRate;
     inProject.SWFVersion = swfVersion;
+    libraryChanged_ = true;
     if (editIndex == EditMain) view_->SetCanvasSize(width, height);
     view_->DispDataTbl();
     ShowEditFrame();
