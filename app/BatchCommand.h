@@ -38,5 +38,7 @@ struct BatchCommand {
 
 /// Projects, which timeline is edited, undo, movies, and the state as JSON.
 std::span<const BatchCommand> BatchProjectCommands();
+/// Rows, key frames and what they show.
+std::span<const BatchCommand> BatchTimelineCommands();
 
 }  // namespace tamber

@@ -1,4 +1,7 @@
+#include <algorithm>
+#include <map>
 #include <nlohmann/json.hpp>
+#include <optional>
 
 #include "app/BatchCommand.h"
 #include "app/ProjectInfo.h"
@@ -9,6 +12,54 @@
 namespace tamber {
 
 namespace {
+
+/// Rows as in "1,3-5"; an empty text is none.
+bool ReadRows(StringView text, std::optional<std::vector<Long>>& rows) {
+    constexpr Long MostRows = 1'000'000;
+    rows.emplace();
+    while (!text.empty()) {
+        const StringView part = text.substr(0, text.find(u','));
+        text.remove_prefix(std::min(part.size() + 1, text.size()));
+        const std::size_t dash = part.find(u'-');
+        const Long first = ToLong(part.substr(0, dash));
+        const Long last = dash == StringView::npos ? first : ToLong(part.substr(dash + 1));
+        if (first < 1 || last < first || last > MostRows) return false;
+        for (Long row = first; row <= last; ++row) rows->push_back(row);
+    }
+    return true;
+}
+
+/// Sets what an argument of the form KEY=VALUE tells.
+bool SetImportOption(ImportOptions& options, StringView argument) {
+    const std::size_t sign = argument.find(u'=');
+    if (sign == StringView::npos) return false;
+    const StringView key = argument.substr(0, sign);
+    const StringView value = argument.substr(sign + 1);
+    const std::map<StringView, Long ImportOptions::*> numbers{{u"ID", &ImportOptions::ID},
+                                                              {u"AddID", &ImportOptions::AddID},
+                                                              {u"IDMode", &ImportOptions::IDMode}};
+    const std::map<StringView, String ImportOptions::*> texts{
+        {u"SpriteName", &ImportOptions::SpriteName},
+        {u"FolderName", &ImportOptions::FolderName},
+        {u"LayerFolderName", &ImportOptions::LayerFolderName}};
+    const std::map<StringView, bool ImportOptions::*> switches{
+        {u"blNotRepetition", &ImportOptions::blNotRepetition},
+        {u"chkSprite", &ImportOptions::chkSprite},
+        {u"chkNoMain", &ImportOptions::chkNoMain},
+        {u"chkFolder", &ImportOptions::chkFolder},
+        {u"chkLayerFolder", &ImportOptions::chkLayerFolder}};
+    if (key == u"Symbols") return ReadRows(value, options.Symbols);
+    if (key == u"Layers") return ReadRows(value, options.Layers);
+    if (const auto number = numbers.find(key); number != numbers.end())
+        options.*number->second = ToLong(value);
+    else if (const auto text = texts.find(key); text != texts.end())
+        options.*text->second = value;
+    else if (const auto on = switches.find(key); on != switches.end())
+        options.*on->second = ToBoolean(value);
+    else
+        return false;
+    return true;
+}
 
 bool New(BatchContext& context, const BatchArguments&) {
     return context.Controller.mnuNew();
@@ -29,6 +80,17 @@ bool SaveNew(BatchContext& context, const BatchArguments& arguments) {
 bool Property(BatchContext& context, const BatchArguments& arguments) {
     return context.Controller.mnuPrjProperty(ToLong(arguments[0]), ToLong(arguments[1]),
                                              ToSingle(arguments[2]), ToLong(arguments[3]));
+}
+
+bool Import(BatchContext& context, const BatchArguments& arguments) {
+    ImportOptions options;
+    for (std::size_t i = 1; i < arguments.size(); ++i)
+        if (!SetImportOption(options, arguments[i])) return false;
+    return context.Controller.mnuKVFImport(AbsolutePath(arguments[0]),
+                                           [&options](const Project&, ImportOptions& chosen) {
+                                               chosen = options;
+                                               return true;
+                                           });
 }
 
 bool ChangeTimeline(BatchContext& context, const BatchArguments& arguments) {
@@ -68,9 +130,14 @@ bool Print(BatchContext& context, const BatchArguments&) {
     state["editIndex"] = controller.editIndex;
     state["SelIndex1"] = controller.SelIndex1;
     state["SelIndex2"] = controller.SelIndex2;
+    state["SelFrame1"] = controller.SelFrame1;
+    state["SelFrame2"] = controller.SelFrame2;
+    state["SelSymbol1"] = controller.SelSymbol1;
+    state["SelSymbol2"] = controller.SelSymbol2;
+    state["SelectIndex"] = controller.EditLayer() ? controller.EditLayer()->SelectIndex : 0;
     state["canUndo"] = controller.CanUndo();
     state["canRedo"] = controller.CanRedo();
-    state["changed"] = controller.IsProjectChanged();
+    state["changed"] = controller.HasUnsavedWork();
     context.Output(state.dump(2) + "\n");
     return true;
 }
@@ -81,6 +148,11 @@ constexpr BatchCommand Commands[]{
     {u"mnuSave", u"", 0, 0, Save},
     {u"mnuSaveNew", u"PATH", 1, 1, SaveNew},
     {u"mnuPrjProperty", u"WIDTH HEIGHT RATE VERSION", 4, 4, Property},
+    {u"mnuKVFImport",
+     u"PATH [ID=N] [AddID=N] [IDMode=0|1] [SpriteName=TEXT] [FolderName=TEXT] "
+     u"[LayerFolderName=TEXT] [blNotRepetition=0|1] [chkSprite=0|1] [chkNoMain=0|1] "
+     u"[chkFolder=0|1] [chkLayerFolder=0|1] [Symbols=ROWS] [Layers=ROWS]",
+     1, BatchCommand::AnyNumber, Import},
     {u"ChangeSprite", u"INDEX", 1, 1, ChangeTimeline},
     {u"mnuUndoRedo", u"0|1", 1, 1, UndoRedo},
     {u"mnuAuthoring", u"PATH", 1, 1, Authoring},

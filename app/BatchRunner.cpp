@@ -13,7 +13,8 @@ namespace tamber {
 namespace {
 
 const std::vector<std::span<const BatchCommand>>& Groups() {
-    static const std::vector<std::span<const BatchCommand>> groups{BatchProjectCommands()};
+    static const std::vector<std::span<const BatchCommand>> groups{BatchProjectCommands(),
+                                                                   BatchTimelineCommands()};
     return groups;
 }
 

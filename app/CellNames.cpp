@@ -94,6 +94,11 @@ std::string_view FilterCellNames() {
            "blColorMatrix,c1,c2,c3,c4,c5,c6,c7,c8,c9,c10,c11,c12,c13,c14,c15,c16,c17,c18,c19,c20";
 }
 
+std::string_view EffectCellNames() {
+    return "blEffect,EffectType,blApplyOne,EffectInterval,EfIntervalType,blAllStop,EffectFrames,"
+           "EffectName";
+}
+
 std::string_view ScriptCellNames() {
     return "Script,eScriptMode,nPrm1,nPrm2,strPrm1,strPrm2,TargetPath";
 }

@@ -16,6 +16,9 @@ std::string_view ElementCellNames(Long kind);
 /// The same for a filter set.
 std::string_view FilterCellNames();
 
+/// The same for an effect of a text or sprite.
+std::string_view EffectCellNames();
+
 /// The same for a script.
 std::string_view ScriptCellNames();
 

@@ -26,10 +26,6 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr std::string_view EffectNames =
-    "blEffect,EffectType,blApplyOne,EffectInterval,EfIntervalType,blAllStop,EffectFrames,"
-    "EffectName";
-
 /// The cells that a record writes, row behind row.
 template <class Record>
 std::vector<std::string> CellsOf(const Record& record) {
@@ -115,9 +111,9 @@ Json KeyFrameOf(const clsLayerObject& object) {
                                   {"FreeTransPoints", vector->FreeTransPoints},
                                   {"blDivide", vector->blDivide}};
     if (const auto* text = object.ObjectAs<clsObjText>())
-        frame["effect"] = Named(text->inEfElement, EffectNames);
+        frame["effect"] = Named(text->inEfElement, EffectCellNames());
     if (const auto* sprite = object.ObjectAs<clsObjSprite>())
-        frame["effect"] = Named(sprite->inEfElement, EffectNames);
+        frame["effect"] = Named(sprite->inEfElement, EffectCellNames());
     if (object.Object && object.Placement() == nullptr)
         frame["values"] = Named(*object.Object, ElementCellNames(object.SymbolType()));
     return frame;

@@ -1,9 +1,15 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
+#include "canvas/FrameClipboard.h"
+#include "canvas/FrameShift.h"
+#include "canvas/LayerClipboard.h"
+#include "canvas/RowRange.h"
 #include "document/Project.h"
 #include "document/clsUndoRedo.h"
+#include "output/ProjectImport.h"
 #include "platform/RuntimeError.h"
 
 namespace tamber {
@@ -55,6 +61,14 @@ public:
     Long editIndex = EditMain;
     Long SelIndex1 = 1;
     Long SelIndex2 = 1;
+    /// First and last selected row of the library, in either order; 0 when none is.
+    Long SelSymbol1 = 0;
+    Long SelSymbol2 = 0;
+    /// First and last frame selected, in either order. The first is where the frame cursor stands.
+    Long SelFrame1 = 1;
+    Long SelFrame2 = 1;
+    FrameClipboard inCopyFrames;
+    LayerClipboard inCopyLayers;
     bool blHotKeyEnable = false;
     /// A modal dialog is up; a path handed over meanwhile is ignored.
     bool blShowModal = false;
@@ -90,6 +104,9 @@ public:
     void AddBackgroundLayer();
     /// Steps were recorded since the last save.
     bool IsProjectChanged() const;
+    /// There is work to save: the project is changed, or the library or the stage are, of which no
+    /// steps are recorded.
+    bool HasUnsavedWork() const { return libraryChanged_ || IsProjectChanged(); }
     /// An empty project in place of the open one, with its stage, rate and version. False when the
     /// user would rather keep what was changed.
     bool mnuNew();
@@ -102,6 +119,11 @@ public:
     bool mnuSaveNew();
     /// Saves to a path, which becomes the project's own.
     bool mnuSaveNew(StringView path);
+    /// Lets a person choose what comes along. False when they would rather not.
+    using ChooseImport = std::function<bool(const Project& incoming, ImportOptions& options)>;
+    /// Brings symbols and layers of another project into this one; asks for its path when `path` is
+    /// empty. False when nothing came; a project that cannot be read was told.
+    bool mnuKVFImport(StringView path, const ChooseImport& choose);
     /// Stage in pixels, 1 to 2000; frames a second, 0.01 to 100; version 4, 6, 7 or 8. False, with
     /// nothing changed, for anything else.
     bool mnuPrjProperty(Long width, Long height, Single frameRate, Long swfVersion);
@@ -110,6 +132,58 @@ public:
     void SetLayers(Long index, Long row, Long col);
     /// Switches to a timeline, the first row selected; 0 only shows the present one again.
     void ChangeSprite(Long index);
+
+    /// Selects rows of the edited timeline; numbers beyond them give the nearest row.
+    void ChangeSelectIndex(Long row1, Long row2);
+    /// Selects frames, and the selected row's key frame that covers the first.
+    void SelectFrames(Long frame1, Long frame2);
+    /// Moves the frame cursor to a frame, or to a label's. False for a label that there is none of.
+    void mnuJump(Long frame);
+    bool mnuJump(StringView label);
+
+    void mnuCopyKeyFrames();
+    void mnuCutKeyFrames();
+    void mnuPasteKeyFrames();
+    void mnuOverWriteKeyFrames();
+    void mnuInsertKeyFrames();
+    void mnuRemoveKeyFrames();
+    void mnuAddKeyFrame();
+    void mnuShiftRight();
+    void mnuShiftLeft();
+    void mnuShiftRightAll();
+    void mnuShiftLeftAll();
+    void chkFixed(bool on);
+    void chkTween(bool on);
+    /// Takes the previous key frame's element (0) or the next one's (1); the motion path stays.
+    void cmdCopyLObject(Long index);
+    /// Moves the start of the selected key frame between its neighbours. False when it cannot.
+    bool ChangeStartFrame(Long frame);
+    /// Sets the length of the selected key frame, which ends before the next one. False when it
+    /// cannot, or when a flag decides it.
+    bool ChangeDispCount(Long count);
+    /// Changes the selected key frame. One step, which joins the last one that had the same tag.
+    /// False when none is selected or `change` refuses.
+    bool ChangeKeyFrame(StringView tag, const std::function<bool(clsLayerObject&)>& change);
+
+    void mnuCopyLayer();
+    void mnuCutLayer();
+    /// Pastes before the selected row.
+    void mnuPasteLayer();
+    void mnuRemoveLayer();
+    /// Places the selected rows of the library at a row of the edited timeline, with their key
+    /// frames at the frame cursor.
+    void AddToLayer(Long row, bool inFolder, bool after);
+    /// New rows before the selected one.
+    void mnuAddLayer_FrameLabel();
+    void mnuAddLayer_FrameAction();
+    void mnuAddLayer_Folder(StringView name);
+    /// Changes properties of the selected row. False when there is none or `change` refuses.
+    bool ChangeLayer(StringView tag, const std::function<bool(clsLayer&)>& change);
+    /// Lets the selected row show another symbol of the library. False when it cannot; a sprite
+    /// that would show itself is told.
+    bool ChangeLayerSymbol(Long index);
+    /// The name is refused, with a message, when scripts could not use it.
+    bool ChangeInstanceName(StringView name);
 
     /// Records the edited timeline. A tag that the last step had too joins the two.
     void AddUndoRedoData(UndoStep type, StringView tag = {});
@@ -130,11 +204,32 @@ public:
 
 private:
     std::shared_ptr<MainView> view_;
+    /// The library, or the stage, since the last save.
+    bool libraryChanged_ = false;
     std::shared_ptr<Collection<clsLayer>> editLayers_;
     /// What the start has done, a line a step; dropped once it went well.
     String startLog_;
 
     void LogStep(StringView step);
+    /// The next edit opens a step of its own.
+    void ShowEditFrame();
+    /// The selected row, where its key frames can be edited; else null. A class keeps one for each
+    /// row, folders have one.
+    std::shared_ptr<clsLayer> FrameLayer() const;
+    bool EditsClass() const;
+    void PasteKeyFrames(FrameClipboard::Room room);
+    void ShiftSelection(ShiftDirection direction);
+    void ShiftAll(ShiftDirection direction);
+    /// What a change of key frames ends with.
+    void FramesChanged();
+    /// What a change of rows ends with.
+    void RowsChanged();
+    /// A sprite that would show itself, which is told.
+    bool ShowsItself(const clsSymbolData& symbol) const;
+    bool InLibrary(const clsSymbolData& symbol) const;
+    /// Puts rows into the edited timeline and selects them.
+    void InsertLayers(const RowPlace& place, const Collection<clsLayer>& rows);
+    void AddOwnLayer(const std::shared_ptr<clsLayer>& layer);
     /// The project's own file, or one that a symbol is made from.
     bool IsSource(StringView path) const;
     /// The symbol whose timeline is edited; null for the main timeline.

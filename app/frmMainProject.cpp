@@ -42,12 +42,12 @@ bool frmMain::IsProjectChanged() const {
 }
 
 bool frmMain::Guard() {
-    if (!IsProjectChanged()) return true;
+    if (!HasUnsavedWork()) return true;
     const Answer answer =
         CurrentUserInterface().Ask(u"プロジェクトは変更されています。\r\n上書き保存しますか？",
                                    ProgramTitle, Choices::YesNoCancel);
     if (answer == Answer::Cancel) return false;
-    return answer == Answer::No || (mnuSave() && !IsProjectChanged());
+    return answer == Answer::No || (mnuSave() && !HasUnsavedWork());
 }
 
 void frmMain::ShowProject() {
@@ -57,6 +57,7 @@ void frmMain::ShowProject() {
     cUndoRedo.OnUndo = cUndoRedo.OnRedo = nullptr;
     AddUndoRedoData(UndoStep::Init);
     AttachHistory();
+    libraryChanged_ = false;
 }
 
 bool frmMain::mnuNew() {
@@ -122,6 +123,7 @@ bool frmMain::mnuSaveNew(StringView path) {
 }
 
 void frmMain::ClearHistories() {
+    libraryChanged_ = false;
     cUndoRedo.TotalHistory = 0;
     if (mdlPrivateProfile::UndoRedoType()) return;
     for (const auto& symbol : *colSymbol())
@@ -146,9 +148,10 @@ bool frmMain::mnuPrjProperty(Long width, Long height, Single frameRate, Long swf
     inProject.MainHeight = height;
     inProject.FrameRate = frameRate;
     inProject.SWFVersion = swfVersion;
+    libraryChanged_ = true;
     if (editIndex == EditMain) view_->SetCanvasSize(width, height);
     view_->DispDataTbl();
-    view_->ShowEditFrame();
+    ShowEditFrame();
     return true;
 }
 
@@ -162,6 +165,7 @@ void frmMain::SetLayers(Long index, Long row, Long col) {
     if (const auto symbol = EditSymbol()) {
         editLayers_ = TimelineOf(*symbol);
         const bool isClass = symbol->eType() == KindClass;
+        if (isClass || editLayers_->Empty()) SelFrame1 = SelFrame2 = 1;
         view_->SetCanvasSize(isClass ? inProject.MainWidth : symbol->PixelWidth(),
                              isClass ? inProject.MainHeight : symbol->PixelHeight());
     } else {
@@ -172,7 +176,7 @@ void frmMain::SetLayers(Long index, Long row, Long col) {
     if (const auto layer = EditLayer(); layer && col != 0)
         layer->SelectIndex = std::clamp(col, 1, std::max(layer->ObjectCount(), 1));
     view_->DispDataTbl();
-    view_->ShowEditFrame();
+    ShowEditFrame();
     if (changed && !mdlPrivateProfile::UndoRedoType()) AttachHistory();
 }
 

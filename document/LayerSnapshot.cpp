@@ -3,47 +3,10 @@
 #include <algorithm>
 
 #include "document/Project.h"
-#include "document/clsLayerObjElement.h"
-#include "document/clsObjFrameAction.h"
 
 namespace tamber {
 
 namespace {
-
-bool SamePath(const clsLayerObjElement* a, const clsLayerObjElement* b) {
-    if (a == nullptr || b == nullptr) return a == b;
-    return std::equal(a->colTweenPoint.begin(), a->colTweenPoint.end(), b->colTweenPoint.begin(),
-                      b->colTweenPoint.end(),
-                      [](const auto& one, const auto& other) { return *one == *other; });
-}
-
-/// The comparison of scripts leaves this out.
-bool SameTarget(const clsLayerObject& a, const clsLayerObject& b) {
-    const auto* one = a.ObjectAs<clsObjFrameAction>();
-    const auto* other = b.ObjectAs<clsObjFrameAction>();
-    return one == nullptr || other == nullptr ||
-           one->inScript.TargetPath == other->inScript.TargetPath;
-}
-
-bool SameState(const clsLayerObject& a, const clsLayerObject& b) {
-    if (a.StartFrame() != b.StartFrame() || a.DispCount() != b.DispCount() ||
-        a.blTween != b.blTween || a.blFixed != b.blFixed || a.blVisible != b.blVisible ||
-        a.SymbolType() != b.SymbolType())
-        return false;
-    if (!a.Object || !b.Object) return a.Object == b.Object;
-    return a.Object->Compare(*b.Object) && SamePath(a.Placement(), b.Placement()) &&
-           SameTarget(a, b);
-}
-
-/// All but the key frames.
-bool SameHead(const clsLayer& a, const clsLayer& b) {
-    return a.SymbolData() == b.SymbolData() && a.LayerName == b.LayerName &&
-           a.InstanceName == b.InstanceName && a.ClippingDepth == b.ClippingDepth &&
-           a.inScript.Compare(b.inScript) && a.inScript.TargetPath == b.inScript.TargetPath &&
-           a.SelectIndex == b.SelectIndex && a.eOnEvent == b.eOnEvent &&
-           a.FirstFrame == b.FirstFrame && a.FrameWidth == b.FrameWidth &&
-           a.ExpText() == b.ExpText() && a.Visible(true) == b.Visible(true);
-}
 
 /// Key frames of the layer's present state, those that did not change being `previous`'s.
 Collection<clsLayerObject> TakeKeyFrames(const clsLayer& layer, const clsLayer& previous) {
@@ -52,7 +15,7 @@ Collection<clsLayerObject> TakeKeyFrames(const clsLayer& layer, const clsLayer& 
     for (const auto& object : layer.colObject) {
         while (old != previous.colObject.end() && (*old)->StartFrame() < object->StartFrame())
             ++old;
-        const bool same = old != previous.colObject.end() && SameState(*object, **old);
+        const bool same = old != previous.colObject.end() && object->Compare(**old);
         taken.Add(same ? *old : object->Copy());
     }
     return taken;
@@ -61,13 +24,13 @@ Collection<clsLayerObject> TakeKeyFrames(const clsLayer& layer, const clsLayer& 
 bool SameKeyFrames(const clsLayer& layer, const clsLayer& previous) {
     return std::equal(layer.colObject.begin(), layer.colObject.end(), previous.colObject.begin(),
                       previous.colObject.end(),
-                      [](const auto& object, const auto& old) { return SameState(*object, *old); });
+                      [](const auto& object, const auto& old) { return object->Compare(*old); });
 }
 
 /// Null when the layer is as it was.
 std::shared_ptr<const clsLayer> TakeLayer(const clsLayer& layer, const clsLayer* previous) {
     if (previous == nullptr || previous->SymbolData() != layer.SymbolData()) return layer.Copy();
-    if (SameHead(layer, *previous) && SameKeyFrames(layer, *previous)) return nullptr;
+    if (layer.CompareHead(*previous) && SameKeyFrames(layer, *previous)) return nullptr;
     auto taken = layer.CopyHead();
     taken->colObject = TakeKeyFrames(layer, *previous);
     return taken;

@@ -10,11 +10,9 @@
 #include <vector>
 
 #include "document/ProjectFileVersion.h"
+#include "document/SymbolContents.h"
 #include "document/SymbolFiles.h"
 #include "document/clsCSV.h"
-#include "document/clsPropertyButton.h"
-#include "document/clsPropertyKoma.h"
-#include "document/clsPropertySprite.h"
 #include "document/clsPropertyText.h"
 #include "document/clsPropertyVector.h"
 #include "platform/RuntimeError.h"
@@ -92,14 +90,15 @@ Long ReadVersion(clsCSV& csv) {
 
 class Reader {
 public:
-    Reader(clsCSV& csv, String baseDir, const ProjectAssets& assets)
-        : csv_(csv), baseDir_(std::move(baseDir)), assets_(assets) {}
+    Reader(clsCSV& csv, String baseDir, const ProjectAssets& assets, std::optional<Long> importInto)
+        : csv_(csv), baseDir_(std::move(baseDir)), assets_(assets), importInto_(importInto) {}
 
     Project Read();
     /// Undoes references among the symbols of a load that failed, which may go round in circles.
     void Release();
 
 private:
+    void AskForVersion() const;
     void ReadHtml();
     void ReadSymbols();
     void FitFont(clsSymbolData& symbol) const;
@@ -114,6 +113,7 @@ private:
     clsCSV& csv_;
     String baseDir_;
     const ProjectAssets& assets_;
+    std::optional<Long> importInto_;
     Project project_;
     std::unordered_map<Long, std::shared_ptr<clsSymbolData>> byId_;
 };
@@ -124,6 +124,7 @@ Project Reader::Read() {
     project_.FrameRate = csv_.TakeSingle();
     project_.SWFVersion = csv_.TakeLong();
     csv_.CrLf();
+    AskForVersion();
     ReadHtml();
     ReadSymbols();
     NestSymbols(*project_.colSymbol);
@@ -133,6 +134,13 @@ Project Reader::Read() {
     ReadLayers(*project_.colMainLayer);
     CheckNesting();
     return std::move(project_);
+}
+
+void Reader::AskForVersion() const {
+    if (!importInto_ || *importInto_ == project_.SWFVersion) return;
+    if (CurrentUserInterface().Ask(u"SWFのバージョンが違います。\r\n読み込みますか？", ProgramTitle,
+                                   Choices::YesNo) != Answer::Yes)
+        Damaged();
 }
 
 void Reader::ShowProgress(Long done, Long total) {
@@ -179,7 +187,7 @@ void Reader::ReadSymbols() {
         csv_.CrLf();
         switch (symbol->eType()) {
             case KindText:
-                FitFont(*symbol);
+                if (!importInto_) FitFont(*symbol);
                 if (ProjectFileVersion < VersionWithFitShape) assets_.SetTextSize(*symbol);
                 break;
             case KindBitmap:
@@ -231,7 +239,7 @@ void Reader::ReadReferences() {
         if (auto* text = symbol->Property<clsPropertyText>()) {
             if (ProjectFileVersion < VersionWithFitShape) continue;
             text->FitShapeSymbol(TakeReference());
-            assets_.SetTextSize(*symbol);
+            if (!importInto_) assets_.SetTextSize(*symbol);
         } else if (auto* vector = symbol->Property<clsPropertyVector>()) {
             vector->MorphSymbol(TakeReference());
         } else if (auto* button = symbol->Property<clsPropertyButton>()) {
@@ -279,18 +287,9 @@ void Reader::CheckNesting() const {
     std::vector<std::vector<Long>> shown(count);
     for (const auto& symbol : *project_.colSymbol) {
         std::vector<Long>& list = shown[static_cast<std::size_t>(symbol->Index)];
-        const auto add = [&list](const std::shared_ptr<clsSymbolData>& other) {
-            if (other && other->Index > 0) list.push_back(other->Index);
-        };
-        if (const auto* sprite = symbol->Property<clsPropertySprite>()) {
-            for (const auto& layer : *sprite->colLayer) add(layer->SymbolData());
-        } else if (const auto* button = symbol->Property<clsPropertyButton>()) {
-            for (const auto& state : {button->UpSymbol(), button->DownSymbol(),
-                                      button->OverSymbol(), button->HitTestSymbol()})
-                add(state);
-        } else if (const auto* koma = symbol->Property<clsPropertyKoma>()) {
-            for (const auto& picture : *koma->colKomas) add(picture);
-        }
+        ForEachShown(*symbol, [&list](const clsSymbolData& other) {
+            if (other.Index > 0) list.push_back(other.Index);
+        });
     }
     // Height of what a symbol shows; -1 while it is being worked out.
     std::vector<Long> height(count, 0);
@@ -362,18 +361,20 @@ bool ProjectAssets::LoadFile(clsSymbolData& symbol) const {
     }
 }
 
-bool LoadProject(StringView path, Project& out, const ProjectAssets& assets) {
+bool LoadProject(StringView path, Project& out, const ProjectAssets& assets,
+                 std::optional<Long> importInto) {
     const auto size = FileSize(path);
     Bytes bytes;
     if (!size || *size > largestText || !ReadFileBytes(path, bytes)) return TellDamaged();
-    return LoadProjectBytes(bytes, path, out, assets);
+    return LoadProjectBytes(bytes, path, out, assets, importInto);
 }
 
-bool LoadProjectBytes(ByteView bytes, StringView path, Project& out, const ProjectAssets& assets) {
+bool LoadProjectBytes(ByteView bytes, StringView path, Project& out, const ProjectAssets& assets,
+                      std::optional<Long> importInto) {
     const ProjectFileVersionScope version(NewestProjectFileVersion);
     clsCSV csv;
     csv.DefColSize(readingGrowth);
-    Reader reader(csv, GetFileFolder(AbsolutePath(path)), assets);
+    Reader reader(csv, GetFileFolder(AbsolutePath(path)), assets, importInto);
     try {
         String text;
         if (!DecodeProject(bytes, text)) return TellDamaged();

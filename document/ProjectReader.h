@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "document/Project.h"
 #include "platform/types.h"
 
@@ -25,10 +27,13 @@ public:
 };
 
 /// Reads a project file, plain or compressed. On failure the user was told, the result is false and
-/// `out` is as before.
-bool LoadProject(StringView path, Project& out, const ProjectAssets& assets);
+/// `out` is as before. With `importInto`, the version of a project that shall take the contents,
+/// another version is asked about, and texts keep their fonts and boxes.
+bool LoadProject(StringView path, Project& out, const ProjectAssets& assets,
+                 std::optional<Long> importInto = std::nullopt);
 
 /// As `LoadProject`, from the bytes of a file. `path` tells the folder that paths are relative to.
-bool LoadProjectBytes(ByteView bytes, StringView path, Project& out, const ProjectAssets& assets);
+bool LoadProjectBytes(ByteView bytes, StringView path, Project& out, const ProjectAssets& assets,
+                      std::optional<Long> importInto = std::nullopt);
 
 }  // namespace tamber

@@ -374,6 +374,15 @@ void clsLayer::CopyTo(clsLayer& target) const {
     for (const auto& object : colObject) target.colObject.Add(object->Copy());
 }
 
+bool clsLayer::CompareHead(const clsLayer& other) const {
+    return symbol_ == other.symbol_ && LayerName == other.LayerName &&
+           InstanceName == other.InstanceName && ClippingDepth == other.ClippingDepth &&
+           inScript.Compare(other.inScript) && inScript.TargetPath == other.inScript.TargetPath &&
+           SelectIndex == other.SelectIndex && eOnEvent == other.eOnEvent &&
+           FirstFrame == other.FirstFrame && FrameWidth == other.FrameWidth &&
+           remark_ == other.remark_ && visible_ == other.visible_;
+}
+
 void clsLayer::Load(clsCSV& csv) {
     LayerName = csv.TakeText();
     InstanceName = csv.TakeText();

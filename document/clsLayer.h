@@ -113,6 +113,8 @@ public:
     /// A copy without key frames.
     std::shared_ptr<clsLayer> CopyHead() const;
     void CopyTo(clsLayer& target) const;
+    /// True when all but the key frames agrees.
+    bool CompareHead(const clsLayer& other) const;
     /// Reads from the cell behind the symbol's ID; `SymbolData` is set before.
     void Load(clsCSV& csv);
     void Save(clsCSV& csv) const;

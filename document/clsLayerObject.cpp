@@ -4,6 +4,8 @@
 #include <limits>
 
 #include "document/ProjectFileVersion.h"
+#include "document/clsLayerObjElement.h"
+#include "document/clsObjFrameAction.h"
 #include "platform/RuntimeError.h"
 
 namespace tamber {
@@ -15,6 +17,21 @@ constexpr Long VersionWithVisible = 0x50A00;
 void Require(bool valid, StringView source) {
     if (!valid)
         throw RuntimeError(ErrorOutOfRange, String(source), u"範囲外の数値が設定されました。");
+}
+
+bool SamePath(const clsLayerObjElement* a, const clsLayerObjElement* b) {
+    if (a == nullptr || b == nullptr) return a == b;
+    return std::equal(a->colTweenPoint.begin(), a->colTweenPoint.end(), b->colTweenPoint.begin(),
+                      b->colTweenPoint.end(),
+                      [](const auto& one, const auto& other) { return *one == *other; });
+}
+
+/// The comparison of scripts leaves this out.
+bool SameTarget(const clsLayerObject& a, const clsLayerObject& b) {
+    const auto* one = a.ObjectAs<clsObjFrameAction>();
+    const auto* other = b.ObjectAs<clsObjFrameAction>();
+    return one == nullptr || other == nullptr ||
+           one->inScript.TargetPath == other->inScript.TargetPath;
 }
 
 }  // namespace
@@ -63,6 +80,15 @@ void clsLayerObject::CopyTo(clsLayerObject& target, bool deep) const {
     } else if (Object && target.Object) {
         Object->CopyTo(*target.Object, true);
     }
+}
+
+bool clsLayerObject::Compare(const clsLayerObject& other) const {
+    if (start_ != other.start_ || count_ != other.count_ || blTween != other.blTween ||
+        blFixed != other.blFixed || blVisible != other.blVisible || kind_ != other.kind_)
+        return false;
+    if (!Object || !other.Object) return Object == other.Object;
+    return Object->Compare(*other.Object) && SamePath(Placement(), other.Placement()) &&
+           SameTarget(*this, other);
 }
 
 void clsLayerObject::Load(clsCSV& csv) {

@@ -46,6 +46,8 @@ public:
     /// Copies frames and flags. With `deep` the target's element takes the values of this one; else
     /// the two share this one.
     void CopyTo(clsLayerObject& target, bool deep) const;
+    /// True when frames, flags and element agree, motion path included.
+    bool Compare(const clsLayerObject& other) const;
     void Load(clsCSV& csv);
     void Save(clsCSV& csv) const;
 

@@ -1,11 +1,7 @@
 #include "document/clsPropertySprite.h"
 
-#include <unordered_set>
-#include <vector>
-
 #include "document/Project.h"
-#include "document/clsPropertyButton.h"
-#include "document/clsPropertyKoma.h"
+#include "document/SymbolContents.h"
 
 namespace tamber {
 
@@ -47,28 +43,7 @@ void clsPropertySprite::CopyTo(clsPropertyData& target) const {
 }
 
 bool clsPropertySprite::CkHasLoop(const clsSymbolData& symbol) const {
-    std::unordered_set<const clsSymbolData*> seen;
-    std::vector<std::shared_ptr<clsSymbolData>> open;
-    const auto visit = [&](const std::shared_ptr<clsSymbolData>& shown) {
-        if (shown && seen.insert(shown.get()).second) open.push_back(shown);
-    };
-    for (const auto& layer : *colLayer) visit(layer->SymbolData());
-    while (!open.empty()) {
-        const std::shared_ptr<clsSymbolData> shown = open.back();
-        open.pop_back();
-        if (shown.get() == &symbol) return true;
-        if (const auto* sprite = shown->Property<clsPropertySprite>()) {
-            for (const auto& layer : *sprite->colLayer) visit(layer->SymbolData());
-        } else if (const auto* button = shown->Property<clsPropertyButton>()) {
-            visit(button->UpSymbol());
-            visit(button->DownSymbol());
-            visit(button->OverSymbol());
-            visit(button->HitTestSymbol());
-        } else if (const auto* koma = shown->Property<clsPropertyKoma>()) {
-            for (const auto& picture : *koma->colKomas) visit(picture);
-        }
-    }
-    return false;
+    return ShowsSymbol(*colLayer, symbol);
 }
 
 }  // namespace tamber

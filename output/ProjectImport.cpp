@@ -1,0 +1,263 @@
+#include "output/ProjectImport.h"
+
+#include <algorithm>
+#include <set>
+#include <unordered_set>
+#include <utility>
+
+#include "canvas/LayerPlacement.h"
+#include "canvas/RowRange.h"
+#include "document/clsLayerFolder.h"
+#include "document/clsPropertyButton.h"
+#include "document/clsPropertyKoma.h"
+#include "document/clsPropertySprite.h"
+#include "document/clsPropertySymbolFolder.h"
+#include "document/clsPropertyText.h"
+#include "document/clsPropertyVector.h"
+#include "platform/UserInterface.h"
+
+namespace tamber {
+
+namespace {
+
+constexpr StringView SubstituteFont = u"ＭＳ ゴシック";
+/// Largest number that a symbol can have.
+constexpr std::int64_t LargestID = 9999;
+
+/// Numbers in use, and the smallest one that is not.
+class NumberPool {
+public:
+    bool Take(Long id) { return used_.insert(id).second; }
+    Long TakeFree() {
+        while (!used_.insert(next_).second) ++next_;
+        return next_;
+    }
+
+private:
+    std::unordered_set<Long> used_;
+    Long next_ = 1;
+};
+
+/// Which of so many rows are chosen.
+std::vector<bool> ChosenOf(const std::optional<std::vector<Long>>& choice, Long count) {
+    std::vector<bool> chosen(static_cast<std::size_t>(count) + 1, !choice);
+    if (!choice) return chosen;
+    for (const Long row : *choice)
+        if (row >= 1 && row <= count) chosen[static_cast<std::size_t>(row)] = true;
+    return chosen;
+}
+
+/// The innermost folder around a row for which `comes` holds, or null.
+template <class Row, class Comes>
+std::shared_ptr<Row> FolderThatComes(const Row& row, Comes comes) {
+    auto folder = row.ParentFolder();
+    while (folder && !comes(folder)) folder = folder->ParentFolder();
+    return folder;
+}
+
+bool IsInLibrary(const clsSymbolData& symbol) {
+    switch (symbol.eType()) {
+        case KindBackGround:
+        case KindFrameLabel:
+        case KindFrameAction:
+        case KindLayerFolder:
+            return false;
+        default:
+            return true;
+    }
+}
+
+void TellRepeatedNumber(bool& told) {
+    if (!std::exchange(told, true))
+        ShowMessage(u"IDが重複しています。\r\n空いているIDへ変更します。");
+}
+
+}  // namespace
+
+ProjectImport::ProjectImport(Project& target, Project incoming, ImportOptions options,
+                             const ProjectAssets& assets)
+    : target_(target),
+      incoming_(std::move(incoming)),
+      options_(std::move(options)),
+      assets_(assets) {}
+
+Collection<clsLayer> ProjectImport::Run() {
+    ChooseSymbols();
+    ReplaceFonts();
+    Collection<clsLayer> layers;
+    for (const auto& symbol : symbols_) MapReferences(*symbol);
+    if (!options_.chkNoMain) layers = TakeMainLayers();
+    if (options_.chkSprite && !options_.chkNoMain) AddSprite(std::exchange(layers, {}));
+    Renumber();
+    AddToLibrary();
+    return layers;
+}
+
+/// An existing symbol that an incoming one repeats, or null. Classes share one number and are told
+/// apart by their names.
+std::shared_ptr<clsSymbolData> ProjectImport::Repeated(const clsSymbolData& symbol) const {
+    if (!options_.blNotRepetition || symbol.eType() == KindSymbolFolder) return nullptr;
+    const auto found = existing_.find({symbol.ID, symbol.eType()});
+    if (found == existing_.end()) return nullptr;
+    for (const auto& known : found->second)
+        if (symbol.ID > 0 || known->Value() == symbol.Value()) return known;
+    return nullptr;
+}
+
+void ProjectImport::ChooseSymbols() {
+    for (const auto& known : *target_.colSymbol)
+        existing_[{known->ID, known->eType()}].push_back(known);
+    const Collection<clsSymbolData>& all = *incoming_.colSymbol;
+    const std::vector<bool> chosen = ChosenOf(options_.Symbols, all.Count());
+    for (Long row = 1; row <= all.Count(); ++row) {
+        const auto& symbol = all(row);
+        if (!chosen[static_cast<std::size_t>(row)]) continue;
+        const auto known = Repeated(*symbol);
+        newOf_.emplace(symbol.get(), known ? known : symbol);
+        if (!known) symbols_.push_back(symbol);
+    }
+}
+
+void ProjectImport::ReplaceFonts() const {
+    std::set<String> told;
+    for (const auto& symbol : symbols_) {
+        auto* text = symbol->Property<clsPropertyText>();
+        if (text == nullptr || text->FontName.starts_with(u'_') ||
+            assets_.FontAvailable(text->FontName))
+            continue;
+        if (told.insert(text->FontName).second)
+            ShowMessage(u"「" + text->FontName + u"」が見つかりません。\r\n「" +
+                        String(SubstituteFont) + u"」へ変更します。");
+        text->FontName = SubstituteFont;
+        assets_.SetTextSize(*symbol);
+    }
+}
+
+std::shared_ptr<clsSymbolData> ProjectImport::NewOf(
+    const std::shared_ptr<clsSymbolData>& old) const {
+    const auto found = newOf_.find(old.get());
+    return found == newOf_.end() ? nullptr : found->second;
+}
+
+void ProjectImport::MapReferences(clsSymbolData& symbol) const {
+    if (auto* text = symbol.Property<clsPropertyText>()) {
+        const auto shape = text->FitShapeSymbol();
+        text->FitShapeSymbol(NewOf(shape));
+        if (shape && !text->FitShapeSymbol()) assets_.SetTextSize(symbol);
+    } else if (auto* vector = symbol.Property<clsPropertyVector>()) {
+        vector->MorphSymbol(NewOf(vector->MorphSymbol()));
+    } else if (auto* button = symbol.Property<clsPropertyButton>()) {
+        button->UpSymbol(NewOf(button->UpSymbol()));
+        button->DownSymbol(NewOf(button->DownSymbol()));
+        button->OverSymbol(NewOf(button->OverSymbol()));
+        button->HitTestSymbol(NewOf(button->HitTestSymbol()));
+    } else if (auto* koma = symbol.Property<clsPropertyKoma>()) {
+        auto pictures = std::make_shared<Collection<clsSymbolData>>();
+        for (const auto& picture : *koma->colKomas)
+            if (auto mapped = NewOf(picture)) pictures->Add(std::move(mapped));
+        koma->colKomas = std::move(pictures);
+        koma->SetSize();
+    } else if (auto* sprite = symbol.Property<clsPropertySprite>()) {
+        const std::vector<bool> all = ChosenOf(std::nullopt, sprite->colLayer->Count());
+        *sprite->colLayer = MapLayers(*sprite->colLayer, all);
+    }
+}
+
+Collection<clsLayer> ProjectImport::MapLayers(const Collection<clsLayer>& layers,
+                                              const std::vector<bool>& chosen) const {
+    Collection<clsLayer> mapped;
+    std::unordered_set<const clsLayer*> comes;
+    for (Long row = 1; row <= layers.Count(); ++row) {
+        const auto& layer = layers(row);
+        if (!chosen[static_cast<std::size_t>(row)] || IsBackground(*layer)) continue;
+        if (IsInLibrary(*layer->SymbolData())) {
+            const auto symbol = NewOf(layer->SymbolData());
+            if (!symbol) continue;
+            layer->SymbolData(symbol);
+        }
+        const auto folder = FolderThatComes(
+            *layer, [&comes](const auto& outer) { return comes.contains(outer.get()); });
+        if (auto* state = layer->Folder()) state->LayerCount = 0;
+        layer->ParentFolder(folder);
+        if (folder) folder->AddInFolder(1);
+        comes.insert(layer.get());
+        mapped.Add(layer);
+    }
+    return mapped;
+}
+
+Collection<clsLayer> ProjectImport::TakeMainLayers() {
+    const Collection<clsLayer>& all = *incoming_.colMainLayer;
+    Collection<clsLayer> layers = MapLayers(all, ChosenOf(options_.Layers, all.Count()));
+    if (options_.chkSprite || !options_.chkLayerFolder) return layers;
+    const auto folder = MakeOwnLayer(KindLayerFolder, 1);
+    folder->LayerName = options_.LayerFolderName;
+    Collection<clsLayer> nested;
+    nested.Add(folder);
+    InsertRows(nested, {2, folder}, layers);
+    return nested;
+}
+
+void ProjectImport::AddSprite(Collection<clsLayer> layers) {
+    auto symbol = std::make_shared<clsSymbolData>(KindSprite);
+    symbol->ID = options_.ID;
+    auto& sprite = *symbol->Property<clsPropertySprite>();
+    sprite.SpriteName = options_.SpriteName;
+    sprite.Width = incoming_.MainWidth;
+    sprite.height = incoming_.MainHeight;
+    *sprite.colLayer = std::move(layers);
+    sprite_ = std::move(symbol);
+}
+
+/// Numbers of the library stay, and of two incoming symbols with one number the first keeps it.
+void ProjectImport::Renumber() {
+    NumberPool pool;
+    for (const auto& symbol : *target_.colSymbol) pool.Take(symbol->ID);
+    std::vector<clsSymbolData*> homeless;
+    for (const auto& symbol : symbols_) {
+        if (symbol->ID < 1) continue;
+        std::int64_t id = symbol->ID;
+        if (options_.IDMode == 1) id += options_.AddID;
+        if (id >= 1 && id <= LargestID && pool.Take(static_cast<Long>(id)))
+            symbol->ID = static_cast<Long>(id);
+        else
+            homeless.push_back(symbol.get());
+    }
+    bool told = false;
+    if (sprite_ && sprite_->ID < 1) {
+        homeless.push_back(sprite_.get());
+    } else if (sprite_ && (sprite_->ID > LargestID || !pool.Take(sprite_->ID))) {
+        TellRepeatedNumber(told);
+        homeless.push_back(sprite_.get());
+    }
+    for (clsSymbolData* symbol : homeless) {
+        if (symbol != sprite_.get()) TellRepeatedNumber(told);
+        symbol->ID = pool.TakeFree();
+    }
+}
+
+void ProjectImport::AddToLibrary() {
+    Collection<clsSymbolData>& library = *target_.colSymbol;
+    std::shared_ptr<clsSymbolData> folder;
+    if (options_.chkFolder) {
+        folder = std::make_shared<clsSymbolData>(KindSymbolFolder);
+        folder->Property<clsPropertySymbolFolder>()->FolderName = options_.FolderName;
+        library.Add(folder);
+    }
+    std::unordered_set<const clsSymbolData*> comes;
+    if (sprite_) symbols_.push_back(sprite_);
+    for (const auto& symbol : symbols_) {
+        auto outer = FolderThatComes(
+            *symbol, [&comes](const auto& known) { return comes.contains(known.get()); });
+        if (!outer) outer = folder;
+        if (auto* record = symbol->Property<clsPropertySymbolFolder>()) record->LayerCount = 0;
+        symbol->ParentFolder(outer);
+        if (outer) outer->AddInFolder(1);
+        comes.insert(symbol.get());
+        library.Add(symbol);
+    }
+    Long index = 0;
+    for (const auto& symbol : library) symbol->Index = ++index;
+}
+
+}  // namespace tamber
