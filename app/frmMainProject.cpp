@@ -5,8 +5,7 @@
 #include "app/mdlPrivateProfile.h"
 #include "document/ProjectWriter.h"
 #include "document/SymbolKinds.h"
-#include "document/clsPropertyClass.h"
-#include "document/clsPropertySprite.h"
+#include "document/SymbolTimeline.h"
 #include "platform/UserInterface.h"
 #include "platform/paths.h"
 #include "platform/text.h"
@@ -23,19 +22,6 @@ constexpr Single HighestRate = 100;
 
 bool IsOfferedVersion(Long version) {
     return version == 4 || (version >= 6 && version <= 8);
-}
-
-/// The history that the record of a sprite or class holds; null for other kinds.
-std::shared_ptr<clsUndoRedo>* OwnHistory(const clsSymbolData& symbol) {
-    if (auto* sprite = symbol.Property<clsPropertySprite>()) return &sprite->cUndoRedo;
-    if (auto* record = symbol.Property<clsPropertyClass>()) return &record->cUndoRedo;
-    return nullptr;
-}
-
-std::shared_ptr<Collection<clsLayer>> LayersOf(const clsSymbolData& symbol) {
-    if (const auto* sprite = symbol.Property<clsPropertySprite>()) return sprite->colLayer;
-    if (const auto* record = symbol.Property<clsPropertyClass>()) return record->colLayer;
-    return nullptr;
 }
 
 FileDialog ProjectDialog(StringView title) {
@@ -177,7 +163,7 @@ void frmMain::SetLayers(Long index, Long row, Long col) {
     const bool changed = index != 0 && index != editIndex;
     if (index != 0) editIndex = index;
     if (const auto symbol = EditSymbol()) {
-        editLayers_ = LayersOf(*symbol);
+        editLayers_ = TimelineOf(*symbol);
         const bool isClass = symbol->eType() == KindClass;
         if (isClass || editLayers_->Empty()) SelFrame1 = SelFrame2 = 1;
         view_->SetCanvasSize(isClass ? inProject.MainWidth : symbol->PixelWidth(),
@@ -200,7 +186,7 @@ void frmMain::ChangeSprite(Long index) {
         return;
     }
     const bool isTimeline = index == EditMain || (index >= 1 && index <= colSymbol()->Count() &&
-                                                  LayersOf(*colSymbol()->Item(index)) != nullptr);
+                                                  TimelineOf(*colSymbol()->Item(index)) != nullptr);
     if (index == editIndex || !isTimeline) return;
     SetLayers(index, 1, 0);
     if (mdlPrivateProfile::UndoRedoType()) AddUndoRedoData(UndoStep::Pending);
@@ -279,6 +265,7 @@ void frmMain::mnuUndoRedo(Long index) {
     if (!restored) return;
     history.Tag.clear();
     if (colSymbol()->Count() != symbols) Renumber();
+    if (restored->colMainLayer) inProject.colMainLayer = restored->colMainLayer;
     if (!restored->inSprite) inProject.colMainLayer = restored->colEditLayer;
     const Long timeline = restored->inSprite ? restored->inSprite->Index : EditMain;
     const Long rows = std::max(restored->colEditLayer->Count(), 1);

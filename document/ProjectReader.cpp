@@ -11,6 +11,7 @@
 
 #include "document/ProjectFileVersion.h"
 #include "document/SymbolContents.h"
+#include "document/SymbolFiles.h"
 #include "document/clsCSV.h"
 #include "document/clsPropertyText.h"
 #include "document/clsPropertyVector.h"
@@ -85,21 +86,6 @@ Long ReadVersion(clsCSV& csv) {
     version <<= 8;
     if (!csv.Value().empty()) version += csv.TakeByte();
     return version;
-}
-
-FileFilter FilterOf(Long kind) {
-    switch (kind) {
-        case KindBitmap:
-            return {u"画像ファイル (*.bmp;*.jpg;*.jpeg;*.png;*.gif)",
-                    u"*.bmp;*.jpg;*.jpeg;*.png;*.gif"};
-        case KindVector:
-            return {u"ベクタ画像ファイル (*.swf;*.pdr;*.svg;*.svgz)", u"*.swf;*.pdr;*.svg;*.svgz"};
-        case KindSound:
-            return {u"サウンドファイル (*.mp3;*.wav;*.rmp;*.mid;*.mld;*.mmf)",
-                    u"*.mp3;*.wav;*.rmp;*.mid;*.mld;*.mmf"};
-        default:
-            return {u"動画ファイル (*.flv)", u"*.flv"};
-    }
 }
 
 class Reader {
@@ -232,16 +218,12 @@ void Reader::LoadAsset(clsSymbolData& symbol) const {
         ShowMessage(symbol.FilePathName + u"\r\n\r\nファイルが見つかりません。");
         FileDialog dialog;
         dialog.Title = u"ファイル選択";
-        dialog.Filters.push_back(FilterOf(symbol.eType()));
+        dialog.Filters.push_back(SymbolFileFilter(symbol.eType()));
         const String chosen = CurrentUserInterface().OpenFileDialog(dialog);
         if (chosen.empty()) throw LoadStopped();
         symbol.FilePathName = chosen;
     }
-    const bool loaded = symbol.eType() == KindBitmap   ? assets_.LoadBitmap(symbol)
-                        : symbol.eType() == KindVector ? assets_.LoadVector(symbol)
-                        : symbol.eType() == KindSound  ? assets_.LoadSound(symbol)
-                                                       : assets_.LoadMovie(symbol);
-    if (loaded) return;
+    if (assets_.LoadFile(symbol)) return;
     ShowMessage(u"ファイルの読み込みに失敗しました。", u"読み込みエラー", MessageIcon::Error);
     throw LoadStopped();
 }
@@ -363,6 +345,21 @@ bool TellDamaged() {
 }
 
 }  // namespace
+
+bool ProjectAssets::LoadFile(clsSymbolData& symbol) const {
+    switch (symbol.eType()) {
+        case KindBitmap:
+            return LoadBitmap(symbol);
+        case KindVector:
+            return LoadVector(symbol);
+        case KindSound:
+            return LoadSound(symbol);
+        case KindMovie:
+            return LoadMovie(symbol);
+        default:
+            return true;
+    }
+}
 
 bool LoadProject(StringView path, Project& out, const ProjectAssets& assets,
                  std::optional<Long> importInto) {

@@ -17,6 +17,8 @@ public:
     virtual bool LoadVector(clsSymbolData& symbol) const = 0;
     virtual bool LoadSound(clsSymbolData& symbol) const = 0;
     virtual bool LoadMovie(clsSymbolData& symbol) const = 0;
+    /// Reads the file of a symbol by its kind; true for kinds that have none.
+    bool LoadFile(clsSymbolData& symbol) const;
     virtual bool FontAvailable(StringView name) const = 0;
     /// Font for texts whose own is not available.
     virtual String DefaultFont() const = 0;

@@ -2,12 +2,8 @@
 
 #include <algorithm>
 
-#include "document/clsPropertyButton.h"
-#include "document/clsPropertyClass.h"
-#include "document/clsPropertyKoma.h"
-#include "document/clsPropertySprite.h"
-#include "document/clsPropertyText.h"
-#include "document/clsPropertyVector.h"
+#include "document/SymbolReferences.h"
+#include "document/SymbolTimeline.h"
 
 namespace tamber {
 
@@ -18,32 +14,9 @@ bool IsInLibrary(const clsSymbolData& symbol, const Collection<clsSymbolData>& l
            library(symbol.Index).get() == &symbol;
 }
 
-/// Kinds that stand on layers without a library entry.
+/// The others stand on layers without a library entry.
 bool NeedsLibrary(const clsSymbolData& symbol) {
-    return symbol.ID > 0;
-}
-
-/// What a symbol's record refers to; null among them for what is not set.
-std::vector<std::shared_ptr<clsSymbolData>> ReferencesOf(const clsSymbolData& symbol) {
-    if (const auto* drawing = symbol.Property<clsPropertyVector>()) return {drawing->MorphSymbol()};
-    if (const auto* text = symbol.Property<clsPropertyText>()) return {text->FitShapeSymbol()};
-    if (const auto* button = symbol.Property<clsPropertyButton>())
-        return {button->HitTestSymbol(), button->DownSymbol(), button->OverSymbol(),
-                button->UpSymbol()};
-    std::vector<std::shared_ptr<clsSymbolData>> references;
-    if (const auto* koma = symbol.Property<clsPropertyKoma>())
-        references.assign(koma->colKomas->begin(), koma->colKomas->end());
-    if (const auto* sprite = symbol.Property<clsPropertySprite>())
-        for (const auto& layer : *sprite->colLayer) references.push_back(layer->SymbolData());
-    return references;
-}
-
-/// Gives the timeline of a state to the symbol that it belongs to.
-void SetLayersOf(const clsSymbolData& symbol, std::shared_ptr<Collection<clsLayer>> layers) {
-    if (auto* sprite = symbol.Property<clsPropertySprite>())
-        sprite->colLayer = std::move(layers);
-    else if (auto* record = symbol.Property<clsPropertyClass>())
-        record->colLayer = std::move(layers);
+    return symbol.ID > 0 || symbol.eType() == KindClass;
 }
 
 }  // namespace
@@ -62,6 +35,19 @@ void ReturnToLibrary(const std::shared_ptr<clsSymbolData>& symbol,
         for (auto& reference : ReferencesOf(*next)) waiting.push_back(std::move(reference));
     }
 }
+
+namespace {
+
+/// Puts layers in the place of a symbol's timeline, and all that they show into the library.
+void PutBack(const std::shared_ptr<clsSymbolData>& owner,
+             const std::shared_ptr<Collection<clsLayer>>& layers,
+             Collection<clsSymbolData>& library) {
+    if (owner) SetTimelineOf(*owner, layers);
+    for (const auto& layer : *layers) ReturnToLibrary(layer->SymbolData(), library);
+    ReturnToLibrary(owner, library);
+}
+
+}  // namespace
 
 void clsUndoRedo::Init(const clsUndoRedoData& data, const Collection<clsLayer>& layers) {
     position_ = 1;
@@ -88,19 +74,37 @@ void clsUndoRedo::Change(clsUndoRedoData data, const Collection<clsLayer>& layer
     Complete(data, layers);
     if (merge && !states_.empty()) {
         data.Kept = std::move(Present().Kept);
+        data.Before = std::move(Present().Before);
         Present() = std::move(data);
         return;
     }
     ++TotalHistory;
-    states_.erase(states_.begin(), states_.begin() + static_cast<std::ptrdiff_t>(position_ - 1));
-    position_ = 1;
-    if (pending_ && pending_->inSprite != data.inSprite) {
-        Push(std::move(*pending_));
-        pending_.reset();
-        ++TotalHistory;
-    }
+    DropRedone();
+    TakePending(data);
     Push(std::move(data));
     RaiseOnUndoRedo();
+}
+
+/// What the dropped states kept, those that stay may show as well.
+void clsUndoRedo::DropRedone() {
+    for (; position_ > 1; --position_) {
+        auto kept = std::move(states_.front().Kept);
+        states_.pop_front();
+        auto& next = states_.front().Kept;
+        next.insert(next.end(), std::make_move_iterator(kept.begin()),
+                    std::make_move_iterator(kept.end()));
+    }
+}
+
+void clsUndoRedo::TakePending(clsUndoRedoData& data) {
+    if (!pending_) return;
+    if (pending_->inSprite != data.inSprite) {
+        Push(std::move(*pending_));
+        ++TotalHistory;
+    } else if (states_.empty() || states_.front().inSprite != data.inSprite) {
+        data.Before = std::move(pending_->colEditLayer);
+    }
+    pending_.reset();
 }
 
 void clsUndoRedo::Push(clsUndoRedoData data) {
@@ -113,8 +117,12 @@ void clsUndoRedo::SetUndoRedoData(clsUndoRedoData data, const Collection<clsLaye
     pending_ = std::move(data);
 }
 
-void clsUndoRedo::Keep(std::shared_ptr<clsSymbolData> symbol) {
-    if (!states_.empty()) Present().Kept.push_back(std::move(symbol));
+void clsUndoRedo::Keep(std::shared_ptr<const RemovedSymbols> symbols) {
+    if (!states_.empty()) Present().Kept.push_back(std::move(symbols));
+}
+
+std::shared_ptr<clsSymbolData> clsUndoRedo::TimelineOwner(const clsUndoRedoData& state) const {
+    return state.inSprite ? state.inSprite : Owner.lock();
 }
 
 /// `left` is the state that was shown: a change of another timeline leads to the place of that
@@ -124,17 +132,23 @@ clsUndoRedo::Restored clsUndoRedo::Restore(Collection<clsSymbolData>& library,
     const clsUndoRedoData& state = Present();
     Restored restored;
     restored.colEditLayer = RestoreLayers(state.colEditLayer);
-    restored.inSprite = state.inSprite ? state.inSprite : Owner.lock();
+    restored.inSprite = TimelineOwner(state);
     const clsUndoRedoData& selection = state.inSprite != left.inSprite ? state : left;
     restored.Row = selection.Row;
     restored.KeyFrame = selection.KeyFrame;
-    for (const auto& layer : *restored.colEditLayer) ReturnToLibrary(layer->SymbolData(), library);
-    if (restored.inSprite) {
-        ReturnToLibrary(restored.inSprite, library);
-        SetLayersOf(*restored.inSprite, restored.colEditLayer);
-    }
+    PutBack(restored.inSprite, restored.colEditLayer, library);
     RaiseOnUndoRedo();
     return restored;
+}
+
+/// Undoes a change in a timeline that the state before it is not of.
+void clsUndoRedo::RevertLeft(Restored& restored, const clsUndoRedoData& left,
+                             Collection<clsSymbolData>& library) const {
+    if (!left.Before) return;
+    const auto owner = TimelineOwner(left);
+    auto layers = RestoreLayers(*left.Before);
+    PutBack(owner, layers, library);
+    if (!owner) restored.colMainLayer = std::move(layers);
 }
 
 std::optional<clsUndoRedo::Restored> clsUndoRedo::Undo(Collection<clsSymbolData>& library) {
@@ -142,7 +156,9 @@ std::optional<clsUndoRedo::Restored> clsUndoRedo::Undo(Collection<clsSymbolData>
     const clsUndoRedoData& left = Present();
     ++position_;
     --TotalHistory;
-    return Restore(library, left);
+    Restored restored = Restore(library, left);
+    RevertLeft(restored, left, library);
+    return restored;
 }
 
 std::optional<clsUndoRedo::Restored> clsUndoRedo::Redo(Collection<clsSymbolData>& library) {

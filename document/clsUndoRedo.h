@@ -10,16 +10,21 @@
 
 namespace tamber {
 
+/// Symbols that left a library together.
+using RemovedSymbols = std::vector<std::shared_ptr<clsSymbolData>>;
+
 /// One state of one timeline.
 struct clsUndoRedoData {
     LayerSnapshot colEditLayer;
+    /// The timeline before the change, where the state before this one is of another.
+    std::optional<LayerSnapshot> Before;
     /// The sprite or class whose timeline it is; null for the main timeline.
     std::shared_ptr<clsSymbolData> inSprite;
     /// The selected row, and the key frame selected in it.
     Long Row = 1;
     Long KeyFrame = 1;
-    /// Symbols that left the library after this state, kept for it.
-    std::vector<std::shared_ptr<clsSymbolData>> Kept;
+    /// Symbols that left the library up to this state, kept for those before it.
+    std::vector<std::shared_ptr<const RemovedSymbols>> Kept;
 };
 
 /// The history of a timeline, or of all: states, the newest first, and which of them is shown.
@@ -28,6 +33,8 @@ public:
     /// What an undo or redo leads to.
     struct Restored {
         std::shared_ptr<Collection<clsLayer>> colEditLayer;
+        /// The main timeline, where an undone change was in it and leads back to another.
+        std::shared_ptr<Collection<clsLayer>> colMainLayer;
         std::shared_ptr<clsSymbolData> inSprite;
         Long Row = 1;
         Long KeyFrame = 1;
@@ -49,11 +56,12 @@ public:
     /// Records the state of a timeline, `data` being the rest of it. With `merge` it takes the
     /// place of the present state and is no step of its own.
     void Change(clsUndoRedoData data, const Collection<clsLayer>& layers, bool merge);
-    /// Puts aside the state before a switch to another timeline; it is recorded once a change
-    /// follows elsewhere.
+    /// Puts aside the state before a switch to another timeline, or before a change of one that is
+    /// not shown. It is recorded once a change follows elsewhere, and serves to undo one that
+    /// follows in its own timeline.
     void SetUndoRedoData(clsUndoRedoData data, const Collection<clsLayer>& layers);
-    /// A symbol leaves the library: the states that may show it keep it.
-    void Keep(std::shared_ptr<clsSymbolData> symbol);
+    /// Symbols leave the library: the states that may show them keep them.
+    void Keep(std::shared_ptr<const RemovedSymbols> symbols);
 
     bool CanUndo() const { return position_ < states_.size(); }
     bool CanRedo() const { return position_ >= 2; }
@@ -78,6 +86,11 @@ private:
     Restored Restore(Collection<clsSymbolData>& library, const clsUndoRedoData& left);
     void Push(clsUndoRedoData data);
     void Complete(clsUndoRedoData& data, const Collection<clsLayer>& layers) const;
+    void DropRedone();
+    void TakePending(clsUndoRedoData& data);
+    void RevertLeft(Restored& restored, const clsUndoRedoData& left,
+                    Collection<clsSymbolData>& library) const;
+    std::shared_ptr<clsSymbolData> TimelineOwner(const clsUndoRedoData& state) const;
     clsUndoRedoData& Present() { return states_[position_ - 1]; }
 
     std::deque<clsUndoRedoData> states_;

@@ -4,6 +4,7 @@
 #include <iterator>
 #include <memory>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -59,6 +60,13 @@ public:
         items_.insert(items_.begin() + (index - 1), std::move(item));
     }
 
+    /// Inserts several before `index`, 1 to Count + 1.
+    template <class Iterator>
+    void Insert(Iterator first, Iterator last, Long index) {
+        if (index != Count() + 1) Check(index);
+        items_.insert(items_.begin() + (index - 1), first, last);
+    }
+
     void Replace(Long index, Reference item) {
         Check(index);
         items_[static_cast<std::size_t>(index - 1)] = std::move(item);
@@ -69,6 +77,21 @@ public:
         const T* gone = Item(index).get();
         std::erase_if(keys_, [gone](const auto& entry) { return entry.second == gone; });
         items_.erase(items_.begin() + (index - 1));
+    }
+
+    /// Removes each item, given as a reference, that `gone` says yes to. Gives how many went.
+    template <class Predicate>
+    Long RemoveIf(Predicate gone) {
+        const auto kept = std::stable_partition(items_.begin(), items_.end(),
+                                                [&gone](const auto& item) { return !gone(item); });
+        const auto count = static_cast<Long>(items_.end() - kept);
+        if (!keys_.empty()) {
+            std::unordered_set<const T*> removed;
+            for (auto item = kept; item != items_.end(); ++item) removed.insert(item->get());
+            std::erase_if(keys_, [&](const auto& entry) { return removed.contains(entry.second); });
+        }
+        items_.erase(kept, items_.end());
+        return count;
     }
 
     void Clear() {

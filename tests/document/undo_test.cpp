@@ -222,7 +222,7 @@ TEST_F(History, brings_removed_symbols_back_with_what_they_refer_to) {
         auto gone = library_(2);
         watchedMorph = gone;
         for (const auto& symbol : {library_(3), gone}) {
-            history_.Keep(symbol);
+            history_.Keep(std::make_shared<RemovedSymbols>(1, symbol));
             symbol->Index = 0;
         }
         library_.Remove(3);
