@@ -1,53 +1,13 @@
-#include <gtest/gtest.h>
-
-#include <filesystem>
-
-#include "app/frmMain.h"
 #include "app/mdlPrivateProfile.h"
-#include "document/SymbolKinds.h"
 #include "document/clsObjBackGround.h"
-#include "document/clsPropertySprite.h"
-#include "platform/RecordingUserInterface.h"
-#include "platform/codepage.h"
 #include "platform/files.h"
-#include "platform/paths.h"
+#include "tests/support/ControllerTest.h"
 
 namespace tamber {
 namespace {
 
-/// What the controller asked its window for.
-class RecordingView : public MainView {
-public:
-    Long Width = 0;
-    Long Height = 0;
-    bool Undo = true;
-    bool Redo = true;
-    void SetCanvasSize(Long width, Long height) override {
-        Width = width;
-        Height = height;
-    }
-    void ShowUndoRedo(bool undo, bool redo) override {
-        Undo = undo;
-        Redo = redo;
-    }
-};
-
-class ProjectCommands : public testing::Test {
+class ProjectCommands : public ControllerTest {
 protected:
-    void SetUp() override {
-        std::string folder = (std::filesystem::temp_directory_path() / "commandsXXXXXX").string();
-        ASSERT_NE(mkdtemp(folder.data()), nullptr);
-        folder_ = FromNarrow(folder);
-        program_ = ProgramFolder();
-        ProgramFolder(folder_);
-        main_.Form_Load();
-    }
-    void TearDown() override {
-        ProgramFolder(program_);
-        std::filesystem::remove_all(ToNarrow(folder_));
-    }
-
-    String Path(StringView name) const { return folder_ + u"/" + String(name); }
     /// Paints the background and records it.
     void Paint(Byte red, StringView tag = {}) {
         Background().BackColorRed = red;
@@ -58,13 +18,6 @@ protected:
                     ->Object(1)
                     ->ObjectAs<clsObjBackGround>();
     }
-    Long AddSprite(Long width) {
-        auto sprite = std::make_shared<clsSymbolData>(KindSprite);
-        sprite->ID = sprite->Index = main_.colSymbol()->Count() + 1;
-        sprite->Property<clsPropertySprite>()->Width = width;
-        main_.colSymbol()->Add(sprite);
-        return sprite->Index;
-    }
     /// Adds a row to the edited timeline and records it.
     void AddRow() {
         auto layer = std::make_shared<clsLayer>();
@@ -74,13 +27,6 @@ protected:
         main_.colEditLayer()->Insert(layer, 1);
         main_.AddUndoRedoData(UndoStep::Change);
     }
-
-    String folder_;
-    String program_;
-    RecordingUserInterface interface_;
-    UserInterfaceScope scope_{interface_};
-    std::shared_ptr<RecordingView> view_ = std::make_shared<RecordingView>();
-    frmMain main_{view_};
 };
 
 TEST_F(ProjectCommands, ask_before_changes_are_lost) {
