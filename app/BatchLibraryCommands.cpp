@@ -80,15 +80,15 @@ bool AddButton(BatchContext& context, const BatchArguments& arguments) {
     return context.Controller.mnuAddSymbolItem_Button([&](clsSymbolData& symbol) {
         auto& button = *symbol.Property<clsPropertyButton>();
         button.ButtonName = arguments[0];
-        using Setter = void (clsPropertyButton::*)(const std::shared_ptr<clsSymbolData>&);
-        constexpr Setter States[]{&clsPropertyButton::UpSymbol, &clsPropertyButton::OverSymbol,
-                                  &clsPropertyButton::DownSymbol,
-                                  &clsPropertyButton::HitTestSymbol};
-        for (std::size_t state = 0; state + 1 < arguments.size(); ++state) {
-            const auto picture = PictureAt(context, arguments[state + 1]);
-            if (!picture) return false;
-            (button.*States[state])(picture);
+        SymbolList states(4);
+        for (std::size_t i = 1; i < arguments.size(); ++i) {
+            states[i - 1] = PictureAt(context, arguments[i]);
+            if (!states[i - 1]) return false;
         }
+        button.UpSymbol(states[0]);
+        button.OverSymbol(states[1]);
+        button.DownSymbol(states[2]);
+        button.HitTestSymbol(states[3]);
         return true;
     });
 }
