@@ -137,6 +137,8 @@ clsUndoRedo::Restored clsUndoRedo::Restore(Collection<clsSymbolData>& library,
     restored.Row = selection.Row;
     restored.KeyFrame = selection.KeyFrame;
     PutBack(restored.inSprite, restored.colEditLayer, library);
+    // What was put aside may not be the state of its timeline any more.
+    pending_.reset();
     RaiseOnUndoRedo();
     return restored;
 }
