@@ -316,12 +316,12 @@ protected:
 };
 
 TEST_P(Removal, brings_back_by_undo_what_fell_with_all_it_refers_to) {
-    const auto up = AddPicture();
-    const auto over = AddPicture();
-    const auto down = AddPicture(KindVector);
-    const auto target = AddPicture(KindVector);
+    auto up = AddPicture();
+    auto over = AddPicture();
+    auto down = AddPicture(KindVector);
+    auto target = AddPicture(KindVector);
     down->Property<clsPropertyVector>()->MorphSymbol(target);
-    const auto koma = AddPicture(KindKoma);
+    auto koma = AddPicture(KindKoma);
     for (const auto& picture : {up, over, up})
         koma->Property<clsPropertyKoma>()->colKomas->Add(picture);
     const auto button = AddButton(koma);
@@ -338,17 +338,21 @@ TEST_P(Removal, brings_back_by_undo_what_fell_with_all_it_refers_to) {
     EXPECT_EQ(ShownInMain(), "-1");
     EXPECT_EQ(other->Property<clsPropertyButton>()->OverSymbol(), nullptr);
 
+    // From here on the histories alone hold them.
+    const std::set<const clsSymbolData*> fallen{button.get(), koma.get(), up.get(),
+                                                over.get(),   down.get(), target.get()};
+    up = over = down = target = koma = nullptr;
     main_.mnuUndoRedo(0);
     EXPECT_EQ(ShownInMain(), "6 -1");
+    ASSERT_EQ(main_.colSymbol()->Count(), 8);
     std::set<const clsSymbolData*> back;
-    for (Long row = 3; row <= main_.colSymbol()->Count(); ++row) back.insert(Symbol(row).get());
-    EXPECT_EQ(back, (std::set<const clsSymbolData*>{button.get(), koma.get(), up.get(), over.get(),
-                                                    down.get(), target.get()}));
-    EXPECT_EQ(states.UpSymbol(), koma);
-    EXPECT_EQ(states.OverSymbol(), over);
-    EXPECT_EQ(states.DownSymbol(), down);
-    EXPECT_EQ(koma->Property<clsPropertyKoma>()->colKomas->Count(), 3);
-    EXPECT_EQ(down->Property<clsPropertyVector>()->MorphSymbol(), target);
+    for (Long row = 3; row <= 8; ++row) back.insert(Symbol(row).get());
+    EXPECT_EQ(back, fallen);
+    EXPECT_EQ(states.UpSymbol()->ID, 5);
+    EXPECT_EQ(states.OverSymbol()->ID, 2);
+    EXPECT_EQ(states.DownSymbol()->ID, 3);
+    EXPECT_EQ(states.UpSymbol()->Property<clsPropertyKoma>()->colKomas->Count(), 3);
+    EXPECT_EQ(states.DownSymbol()->Property<clsPropertyVector>()->MorphID(), 4);
     main_.mnuUndoRedo(1);
     EXPECT_EQ(ShownInMain(), "-1");
 }
@@ -594,12 +598,13 @@ TEST_P(LibraryWalk, keeps_all_in_order_and_ends_where_it_began_once_undone) {
         }
     };
     undoAll();
+    // Sprites that come back have histories of their own.
     for (Long row = 1; !GetParam() && row <= main_.colSymbol()->Count(); ++row) {
-        main_.ChangeSprite(row);
-        undoAll();
+        for (const Long timeline : {frmMain::EditMain, row}) {
+            main_.ChangeSprite(timeline);
+            undoAll();
+        }
     }
-    main_.ChangeSprite(frmMain::EditMain);
-    undoAll();
     EXPECT_EQ(ShownInMain(), "-1");
     for (const auto& symbol : *main_.colSymbol()) {
         const auto layers = TimelineOf(*symbol);
