@@ -221,7 +221,8 @@ TEST_F(History, keeps_symbols_when_the_state_that_kept_them_is_dropped) {
     auto symbol = std::make_shared<clsSymbolData>(KindVector);
     const std::weak_ptr<clsSymbolData> watched = symbol;
     Move(1, 1, 10);
-    history_.Keep(std::make_shared<RemovedSymbols>(1, std::move(symbol)));
+    history_.Keep(std::make_shared<RemovedSymbols>(1, symbol));
+    symbol.reset();
     Undo();
     Move(1, 1, 20);
     EXPECT_FALSE(watched.expired());
