@@ -199,7 +199,9 @@ void Reader::ReadSymbols() {
             default:
                 break;
         }
-        if (symbol->ID > 0) byId_.emplace(symbol->ID, symbol);
+        // No layer shows a folder, whatever number it has.
+        if (symbol->ID > 0 && symbol->eType() != KindSymbolFolder)
+            byId_.emplace(symbol->ID, symbol);
         project_.colSymbol->Add(std::move(symbol));
     }
 }

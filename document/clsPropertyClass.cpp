@@ -1,32 +1,40 @@
 #include "document/clsPropertyClass.h"
 
-#include <utility>
-
-#include "document/Project.h"
+#include "document/clsLayer.h"
 #include "document/clsObjFrameAction.h"
+#include "document/clsSymbolData.h"
 #include "platform/RuntimeError.h"
 
 namespace tamber {
+
+clsPropertyClass::clsPropertyClass() {
+    colLayer->Add(NewLayer());
+}
+
+std::shared_ptr<clsLayer> clsPropertyClass::NewLayer() {
+    auto layer = std::make_shared<clsLayer>();
+    layer->SymbolData(std::make_shared<clsSymbolData>(KindFrameAction));
+    Long index = 0;
+    layer->Add(0, nullptr, index);
+    return layer;
+}
 
 void clsPropertyClass::Load(clsCSV& csv) {
     className = csv.TakeText();
     Extends = csv.TakeText();
     const Long count = csv.TakeLong();
     colLayer = std::make_shared<Collection<clsLayer>>();
-    for (Long i = 0; i < count; ++i) {
+    colLayer->Add(NewLayer());
+    for (Long i = 1; i <= count; ++i) {
         csv.CrLf();
         // Both cells may be empty, so that only the table's end tells a count that is too high.
         if (csv.Y() >= csv.Rows())
             throw RuntimeError(ErrorOutOfRange, u"clsPropertyClass",
                                u"範囲外の数値が設定されました。");
-        auto layer = std::make_shared<clsLayer>();
-        layer->SymbolData(std::make_shared<clsSymbolData>(KindFrameAction));
-        Long index = 0;
-        layer->Add(1, nullptr, index);
-        auto* action = layer->Object(index)->ObjectAs<clsObjFrameAction>();
+        if (i > 1) colLayer->Add(NewLayer());
+        auto* action = colLayer->Item(i)->Object(1)->ObjectAs<clsObjFrameAction>();
         action->Comment = csv.TakeText();
         action->inScript.ScriptText = csv.TakeText();
-        colLayer->Add(std::move(layer));
     }
 }
 
@@ -44,13 +52,9 @@ void clsPropertyClass::Save(clsCSV& csv) const {
 }
 
 void clsPropertyClass::CopyTo(clsPropertyData& target) const {
-    CopyRecord(*this, target);
-    auto layers = std::make_shared<Collection<clsLayer>>();
-    for (const auto& layer : *colLayer) layers->Add(layer->Copy());
-    NestLayers(*layers);
     auto& copy = dynamic_cast<clsPropertyClass&>(target);
-    copy.colLayer = std::move(layers);
-    copy.cUndoRedo.reset();
+    copy.className = className + u"_copy";
+    copy.Extends = Extends;
 }
 
 }  // namespace tamber

@@ -15,13 +15,18 @@ class clsPropertyClass : public clsPropertyData {
 public:
     String className;
     String Extends;
+    /// At least one, each with a frame action as its one key frame.
     std::shared_ptr<Collection<clsLayer>> colLayer = std::make_shared<Collection<clsLayer>>();
     /// History of the timeline, where each has its own; null until it is edited. A copy has none.
     std::shared_ptr<clsUndoRedo> cUndoRedo;
 
+    clsPropertyClass();
+    /// A layer with an empty action.
+    static std::shared_ptr<clsLayer> NewLayer();
     Long eType() const override { return KindClass; }
     void Load(clsCSV& csv) override;
     void Save(clsCSV& csv) const override;
+    /// The copy has a name of its own and none of the layers.
     void CopyTo(clsPropertyData& target) const override;
 };
 

@@ -7,6 +7,8 @@
 
 #include "canvas/LayerPlacement.h"
 #include "canvas/RowRange.h"
+#include "document/SymbolIdEdit.h"
+#include "document/SymbolLibrary.h"
 #include "document/clsLayerFolder.h"
 #include "document/clsPropertyButton.h"
 #include "document/clsPropertyKoma.h"
@@ -21,22 +23,6 @@ namespace tamber {
 namespace {
 
 constexpr StringView SubstituteFont = u"ＭＳ ゴシック";
-/// Largest number that a symbol can have.
-constexpr std::int64_t LargestID = 9999;
-
-/// Numbers in use, and the smallest one that is not.
-class NumberPool {
-public:
-    bool Take(Long id) { return used_.insert(id).second; }
-    Long TakeFree() {
-        while (!used_.insert(next_).second) ++next_;
-        return next_;
-    }
-
-private:
-    std::unordered_set<Long> used_;
-    Long next_ = 1;
-};
 
 /// Which of so many rows are chosen.
 std::vector<bool> ChosenOf(const std::optional<std::vector<Long>>& choice, Long count) {
@@ -67,11 +53,6 @@ bool IsInLibrary(const clsSymbolData& symbol) {
     }
 }
 
-void TellRepeatedNumber(bool& told) {
-    if (!std::exchange(told, true))
-        ShowMessage(u"IDが重複しています。\r\n空いているIDへ変更します。");
-}
-
 }  // namespace
 
 ProjectImport::ProjectImport(Project& target, Project incoming, ImportOptions options,
@@ -88,8 +69,9 @@ Collection<clsLayer> ProjectImport::Run() {
     for (const auto& symbol : symbols_) MapReferences(*symbol);
     if (!options_.chkNoMain) layers = TakeMainLayers();
     if (options_.chkSprite && !options_.chkNoMain) AddSprite(std::exchange(layers, {}));
-    Renumber();
+    const Long first = target_.colSymbol->Count() + 1;
     AddToLibrary();
+    Renumber(first);
     return layers;
 }
 
@@ -209,31 +191,20 @@ void ProjectImport::AddSprite(Collection<clsLayer> layers) {
     sprite_ = std::move(symbol);
 }
 
-/// Numbers of the library stay, and of two incoming symbols with one number the first keeps it.
-void ProjectImport::Renumber() {
-    NumberPool pool;
-    for (const auto& symbol : *target_.colSymbol) pool.Take(symbol->ID);
-    std::vector<clsSymbolData*> homeless;
-    for (const auto& symbol : symbols_) {
-        if (symbol->ID < 1) continue;
-        std::int64_t id = symbol->ID;
-        if (options_.IDMode == 1) id += options_.AddID;
-        if (id >= 1 && id <= LargestID && pool.Take(static_cast<Long>(id)))
-            symbol->ID = static_cast<Long>(id);
-        else
-            homeless.push_back(symbol.get());
+/// Numbers of the library stay; of incoming symbols that share one the last keeps it.
+void ProjectImport::Renumber(Long first) const {
+    const Collection<clsSymbolData>& library = *target_.colSymbol;
+    for (Long row = first; row <= library.Count(); ++row) {
+        clsSymbolData& symbol = *library(row);
+        const std::int64_t moved = std::int64_t{symbol.ID} + options_.AddID;
+        const bool adds = options_.IDMode == 1 && &symbol != sprite_.get() && symbol.ID > 0;
+        if (adds && moved >= 1 && moved <= SymbolIdEdit::MaxId)
+            symbol.ID = static_cast<Long>(moved);
     }
-    bool told = false;
-    if (sprite_ && sprite_->ID < 1) {
-        homeless.push_back(sprite_.get());
-    } else if (sprite_ && (sprite_->ID > LargestID || !pool.Take(sprite_->ID))) {
-        TellRepeatedNumber(told);
-        homeless.push_back(sprite_.get());
-    }
-    for (clsSymbolData* symbol : homeless) {
-        if (symbol != sprite_.get()) TellRepeatedNumber(told);
-        symbol->ID = pool.TakeFree();
-    }
+    SymbolIds ids(library);
+    if (sprite_ && sprite_->ID < 1) ids.Change(*sprite_, ids.Free());
+    SeparateIds(library, ids, first, library.Count(),
+                [] { ShowMessage(u"IDが重複しています。\r\n空いているIDへ変更します。"); });
 }
 
 void ProjectImport::AddToLibrary() {
@@ -256,8 +227,7 @@ void ProjectImport::AddToLibrary() {
         comes.insert(symbol.get());
         library.Add(symbol);
     }
-    Long index = 0;
-    for (const auto& symbol : library) symbol->Index = ++index;
+    NumberSymbols(library);
 }
 
 }  // namespace tamber

@@ -54,7 +54,8 @@ private:
     void ChooseSymbols();
     std::shared_ptr<clsSymbolData> Repeated(const clsSymbolData& symbol) const;
     void ReplaceFonts() const;
-    void Renumber();
+    /// Gives numbers of their own to the symbols from row `first` of the library on.
+    void Renumber(Long first) const;
     void MapReferences(clsSymbolData& symbol) const;
     /// The symbol that takes the place of one of the incoming project, or null.
     std::shared_ptr<clsSymbolData> NewOf(const std::shared_ptr<clsSymbolData>& old) const;

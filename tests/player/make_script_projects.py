@@ -56,8 +56,9 @@ def frame_actions(*actions, frames=1):
     return [f"-3,,,0,,,0,0,0,,,,True,{len(actions)}", *rows]
 
 
-def write(name, version, symbols, references, sprites, layers, files=None):
-    """references: rows of kinds that refer to symbols; sprites: the layers of each sprite."""
+def write(name, version, symbols, references, sprites, layers, files=None, project=None):
+    """references: rows of kinds that refer to symbols; sprites: the layers of each sprite; project: the file's name,
+    if it is not the case's."""
     folder = CASES / name
     folder.mkdir(parents=True, exist_ok=True)
     for file, content in (files or {}).items():
@@ -66,7 +67,7 @@ def write(name, version, symbols, references, sprites, layers, files=None):
     timelines = flat([[str(len(own)), *flat(own)] for own in sprites])
     rows = ["KVF,0,9,0", f"200,150,12,{version}", str(len(symbols)), *symbols, *references, *timelines, str(len(layers)),
             *flat(layers)]
-    (folder / f"{name}.kvf").write_bytes("".join(row + "\r\n" for row in rows).encode("cp932"))
+    (folder / f"{project or name}.kvf").write_bytes("".join(row + "\r\n" for row in rows).encode("cp932"))
 
 
 SVG = '<svg width="40" height="40"><rect width="40" height="40" fill="{}"/></svg>'
@@ -130,6 +131,17 @@ on (release, releaseOutside) { trace("release"); }
 def write_linkage():
     attach = 'attachMovie("ball", "b1", 1);\nb1._x = 60;\nattachMovie("ball", "b2", 2);\nb2._y = 60;\ntrace(b1._width);'
     write("attach-swf5", 5, [picture(1, RED), sprite(2, "玉", link="ball")], [], [[layer(1, [key(1, 1, 0, 0)])]], [frame_actions((1, attach))])
+
+
+def write_imports():
+    """A sprite that comes from another movie, which lies beside the one that shows it: placed and attached."""
+    body = [layer(1, [key(1, 1, 0, 0)])]
+    link = f"1,,{LINK},,,ExportTop,ball,library.swf,40,40,{SPRITE},{sprite(2, '玉').split(',', 6)[6]}"
+    attach = 'attachMovie("ball", "b", 9);\nb._x = 120;\nb._y = 20;\ntrace(b._width);'
+    for version in (6, 8):
+        name = f"import-swf{version}"
+        write(name, version, [picture(1, RED), sprite(2, "玉", link="ball")], [], [body], [], project="library")
+        write(name, version, [link], [], [], [clip(1, [key(1, 9, 30, 20)]), frame_actions((5, attach))])
 
 
 def write_komas():
@@ -202,6 +214,7 @@ if __name__ == "__main__":
     write_buttons()
     write_clips()
     write_linkage()
+    write_imports()
     write_komas()
     write_grids()
     write_classes()

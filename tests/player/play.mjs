@@ -72,6 +72,11 @@ async function checkRunner(stage, output) {
 async function checkCase(stage, tamber, name, output) {
   const folder = path.join(casesFolder, name);
   const description = JSON.parse(readFileSync(path.join(folder, 'case.json'), 'utf8'));
+  stage.besideFolder = path.join(output, `${name}-beside`);
+  stage.served.clear();
+  mkdirSync(stage.besideFolder, { recursive: true });
+  for (const project of description.beside ?? [])
+    generate(tamber, { project }, folder, path.join(stage.besideFolder, `${path.parse(project).name}.swf`));
   const movie = generate(tamber, description, folder, path.join(output, `${name}.swf`));
   return [...headerDifferences(movie, description), ...await look(stage, movie, description, path.join(output, name))];
 }

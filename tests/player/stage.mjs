@@ -26,13 +26,20 @@ function findBrowser() {
   return found;
 }
 
-function serve(playerFolder, pageFolder) {
+/** What the pages of a stage ask for: its page, the player's files, pages of its page folder, movies beside the one shown. */
+function fileOf(stage, playerFolder, name) {
+  if (name.startsWith('/page/')) return path.join(stage.pageFolder, name.slice(6));
+  return path.join(name.endsWith('.swf') ? stage.besideFolder : playerFolder, path.basename(name));
+}
+
+function serve(stage, playerFolder) {
   const server = createServer(async (request, response) => {
     const name = decodeURIComponent(new URL(request.url, 'http://localhost').pathname);
     if (name === '/') return response.writeHead(200, { 'content-type': 'text/html' }).end(html);
     try {
-      const file = name.startsWith('/page/') ? path.join(pageFolder, name.slice(6)) : path.join(playerFolder, path.basename(name));
+      const file = fileOf(stage, playerFolder, name);
       const body = await readFile(file);
+      response.on('finish', () => stage.served.add(path.basename(file)));
       response.writeHead(200, { 'content-type': types[path.extname(file)] ?? 'application/octet-stream' }).end(body);
     } catch {
       response.writeHead(404).end();
@@ -48,7 +55,9 @@ export class Stage {
     const { chromium } = require('playwright-core');
     const stage = new Stage();
     stage.pageFolder = path.join(modules, 'page');
-    stage.server = await serve(path.join(modules, 'node_modules', '@ruffle-rs', 'ruffle'), stage.pageFolder);
+    stage.besideFolder = stage.pageFolder;
+    stage.served = new Set();
+    stage.server = await serve(stage, path.join(modules, 'node_modules', '@ruffle-rs', 'ruffle'));
     stage.browser = await chromium.launch({ executablePath: findBrowser(), args: flags });
     stage.page = await stage.browser.newPage({ deviceScaleFactor: 1 });
     await stage.page.addInitScript({ path: path.join(here, 'page.js') });
@@ -72,14 +81,21 @@ export class Stage {
   }
 
   /** What a person does before the next frame, in this order of kinds: moves the mouse, presses its button, lets it go,
-   * clicks on the stage, presses a key by its name, types. */
-  async act({ move, down, up, click, press, type }) {
+   * clicks on the stage, presses a key by its name, types, waits until the player has got a file from beside the movie. */
+  async act({ move, down, up, click, press, type, got }) {
     if (move) await this.page.mouse.move(move.x, move.y);
     if (down) await this.page.mouse.down();
     if (up) await this.page.mouse.up();
     if (click) await this.page.mouse.click(click.x, click.y);
     if (press) await this.page.keyboard.press(press);
     if (type) await this.page.keyboard.type(type);
+    if (got) await this.waitFor(got);
+  }
+
+  async waitFor(file) {
+    for (const end = Date.now() + 20000; !this.served.has(file); await new Promise((done) => setTimeout(done, 50)))
+      if (Date.now() > end) throw new Error(`the player did not ask for ${file} in 20 s`);
+    await this.page.waitForTimeout(500);
   }
 
   /** The texts that the movie's scripts traced since the last call. */
