@@ -90,6 +90,9 @@ public:
 
     explicit frmMain(std::shared_ptr<MainView> view = std::make_shared<MainView>())
         : view_(std::move(view)) {}
+    ~frmMain();
+    frmMain(const frmMain&) = delete;
+    frmMain& operator=(const frmMain&) = delete;
 
     const std::shared_ptr<Collection<clsSymbolData>>& colSymbol() const {
         return inProject.colSymbol;

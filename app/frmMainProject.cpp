@@ -3,6 +3,7 @@
 #include "app/AssetReader.h"
 #include "app/frmMain.h"
 #include "app/mdlPrivateProfile.h"
+#include "document/ProjectRelease.h"
 #include "document/ProjectWriter.h"
 #include "document/SymbolKinds.h"
 #include "document/SymbolTimeline.h"
@@ -81,8 +82,7 @@ bool frmMain::mnuNew() {
     if (!Guard()) return false;
     ProjectFileName.clear();
     ProjectDir.clear();
-    inProject.colSymbol = std::make_shared<Collection<clsSymbolData>>();
-    inProject.colMainLayer = std::make_shared<Collection<clsLayer>>();
+    ReleaseProject(inProject, cUndoRedo);
     inProject.Html.reset();
     AddBackgroundLayer();
     ShowProject();
@@ -102,7 +102,10 @@ bool frmMain::OpenProject(StringView path) {
         ShowMessage(chosen + u"\r\n\r\nファイルが見つかりません。");
         return false;
     }
-    if (!LoadProject(chosen, inProject, AssetReader())) return false;
+    Project opened = inProject;
+    if (!LoadProject(chosen, opened, AssetReader())) return false;
+    ReleaseProject(inProject, cUndoRedo);
+    inProject = std::move(opened);
     ProjectFileName = chosen;
     ProjectDir = GetFileFolder(chosen);
     ShowProject();

@@ -121,6 +121,24 @@ void clsUndoRedo::Keep(std::shared_ptr<const RemovedSymbols> symbols) {
     if (!states_.empty()) Present().Kept.push_back(std::move(symbols));
 }
 
+RemovedSymbols clsUndoRedo::Release() {
+    if (pending_) states_.push_back(std::move(*pending_));
+    RemovedSymbols held;
+    const auto hold = [&held](const LayerSnapshot& layers) {
+        for (const auto& layer : layers) held.push_back(layer->SymbolData());
+    };
+    for (const clsUndoRedoData& state : states_) {
+        held.push_back(state.inSprite);
+        hold(state.colEditLayer);
+        if (state.Before) hold(*state.Before);
+        for (const auto& kept : state.Kept) held.insert(held.end(), kept->begin(), kept->end());
+    }
+    states_.clear();
+    pending_.reset();
+    position_ = 1;
+    return held;
+}
+
 std::shared_ptr<clsSymbolData> clsUndoRedo::TimelineOwner(const clsUndoRedoData& state) const {
     return state.inSprite ? state.inSprite : Owner.lock();
 }
