@@ -306,8 +306,10 @@ private:
     void FramesChanged();
     /// What a change of rows ends with.
     void RowsChanged();
-    /// A sprite that would show itself, which is told.
+    /// A sprite that would show itself in the edited timeline, which is told.
     bool ShowsItself(const clsSymbolData& symbol) const;
+    /// Takes the rows out that a sprite cannot have, since their symbols came to show it; told.
+    static void RemoveLoops(Collection<clsLayer>& layers, const clsSymbolData& owner);
     bool InLibrary(const clsSymbolData& symbol) const;
     /// Puts rows into the edited timeline and selects them.
     void InsertLayers(const RowPlace& place, const Collection<clsLayer>& rows);

@@ -275,6 +275,7 @@ void frmMain::mnuUndoRedo(Long index) {
     if (!restored) return;
     history.Tag.clear();
     if (colSymbol()->Count() != symbols) SymbolsReturned(symbols + 1);
+    if (restored->inSprite) RemoveLoops(*restored->colEditLayer, *restored->inSprite);
     if (restored->colMainLayer) inProject.colMainLayer = restored->colMainLayer;
     if (!restored->inSprite) inProject.colMainLayer = restored->colEditLayer;
     const Long timeline = restored->inSprite ? restored->inSprite->Index : EditMain;
