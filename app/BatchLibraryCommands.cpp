@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "app/BatchCommand.h"
+#include "app/SymbolFields.h"
 #include "document/clsPropertyButton.h"
 #include "document/clsPropertyClass.h"
 #include "document/clsPropertyKoma.h"
@@ -188,8 +189,15 @@ bool Reload(BatchContext& context, const BatchArguments& arguments) {
     return SelectRows(context, arguments) && context.Controller.mnuSymbolReLoad();
 }
 
+bool ChangeProperty(BatchContext& context, const BatchArguments& arguments) {
+    const StringView value = arguments.size() > 1 ? StringView(arguments[1]) : StringView();
+    return context.Controller.ChangeSymbol([&arguments, value](clsSymbolData& symbol) {
+        return SetSymbolField(symbol, arguments[0], value);
+    });
+}
+
 constexpr BatchCommand Commands[]{
-    {u"SelectSymbols", u"FROM TO", 2, 2, Select},
+    {u"SelectSymbols", u"FROM [TO]", 1, 2, Select},
     {u"mnuAddSymbolItem_File", u"PATH...", 1, BatchCommand::AnyNumber, AddFiles},
     {u"mnuAddSymbolItem_Sprite", u"[NAME [WIDTH HEIGHT]]", 0, 3, AddSprite},
     {u"mnuAddSymbolItem_Button", u"NAME UP [OVER [DOWN [HIT]]]", 2, 5, AddButton},
@@ -207,6 +215,7 @@ constexpr BatchCommand Commands[]{
     {u"mnuSortSymbolSelType", u"[asc|desc]", 0, 1, Sort<&frmMain::mnuSortSymbolSelType>},
     {u"MoveSymbols", u"FROM TO ROW [into] [after]", 3, 5, Move},
     {u"mnuSymbolReLoad", u"FROM TO", 2, 2, Reload},
+    {u"Symbol", u"FIELD [VALUE]", 1, 2, ChangeProperty},
 };
 
 }  // namespace

@@ -208,6 +208,9 @@ public:
     /// Reads the files of the selected rows again. False when one cannot be read, which is told;
     /// its symbol stays as it was.
     bool mnuSymbolReLoad();
+    /// Changes properties of the first selected symbol, whose file is read again. False when none
+    /// is selected, when `edit` refuses, or for a file that cannot be read, which is told.
+    bool ChangeSymbol(const EditSymbolData& edit);
 
     /// Selects rows of the edited timeline; numbers beyond them give the nearest row.
     void ChangeSelectIndex(Long row1, Long row2);

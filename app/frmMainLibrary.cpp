@@ -380,4 +380,16 @@ bool frmMain::mnuSymbolReLoad() {
     return all;
 }
 
+bool frmMain::ChangeSymbol(const EditSymbolData& edit) {
+    const SymbolRange range = SelectedSymbols();
+    if (range.Count() < 1) return false;
+    clsSymbolData& symbol = *(*colSymbol())(range.First);
+    if (!edit(symbol)) return false;
+    LibraryChanged();
+    if (symbol.eType() == KindText) AssetReader().SetTextSize(symbol);
+    if (symbol.FilePathName.empty()) return true;
+    SelectSymbols(range.First, range.First);
+    return mnuSymbolReLoad();
+}
+
 }  // namespace tamber
