@@ -5,11 +5,13 @@
 #include "app/SymbolFromFile.h"
 #include "app/frmMain.h"
 #include "app/mdlPrivateProfile.h"
+#include "document/ClassNames.h"
 #include "document/SymbolFiles.h"
 #include "document/SymbolTimeline.h"
 #include "document/SymbolUses.h"
 #include "document/TimelineLength.h"
 #include "document/clsPropertyButton.h"
+#include "document/clsPropertyClass.h"
 #include "document/clsPropertyKoma.h"
 #include "document/clsPropertyMovieEmp.h"
 #include "document/clsPropertySprite.h"
@@ -17,6 +19,7 @@
 #include "document/clsPropertyText.h"
 #include "platform/UserInterface.h"
 #include "platform/paths.h"
+#include "platform/text.h"
 
 // The commands on the rows of the library.
 
@@ -33,6 +36,15 @@ void TellRepeatedIds() {
 /// Where a row is once others, given from the first on, are gone.
 Long RowWithout(Long row, const std::vector<Long>& gone) {
     return row - static_cast<Long>(std::lower_bound(gone.begin(), gone.end(), row) - gone.begin());
+}
+
+/// Takes the name that a class was given. False, with the reason told, when it cannot have it.
+bool TakeClassName(const Collection<clsSymbolData>& library, const clsSymbolData& symbol) {
+    String& name = symbol.Property<clsPropertyClass>()->className;
+    name = Trim(name);
+    const String fault = ClassNameFault(name, OtherClassNames(library, symbol));
+    if (!fault.empty()) ShowMessage(fault, ProgramTitle, MessageIcon::Warning);
+    return fault.empty();
 }
 
 /// Works out again what comes from other symbols' files.
@@ -162,7 +174,9 @@ bool frmMain::mnuAddSymbolItem_Link(const EditSymbolData& edit) {
 }
 
 bool frmMain::mnuAddSymbolItem_Class(const EditSymbolData& edit) {
-    return AddNewSymbol(NewSymbol(KindClass, u""), edit);
+    return AddNewSymbol(NewSymbol(KindClass, u""), [&](clsSymbolData& symbol) {
+        return edit(symbol) && TakeClassName(*colSymbol(), symbol);
+    });
 }
 
 bool frmMain::mnuAddSymbolItem_Folder() {

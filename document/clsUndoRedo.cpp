@@ -65,8 +65,12 @@ const LayerSnapshot& clsUndoRedo::LatestOf(const std::shared_ptr<clsSymbolData>&
     return none;
 }
 
-void clsUndoRedo::Complete(clsUndoRedoData& data, const Collection<clsLayer>& layers) const {
+void clsUndoRedo::ForgetOwner(clsUndoRedoData& data) const {
     if (data.inSprite == Owner.lock()) data.inSprite.reset();
+}
+
+void clsUndoRedo::Complete(clsUndoRedoData& data, const Collection<clsLayer>& layers) const {
+    ForgetOwner(data);
     data.colEditLayer = TakeLayerSnapshot(layers, LatestOf(data.inSprite));
 }
 
@@ -101,7 +105,7 @@ void clsUndoRedo::TakePending(clsUndoRedoData& data) {
     if (pending_->inSprite != data.inSprite) {
         Push(std::move(*pending_));
         ++TotalHistory;
-    } else if (states_.empty() || states_.front().inSprite != data.inSprite) {
+    } else {
         data.Before = std::move(pending_->colEditLayer);
     }
     pending_.reset();
@@ -112,7 +116,11 @@ void clsUndoRedo::Push(clsUndoRedoData data) {
     while (states_.size() > Limit()) states_.pop_back();
 }
 
+/// Where the present state is of the same timeline, it is the one to come back to.
 void clsUndoRedo::SetUndoRedoData(clsUndoRedoData data, const Collection<clsLayer>& layers) {
+    pending_.reset();
+    ForgetOwner(data);
+    if (!states_.empty() && Present().inSprite == data.inSprite) return;
     Complete(data, layers);
     pending_ = std::move(data);
 }

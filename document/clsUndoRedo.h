@@ -88,6 +88,7 @@ private:
     const LayerSnapshot& LatestOf(const std::shared_ptr<clsSymbolData>& sprite) const;
     Restored Restore(Collection<clsSymbolData>& library, const clsUndoRedoData& left);
     void Push(clsUndoRedoData data);
+    void ForgetOwner(clsUndoRedoData& data) const;
     void Complete(clsUndoRedoData& data, const Collection<clsLayer>& layers) const;
     void DropRedone();
     void TakePending(clsUndoRedoData& data);

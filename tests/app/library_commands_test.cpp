@@ -29,6 +29,13 @@ bool Accept(clsSymbolData&) {
     return true;
 }
 
+frmMain::EditSymbolData Class(StringView name) {
+    return [name](clsSymbolData& symbol) {
+        symbol.Property<clsPropertyClass>()->className = name;
+        return true;
+    };
+}
+
 /// A BMP file of one pixel of 24 bits, or of two beside each other.
 Bytes BitmapFile(Byte width) {
     Bytes file(54 + (width == 1 ? 4u : 8u));
@@ -94,7 +101,7 @@ TEST_F(LibraryCommands, new_symbols_have_numbers_names_and_sizes) {
     EXPECT_EQ(Symbol(4)->Value(), u"コマ動画1");
     EXPECT_EQ(Symbol(5)->Value(), u"空動画1");
     // Classes and folders have no number.
-    EXPECT_TRUE(main_.mnuAddSymbolItem_Class(Accept));
+    EXPECT_TRUE(main_.mnuAddSymbolItem_Class(Class(u"A")));
     EXPECT_TRUE(main_.mnuAddSymbolItem_Folder());
     EXPECT_TRUE(main_.mnuAddSymbolItem_Link(Accept));
     EXPECT_EQ(Symbol(6)->ID, -5);
@@ -111,6 +118,17 @@ TEST_F(LibraryCommands, new_symbols_have_numbers_names_and_sizes) {
     main_.ChangeSprite(1);
     main_.mnuAddSymbolItem_Sprite(Accept);
     EXPECT_EQ(Symbol(9)->PixelWidth(), 50);
+}
+
+TEST_F(LibraryCommands, classes_have_names_of_their_own) {
+    EXPECT_FALSE(main_.mnuAddSymbolItem_Class(Accept));
+    EXPECT_TRUE(main_.mnuAddSymbolItem_Class(Class(u" a.B ")));
+    EXPECT_FALSE(main_.mnuAddSymbolItem_Class(Class(u"a.B")));
+    ASSERT_EQ(main_.colSymbol()->Count(), 1);
+    EXPECT_EQ(Symbol(1)->Value(), u"a.B");
+    ASSERT_EQ(interface_.Messages.size(), 2u);
+    EXPECT_EQ(interface_.Messages[0].Text, u"クラス名を設定して下さい。");
+    EXPECT_EQ(interface_.Messages[1].Text, u"クラス名[a.B]は既に使用されています。");
 }
 
 TEST_F(LibraryCommands, a_number_that_is_taken_is_told_and_replaced) {
