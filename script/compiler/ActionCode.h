@@ -29,9 +29,8 @@ enum class ItemKind : Byte {
     With,
     WithEnd,
     Try,
-    /// Ends of the three blocks of a Try, each there even when it is empty.
+    /// Ends of the two blocks of a Try.
     TryBodyEnd,
-    HandlerEnd,
     TryEnd,
     StoreRegister,
     GotoFrame,
@@ -66,10 +65,9 @@ public:
         std::uint16_t Flags = 0;
     };
     struct TryRecord {
+        /// Of the variable for what was thrown; null for register 0.
         const Symbol* Name = nullptr;
         std::uint32_t Line = 0;
-        bool HasHandler = false;
-        bool HasLast = false;
     };
     struct UrlRecord {
         const Symbol* Url;
@@ -108,7 +106,7 @@ public:
     void BeginWith(std::uint32_t line);
     void EndWith();
     void BeginTry(const TryRecord& record);
-    /// Ends the body, the handler or the last block.
+    /// Ends the body or the handler.
     void EndTryBlock(ItemKind end);
 
     bool IsReachable() const { return isReachable_; }

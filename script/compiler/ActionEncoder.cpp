@@ -16,7 +16,7 @@ constexpr std::size_t MaxConstants = 65535;
 constexpr std::size_t ShortConstants = 256;
 constexpr std::size_t RecordHeader = 3;
 constexpr std::uint32_t HasHandlerFlag = 1;
-constexpr std::uint32_t HasLastFlag = 2;
+constexpr std::uint32_t InRegisterFlag = 4;
 
 /// Bytes that a constant saves beside its text in each push.
 std::int64_t SavingOf(const Symbol& symbol, bool isShort) {
@@ -114,7 +114,6 @@ void ActionEncoder::WriteItem(const ActionCode& code, ItemKind kind, std::uint32
         case ItemKind::TryEnd:
             return EndBlock(true);
         case ItemKind::TryBodyEnd:
-        case ItemKind::HandlerEnd:
             return EndBlock(false);
         case ItemKind::StoreRegister:
             return WriteShort(Opcode::StoreRegister, operand, 1);
@@ -297,17 +296,22 @@ void ActionEncoder::WriteFunction(const ActionCode& code,
     BeginBlock(bytes_.size() - 2, function.Line);
 }
 
-/// Three lengths stand in front of the blocks; each block opens where the one before it ends.
+/// Three lengths stand in front of the blocks; each block opens where the one before it ends. The
+/// third, of what always runs, is not used.
 void ActionEncoder::WriteTry(const ActionCode::TryRecord& record) {
-    const std::string_view name = record.Name == nullptr ? std::string_view() : record.Name->Text;
+    const bool isInRegister = record.Name == nullptr;
+    const std::size_t nameSize = isInRegister ? 1 : record.Name->Text.size() + 1;
     U8(static_cast<Byte>(Opcode::Try));
-    U16(static_cast<std::uint32_t>(7 + name.size() + 1));
-    U8((record.HasHandler ? HasHandlerFlag : 0) | (record.HasLast ? HasLastFlag : 0));
+    U16(static_cast<std::uint32_t>(7 + nameSize));
+    U8(HasHandlerFlag | (isInRegister ? InRegisterFlag : 0));
     const std::size_t lengths = bytes_.size();
     U16(0);
     U16(0);
     U16(0);
-    Chars(name);
+    if (isInRegister)
+        U8(0);
+    else
+        Chars(record.Name->Text);
     BeginBlock(lengths, record.Line);
 }
 

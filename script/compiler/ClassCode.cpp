@@ -42,12 +42,15 @@ const Node* CodeGenerator::Kept(const Node& name) {
     return &kept;
 }
 
+/// Empty for what is no name.
 std::string CodeGenerator::DottedPath(const Node& node) const {
-    std::string path;
+    std::vector<const Symbol*> members;
     const Node* part = &node;
-    for (; part->Kind == NodeKind::Member; part = part->A)
-        path = "." + std::string(part->Name->Text) + path;
-    return part->Kind == NodeKind::Name ? std::string(part->Name->Text) + path : std::string();
+    for (; part->Kind == NodeKind::Member; part = part->A) members.push_back(part->Name);
+    if (part->Kind != NodeKind::Name && part->Kind != NodeKind::This) return {};
+    std::string path(part->Kind == NodeKind::This ? "this" : part->Name->Text);
+    for (; !members.empty(); members.pop_back()) (path += '.') += members.back()->Text;
+    return path;
 }
 
 /// if (!_global.a.b) _global.a.b = new Object();, from the outermost on.

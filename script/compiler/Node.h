@@ -118,7 +118,8 @@ enum class Operator : Byte {
 /// | Switch | value, first case | |
 /// | Case | value (null: default), first statement | |
 /// | With, TellTarget, IfFrameLoaded | object or frame, body | With: Count, the jumps that leave it
-/// | | Try | body, handler, last | Name of the exception; Count as With |
+/// | | Try | body, handler, last | Name of the exception; Count: the jumps that leave body or
+/// handler |
 struct Node {
     /// Jumps that leave a With or Try, in its Count.
     static constexpr std::uint32_t EscapesByBreak = 1;

@@ -234,6 +234,23 @@ void CodeGenerator::ChangeComplex(const Place& place, const Node* value, Operato
     StoreWanted(place, isWanted);
 }
 
+/// What Store needs below the value that lies on the stack.
+void CodeGenerator::PushPlaceUnderValue(const Place& place) {
+    PushPlace(place);
+    if (place.Kind != PlaceKind::Member && place.Kind != PlaceKind::Index)
+        return code_->Emit(Opcode::StackSwap);
+    ChooseKeyRegisters();
+    for (const Byte number : {function_.Key, function_.Object}) {
+        code_->Emit(ItemKind::StoreRegister, number);
+        code_->Emit(Opcode::Pop);
+    }
+    code_->Emit(ItemKind::StoreRegister, 0);
+    code_->Emit(Opcode::Pop);
+    code_->PushRegister(function_.Object);
+    code_->PushRegister(function_.Key);
+    code_->PushRegister(0);
+}
+
 /// Registers that nothing else uses, behind the function's variables where it has its own. Nothing
 /// is worked out while they hold their values, so that one pair does for a function.
 void CodeGenerator::ChooseKeyRegisters() {
