@@ -41,6 +41,9 @@ enum class ItemKind : Byte {
     GetUrl2,
     WaitForFrame,
     WaitForFrame2,
+    /// What a call of a player's class makes of its argument on the stack: a cast, or a call where
+    /// the script, perhaps behind it, has a function of that name.
+    CastOrCall,
 };
 
 /// Code in the making: a list of items of 32 bits, the kind in the high 8, the operand in the rest.
@@ -88,6 +91,7 @@ public:
     void PushNumeric(Symbol* digits);
     void PushRegister(Byte number) { Emit(ItemKind::PushRegister, number); }
     void GetUrl(const Symbol* url, const Symbol* target);
+    void CastOrCall(Symbol* name);
 
     Label NewLabel(std::uint32_t line);
     /// The place that jumps made before lead to.

@@ -10,6 +10,7 @@ namespace tamber {
 namespace {
 
 constexpr Long FirstPoolVersion = 5;
+constexpr Long FirstCastVersion = 7;
 constexpr std::size_t MaxRecord = 65535;
 constexpr std::size_t MaxConstants = 65535;
 /// Constants that a push names with one byte.
@@ -131,6 +132,8 @@ void ActionEncoder::WriteItem(const ActionCode& code, ItemKind kind, std::uint32
             return WriteShort(Opcode::WaitForFrame2, 1, 1);
         case ItemKind::SetTarget:
             return WriteNamed(Opcode::SetTarget, symbols_.At(operand)->Text);
+        case ItemKind::CastOrCall:
+            return WriteCastOrCall(*symbols_.At(operand));
         case ItemKind::GotoLabel:
             return WriteNamed(Opcode::GotoLabel, symbols_.At(operand)->Text);
         default:
@@ -340,6 +343,21 @@ void ActionEncoder::WriteUrl(const ActionCode::UrlRecord& record) {
     U16(static_cast<std::uint32_t>(record.Url->Text.size() + record.Target->Text.size() + 2));
     Chars(record.Url->Text);
     Chars(record.Target->Text);
+}
+
+/// Version 7 checks what it casts; before, the value stays as it is.
+void ActionEncoder::WriteCastOrCall(const Symbol& name) {
+    if (name.IsOwn) {
+        WriteNumber(1);
+        WriteText(name);
+        ClosePush();
+        U8(static_cast<Byte>(Opcode::CallFunction));
+    } else if (version_ >= FirstCastVersion) {
+        WriteText(name);
+        ClosePush();
+        for (const Opcode action : {Opcode::GetVariable, Opcode::StackSwap, Opcode::CastOp})
+            U8(static_cast<Byte>(action));
+    }
 }
 
 void ActionEncoder::WriteShort(Opcode opcode, std::uint32_t operand, std::size_t size) {

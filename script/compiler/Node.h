@@ -217,6 +217,8 @@ struct ClassNode {
     Node* Base = nullptr;
     NodeList Interfaces;
     bool IsInterface = false;
+    /// Whether the player has it, so that no code is made of what tells of it.
+    bool IsIntrinsic = false;
     std::uint32_t Line = 0;
     Node* Constructor = nullptr;
     MemberNode* FirstMember = nullptr;

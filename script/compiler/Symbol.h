@@ -59,6 +59,8 @@ struct Symbol {
     /// First version whose players know the name, or 0.
     Byte NeededVersion = 0;
     const Builtin* BuiltinEntry = nullptr;
+    /// Whether the script gives a variable of the timeline that name.
+    bool IsOwn = false;
 
     /// Register that holds the variable in the function whose code is being made.
     Byte Register = NoRegister;

@@ -95,6 +95,15 @@ TEST(Diagnostics, AreNotRepeatedForOneFault) {
         "a();\nin b;",
         "switch (a) {\ncase 1: x = ;\ncase 2: y();\n}",
         "x = \"open\ny = 1;",
+        "class A {\nvar 5;\nvar b;\nfunction c() { }\n}",
+        "class A {\nfunction 5() { a(); }\nfunction b() { }\n}",
+        "class A {\npublic x() { a(); }\npublic function b() { }\n}",
+        "class A {\nwhile (a) { b(); }\nstatic var c;\n}",
+        "class A {\n{ a(); }\nvar c;\n}",
+        "class A {\n[Told(1;\nvar c;\n}",
+        "class A { private }",
+        "class A {\nvar b;\n",
+        "class A {\nfunction",
     };
     for (const std::string_view source : sources)
         EXPECT_EQ(Compiled(source, 7).Errors.size(), 1U) << source;
