@@ -172,6 +172,7 @@ private:
     void IncrementAfter(const Place& place, Operator op);
     bool IsSimplePlace(const Place& place) const;
     void ChooseKeyRegisters();
+    Symbol* PathText(const Node& node, std::string_view path);
     bool SlashPathOf(const Node& node, std::string& path) const;
 
     // Calls.

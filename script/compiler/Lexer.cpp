@@ -38,9 +38,6 @@ bool IsNameCharacter(char letter) {
     return ClassOf(letter) >= LetterClass;
 }
 
-/// Names and texts stand in records of 64 KB at most, with what else these hold.
-constexpr std::size_t MaxText = 65000;
-
 /// First character that UTF-16 has two halves for.
 constexpr std::uint32_t FirstWide = 0x10000;
 
@@ -307,8 +304,8 @@ bool Lexer::ReadSlashPath(Token& token, PathForm form) {
 }
 
 void Lexer::CheckLength(const Token& token) {
-    if (token.Text.size() > MaxText)
-        diagnostics_.Error(token.Line, token.Text, u"名前や文字列が長すぎます。64KB までです。");
+    if (token.Text.size() > Symbol::MaxText)
+        diagnostics_.Error(token.Line, token.Text, String(Symbol::TooLong));
 }
 
 Token Lexer::ReadNumber(Token token) {

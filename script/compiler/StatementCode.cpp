@@ -202,7 +202,7 @@ void CodeGenerator::EnumerateObject(const Node& object) {
     }
     const std::string path = DottedPath(object);
     if (!path.empty()) {
-        Text(path);
+        code_->PushText(PathText(object, path));
         return code_->Emit(Opcode::Enumerate);
     }
     const auto pushOwner = [this] {
@@ -336,7 +336,7 @@ void CodeGenerator::SetTarget(const Node& target) {
     if (target.Kind == NodeKind::Text || target.Kind == NodeKind::SlashPath) {
         code_->Emit(ItemKind::SetTarget, target.Name->Index);
     } else if (version_ < 5 && target.Kind == NodeKind::Member && SlashPathOf(target, path)) {
-        code_->Emit(ItemKind::SetTarget, symbols_.InternCopy(path)->Index);
+        code_->Emit(ItemKind::SetTarget, PathText(target, path)->Index);
     } else {
         Expression(target);
         code_->Emit(Opcode::SetTarget2);

@@ -197,6 +197,21 @@ TEST(Diagnostics, StandForTextsThatNoCodeCanHold) {
             EXPECT_FALSE(Compiled(source, version).IsCompiled()) << source.substr(0, 20);
 }
 
+TEST(Diagnostics, TellOfNamesWithDotsThatMakeTooLongAPath) {
+    const std::string part(40000, 'n');
+    const std::string path = "a." + part + "." + part;
+    const std::pair<Long, std::string> sources[] = {
+        {4, path + ".x = 1;"},
+        {4, path + "._x = 1;"},
+        {4, "tellTarget (" + path + ") play();"},
+        {4, path + ".play();"},
+        {5, "for (k in " + path + ") x();"},
+    };
+    for (const auto& [version, source] : sources)
+        EXPECT_FALSE(Compiled(source, version).IsCompiled()) << source.substr(0, 20);
+    EXPECT_TRUE(Compiled("for (k in " + path + ") x();", 6).IsCompiled());
+}
+
 TEST(Diagnostics, AreNotNeededForLongChains) {
     constexpr std::size_t Many = 100000;
     const std::string sources[] = {
