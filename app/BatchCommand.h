@@ -38,6 +38,8 @@ struct BatchCommand {
 
 /// Projects, which timeline is edited, undo, movies, and the state as JSON.
 std::span<const BatchCommand> BatchProjectCommands();
+/// Rows of the library.
+std::span<const BatchCommand> BatchLibraryCommands();
 /// Rows, key frames and what they show.
 std::span<const BatchCommand> BatchTimelineCommands();
 

@@ -13,8 +13,8 @@ namespace tamber {
 namespace {
 
 const std::vector<std::span<const BatchCommand>>& Groups() {
-    static const std::vector<std::span<const BatchCommand>> groups{BatchProjectCommands(),
-                                                                   BatchTimelineCommands()};
+    static const std::vector<std::span<const BatchCommand>> groups{
+        BatchProjectCommands(), BatchLibraryCommands(), BatchTimelineCommands()};
     return groups;
 }
 

@@ -1,47 +1,17 @@
 #include "app/KeyFrameFields.h"
 
-#include <algorithm>
-
 #include "app/CellNames.h"
-#include "document/ProjectFileVersion.h"
-#include "document/clsCSV.h"
+#include "app/RecordCells.h"
 #include "document/clsLayerFolder.h"
 #include "document/clsLayerObjElement.h"
 #include "document/clsObjSprite.h"
 #include "document/clsObjText.h"
 #include "document/clsObjVector.h"
-#include "platform/codepage.h"
 #include "platform/text.h"
 
 namespace tamber {
 
 namespace {
-
-/// Place of a name in a list separated by commas, -1 when it is not there.
-Long ColumnOf(std::string_view names, std::string_view name) {
-    for (Long column = 0; !names.empty(); ++column) {
-        const std::size_t end = std::min(names.find(','), names.size());
-        if (names.substr(0, end) == name) return column;
-        names.remove_prefix(std::min(end + 1, names.size()));
-    }
-    return -1;
-}
-
-/// Reads a record from its own cells, one of them replaced. False when no cell has the name.
-template <class Record>
-bool SetCell(Record& record, std::string_view names, StringView field, StringView value) {
-    const Long column = ColumnOf(names, ToNarrow(field));
-    if (column < 0) return false;
-    clsCSV cells;
-    record.Save(cells);
-    cells.SetValue(String(value), column, 0);
-    cells.SetPosition(0, 0);
-    const ProjectFileVersionScope newest(NewestProjectFileVersion);
-    Record changed;
-    changed.Load(cells);
-    record = changed;
-    return true;
-}
 
 template <auto Member>
 bool SetSingle(clsLayerObjElement& placement, StringView value) {
@@ -126,16 +96,11 @@ bool SetOwnField(clsLayerObject& object, StringView field, StringView value) {
 /// An element of label, action, sound or background.
 bool SetElementCell(clsLayerObject& object, StringView field, StringView value) {
     const Long kind = object.SymbolType();
-    const Long column = ColumnOf(ElementCellNames(kind), ToNarrow(field));
-    // The counts of a folder follow its rows.
-    if (column < 0 || kind == KindLayerFolder) return false;
-    clsCSV cells;
-    object.Object->Save(cells);
-    cells.SetValue(String(value), column, 0);
-    cells.SetPosition(0, 0);
-    const ProjectFileVersionScope newest(NewestProjectFileVersion);
     const auto changed = MakeElement(kind);
-    changed->Load(cells);
+    // The counts of a folder follow its rows.
+    if (kind == KindLayerFolder ||
+        !LoadWithCell(*object.Object, *changed, ElementCellNames(kind), field, value))
+        return false;
     object.Object = changed;
     return true;
 }

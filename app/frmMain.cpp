@@ -8,6 +8,7 @@
 #include "app/MoviePageWriter.h"
 #include "app/mdlPrivateProfile.h"
 #include "document/AppVersion.h"
+#include "document/ProjectRelease.h"
 #include "document/ProjectWriter.h"
 #include "document/SymbolKinds.h"
 #include "document/clsLayer.h"
@@ -71,6 +72,10 @@ EditContext frmMain::CurrentEditContext() const {
     return {symbol.Value() + u" (ID：" + ToText(symbol.ID) + u")", ColorLong(255, 192, 192)};
 }
 
+frmMain::~frmMain() {
+    ReleaseProject(inProject, cUndoRedo);
+}
+
 void frmMain::LogStep(StringView step) {
     startLog_.append(step).append(u"完了").append(vbCrLf);
 }
@@ -96,9 +101,8 @@ void frmMain::Form_Load() {
 void frmMain::Form_Unload() {
     blHotKeyEnable = false;
     editLayers_.reset();
+    ReleaseProject(inProject, cUndoRedo);
     cUndoRedo = clsUndoRedo();
-    ClearCollection(*inProject.colMainLayer);
-    ClearCollection(*inProject.colSymbol);
 }
 
 void frmMain::AddBackgroundLayer() {

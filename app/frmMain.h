@@ -8,6 +8,9 @@
 #include "canvas/LayerClipboard.h"
 #include "canvas/RowRange.h"
 #include "document/Project.h"
+#include "document/SymbolIdEdit.h"
+#include "document/SymbolLibrary.h"
+#include "document/SymbolSort.h"
 #include "document/clsUndoRedo.h"
 #include "output/ProjectImport.h"
 #include "platform/RuntimeError.h"
@@ -23,6 +26,8 @@ public:
     virtual void DispEditTimeLine() {}
     virtual void ShowEditFrame() {}
     virtual void RefreshFgrdSymbol() {}
+    /// A symbol came to the library's end.
+    virtual void AppendSymbol(const clsSymbolData& symbol) { (void)symbol; }
     virtual void SetCanvasSize(Long width, Long height) {
         (void)width;
         (void)height;
@@ -56,6 +61,8 @@ class frmMain {
 public:
     /// The main timeline is edited, and no symbol's.
     static constexpr Long EditMain = -1;
+    /// Behind the last row of the library.
+    static constexpr Long AtEnd = -1;
 
     Project inProject;
     Long editIndex = EditMain;
@@ -83,6 +90,9 @@ public:
 
     explicit frmMain(std::shared_ptr<MainView> view = std::make_shared<MainView>())
         : view_(std::move(view)) {}
+    ~frmMain();
+    frmMain(const frmMain&) = delete;
+    frmMain& operator=(const frmMain&) = delete;
 
     const std::shared_ptr<Collection<clsSymbolData>>& colSymbol() const {
         return inProject.colSymbol;
@@ -132,6 +142,75 @@ public:
     void SetLayers(Long index, Long row, Long col);
     /// Switches to a timeline, the first row selected; 0 only shows the present one again.
     void ChangeSprite(Long index);
+
+    /// Size in pixels of what the canvas shows: the stage, or the edited sprite.
+    Long CanvasWidth() const;
+    Long CanvasHeight() const;
+
+    /// Selects rows of the library; numbers beyond them give the nearest row. None is selected when
+    /// both are below 1.
+    void SelectSymbols(Long row1, Long row2);
+    /// The smallest positive number that no symbol has.
+    Long GetSymbolID() const;
+    /// No symbol but the one at `index` has this number.
+    bool CheckID(Long id, Long index) const;
+    /// The default name of a new symbol: `prefix` and a number.
+    String GetSymbolDefName(Long kind, StringView prefix) const;
+    /// Puts a symbol into the library, in the place of the row `index`, or at its end.
+    void AddSymbol(const std::shared_ptr<clsSymbolData>& symbol, Long index = AtEnd);
+    /// Takes a row out of the library, a folder with all that is in it; with `withUses` the layers
+    /// that show what goes out are removed too, a step for each timeline.
+    void RemoveSymbolData(Long index, bool withUses);
+    /// As `RemoveSymbolData` with the uses.
+    void RemoveSymbolAndUses(Long index);
+    /// Removes the layers that show a symbol of this number; the selected rows follow. False when
+    /// there is none. No step is recorded.
+    bool RemoveLayersOfSymbol(Collection<clsLayer>& layers, Long id);
+    /// Numbers the library's rows, finds their folders and shows them. The edited timeline stays
+    /// the edited one, or is the main one when its symbol is gone.
+    void RefreshFgrdSymbol();
+
+    /// Lets a person give a new symbol its properties. False when they would rather not have it.
+    using EditSymbolData = std::function<bool(clsSymbolData& symbol)>;
+    /// New symbols before the selected row, or at the library's end when none is selected. False
+    /// when `edit` refuses. A number that is taken is told, and a free one given.
+    bool mnuAddSymbolItem_Sprite(const EditSymbolData& edit);
+    bool mnuAddSymbolItem_Button(const EditSymbolData& edit);
+    bool mnuAddSymbolItem_Koma(const EditSymbolData& edit);
+    bool mnuAddSymbolItem_MovieEmp(const EditSymbolData& edit);
+    bool mnuAddSymbolItem_Link(const EditSymbolData& edit);
+    bool mnuAddSymbolItem_Class(const EditSymbolData& edit);
+    /// Asks for the folder's name.
+    bool mnuAddSymbolItem_Folder();
+    bool mnuAddSymbolItem_Folder(StringView name);
+    /// Asks for a file to make a symbol of.
+    bool mnuAddSymbolItem_File();
+    /// False when one of the files could not be added, which was told; the others are.
+    bool mnuAddSymbolItem_File(const std::vector<String>& paths);
+    bool AddSymbolItem_File(StringView path);
+
+    /// Removes the selected rows of the library, with the layers that show them and with what
+    /// cannot stay without them; other references to them are cleared.
+    void mnuRemoveSymbolItem();
+    /// Lets a person choose new numbers. False when they would rather not.
+    using ChooseIds = std::function<bool(SymbolIdEdit& edit)>;
+    /// Numbers the selected rows of the library. False when nothing was changed.
+    bool mnuSymbolIDEdit(const ChooseIds& choose);
+    void mnuSortSymbolID(bool descending);
+    void mnuSortSymbolType(bool descending);
+    void mnuSortSymbolFolder();
+    void mnuSortSymbolSelID(bool descending);
+    void mnuSortSymbolSelType(bool descending);
+    /// Moves rows of the library, folders whole, before the row `target`, or behind it with
+    /// `after`, or with `inFolder` into a folder that it is. A row beyond the last one stands for
+    /// the end. False when it is one of the moved rows.
+    bool MoveSymbols(Long first, Long last, Long target, bool inFolder, bool after);
+    /// Reads the files of the selected rows again. False when one cannot be read, which is told;
+    /// its symbol stays as it was.
+    bool mnuSymbolReLoad();
+    /// Changes properties of the first selected symbol, whose file is read again. False when none
+    /// is selected, when `edit` refuses, or for a file that cannot be read, which is told.
+    bool ChangeSymbol(const EditSymbolData& edit);
 
     /// Selects rows of the edited timeline; numbers beyond them give the nearest row.
     void ChangeSelectIndex(Long row1, Long row2);
@@ -187,7 +266,10 @@ public:
 
     /// Records the edited timeline. A tag that the last step had too joins the two.
     void AddUndoRedoData(UndoStep type, StringView tag = {});
-    /// Records a timeline of a symbol in a history, which is made when there is none.
+    /// Records a timeline, of a symbol or the main one, in a history.
+    static void AddUndoRedoData2(clsUndoRedo& history, const Collection<clsLayer>& layers,
+                                 const std::shared_ptr<clsSymbolData>& symbol, UndoStep type);
+    /// The same, with a history made and begun when there is none.
     static void AddUndoRedoData2(std::shared_ptr<clsUndoRedo>& history,
                                  const Collection<clsLayer>& layers,
                                  const std::shared_ptr<clsSymbolData>& symbol, UndoStep type);
@@ -224,8 +306,10 @@ private:
     void FramesChanged();
     /// What a change of rows ends with.
     void RowsChanged();
-    /// A sprite that would show itself, which is told.
+    /// A sprite that would show itself in the edited timeline, which is told.
     bool ShowsItself(const clsSymbolData& symbol) const;
+    /// Takes the rows out that a sprite cannot have, since their symbols came to show it; told.
+    static void RemoveLoops(Collection<clsLayer>& layers, const clsSymbolData& owner);
     bool InLibrary(const clsSymbolData& symbol) const;
     /// Puts rows into the edited timeline and selects them.
     void InsertLayers(const RowPlace& place, const Collection<clsLayer>& rows);
@@ -240,7 +324,23 @@ private:
     /// Asks what to do with changes. False when the command must not go on.
     bool Guard();
     void ClearHistories();
-    void Renumber();
+    SymbolRange SelectedSymbols() const;
+    /// A symbol of a kind with a free number and, unless `word` is empty, a default name.
+    std::shared_ptr<clsSymbolData> NewSymbol(Long kind, StringView word) const;
+    bool AddNewSymbol(const std::shared_ptr<clsSymbolData>& symbol, const EditSymbolData& edit);
+    /// What a change of the library's rows ends with.
+    void LibraryChanged();
+    void ReplaceLibrary(std::shared_ptr<Collection<clsSymbolData>> library);
+    void SortSelected(SymbolOrder order, bool descending);
+    void RemoveWithUses(const SymbolList& leaving);
+    /// What a removal of symbols and their layers ends with.
+    void UsesRemoved();
+    void RemoveUses(const std::shared_ptr<clsSymbolData>& owner, Long id);
+    /// Records a timeline in the history that its edits go into; null stands for the main one.
+    void RecordTimeline(const std::shared_ptr<clsSymbolData>& owner, UndoStep type);
+    void KeepInHistories(const SymbolList& leaving);
+    /// Numbers symbols that an undo brought back, from the row `first` on.
+    void SymbolsReturned(Long first);
     /// What all commands that put another project in place end with.
     void ShowProject();
     void AddRecentFile(StringView path) const;

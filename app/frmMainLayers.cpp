@@ -35,6 +35,13 @@ bool IsPlaceable(const clsSymbolData& symbol) {
     return symbol.eType() != KindSymbolFolder && symbol.eType() != KindClass;
 }
 
+/// False for a symbol that does not show the timeline's owner.
+bool TellLoop(const clsSymbolData& symbol, const clsSymbolData& owner) {
+    if (!ShowsSymbol(symbol, owner)) return false;
+    ShowMessage(u"「" + symbol.Value() + u"」\r\n循環参照になります。", u"循環参照");
+    return true;
+}
+
 }  // namespace
 
 void frmMain::ChangeSelectIndex(Long row1, Long row2) {
@@ -52,9 +59,12 @@ bool frmMain::InLibrary(const clsSymbolData& symbol) const {
 
 bool frmMain::ShowsItself(const clsSymbolData& symbol) const {
     const auto edited = EditSymbol();
-    if (!edited || !ShowsSymbol(symbol, *edited)) return false;
-    ShowMessage(u"「" + symbol.Value() + u"」\r\n循環参照になります。", u"循環参照");
-    return true;
+    return edited && TellLoop(symbol, *edited);
+}
+
+void frmMain::RemoveLoops(Collection<clsLayer>& layers, const clsSymbolData& owner) {
+    RemoveRefusedRows(layers,
+                      [&owner](const clsSymbolData& symbol) { return TellLoop(symbol, owner); });
 }
 
 void frmMain::InsertLayers(const RowPlace& place, const Collection<clsLayer>& rows) {

@@ -3,6 +3,7 @@
 #include "app/AssetReader.h"
 #include "app/frmMain.h"
 #include "app/mdlPrivateProfile.h"
+#include "document/ProjectRelease.h"
 #include "document/ProjectWriter.h"
 #include "document/SymbolKinds.h"
 #include "document/SymbolTimeline.h"
@@ -22,6 +23,22 @@ constexpr Single HighestRate = 100;
 
 bool IsOfferedVersion(Long version) {
     return version == 4 || (version >= 6 && version <= 8);
+}
+
+void Record(clsUndoRedo& history, clsUndoRedoData data, const Collection<clsLayer>& layers,
+            UndoStep type) {
+    switch (type) {
+        case UndoStep::Init:
+            history.Init(data, layers);
+            break;
+        case UndoStep::Pending:
+            history.SetUndoRedoData(std::move(data), layers);
+            break;
+        case UndoStep::Change:
+        case UndoStep::Merge:
+            history.Change(std::move(data), layers, type == UndoStep::Merge);
+            break;
+    }
 }
 
 FileDialog ProjectDialog(StringView title) {
@@ -53,7 +70,8 @@ bool frmMain::Guard() {
 void frmMain::ShowProject() {
     editIndex = 0;
     SetLayers(EditMain, 1, 0);
-    view_->RefreshFgrdSymbol();
+    SelectSymbols(0, 0);
+    RefreshFgrdSymbol();
     cUndoRedo.OnUndo = cUndoRedo.OnRedo = nullptr;
     AddUndoRedoData(UndoStep::Init);
     AttachHistory();
@@ -64,8 +82,7 @@ bool frmMain::mnuNew() {
     if (!Guard()) return false;
     ProjectFileName.clear();
     ProjectDir.clear();
-    inProject.colSymbol = std::make_shared<Collection<clsSymbolData>>();
-    inProject.colMainLayer = std::make_shared<Collection<clsLayer>>();
+    ReleaseProject(inProject, cUndoRedo);
     inProject.Html.reset();
     AddBackgroundLayer();
     ShowProject();
@@ -85,7 +102,10 @@ bool frmMain::OpenProject(StringView path) {
         ShowMessage(chosen + u"\r\n\r\nファイルが見つかりません。");
         return false;
     }
-    if (!LoadProject(chosen, inProject, AssetReader())) return false;
+    Project opened = inProject;
+    if (!LoadProject(chosen, opened, AssetReader())) return false;
+    ReleaseProject(inProject, cUndoRedo);
+    inProject = std::move(opened);
     ProjectFileName = chosen;
     ProjectDir = GetFileFolder(chosen);
     ShowProject();
@@ -159,19 +179,23 @@ std::shared_ptr<clsSymbolData> frmMain::EditSymbol() const {
     return editIndex > 0 ? colSymbol()->Item(editIndex) : nullptr;
 }
 
+Long frmMain::CanvasWidth() const {
+    const auto symbol = EditSymbol();
+    return symbol && symbol->eType() == KindSprite ? symbol->PixelWidth() : inProject.MainWidth;
+}
+
+Long frmMain::CanvasHeight() const {
+    const auto symbol = EditSymbol();
+    return symbol && symbol->eType() == KindSprite ? symbol->PixelHeight() : inProject.MainHeight;
+}
+
 void frmMain::SetLayers(Long index, Long row, Long col) {
     const bool changed = index != 0 && index != editIndex;
     if (index != 0) editIndex = index;
-    if (const auto symbol = EditSymbol()) {
-        editLayers_ = TimelineOf(*symbol);
-        const bool isClass = symbol->eType() == KindClass;
-        if (isClass || editLayers_->Empty()) SelFrame1 = SelFrame2 = 1;
-        view_->SetCanvasSize(isClass ? inProject.MainWidth : symbol->PixelWidth(),
-                             isClass ? inProject.MainHeight : symbol->PixelHeight());
-    } else {
-        editLayers_ = colMainLayer();
-        view_->SetCanvasSize(inProject.MainWidth, inProject.MainHeight);
-    }
+    const auto symbol = EditSymbol();
+    editLayers_ = symbol ? TimelineOf(*symbol) : colMainLayer();
+    if (symbol && (symbol->eType() == KindClass || editLayers_->Empty())) SelFrame1 = SelFrame2 = 1;
+    view_->SetCanvasSize(CanvasWidth(), CanvasHeight());
     SelIndex1 = SelIndex2 = row;
     if (const auto layer = EditLayer(); layer && col != 0)
         layer->SelectIndex = std::clamp(col, 1, std::max(layer->ObjectCount(), 1));
@@ -217,43 +241,29 @@ void frmMain::AddUndoRedoData(UndoStep type, StringView tag) {
     data.Row = SelIndex1;
     if (const auto layer = EditLayer()) data.KeyFrame = layer->SelectIndex;
     if (!tag.empty() && history.Tag == tag) type = UndoStep::Merge;
+    Record(history, std::move(data), *editLayers_, type);
     history.Tag = tag;
-    switch (type) {
-        case UndoStep::Init:
-            history.Init(data, *editLayers_);
-            break;
-        case UndoStep::Pending:
-            history.SetUndoRedoData(std::move(data), *editLayers_);
-            break;
-        case UndoStep::Change:
-        case UndoStep::Merge:
-            history.Change(std::move(data), *editLayers_, type == UndoStep::Merge);
-            break;
-    }
+}
+
+void frmMain::AddUndoRedoData2(clsUndoRedo& history, const Collection<clsLayer>& layers,
+                               const std::shared_ptr<clsSymbolData>& symbol, UndoStep type) {
+    clsUndoRedoData data;
+    data.inSprite = symbol;
+    Record(history, std::move(data), layers, type);
+    history.Tag.clear();
 }
 
 void frmMain::AddUndoRedoData2(std::shared_ptr<clsUndoRedo>& history,
                                const Collection<clsLayer>& layers,
                                const std::shared_ptr<clsSymbolData>& symbol, UndoStep type) {
-    clsUndoRedoData data;
-    data.inSprite = symbol;
-    if (!history) {
-        history = std::make_shared<clsUndoRedo>();
-        history->Owner = symbol;
-        history->MaxHistory(mdlPrivateProfile::UndoRedoMaxCount());
-        history->Init(data, layers);
+    if (history) {
+        AddUndoRedoData2(*history, layers, symbol, type);
         return;
     }
-    if (type == UndoStep::Pending)
-        history->SetUndoRedoData(std::move(data), layers);
-    else
-        history->Change(std::move(data), layers, type == UndoStep::Merge);
-}
-
-void frmMain::Renumber() {
-    Long index = 0;
-    for (const auto& symbol : *colSymbol()) symbol->Index = ++index;
-    view_->RefreshFgrdSymbol();
+    history = std::make_shared<clsUndoRedo>();
+    history->Owner = symbol;
+    history->MaxHistory(mdlPrivateProfile::UndoRedoMaxCount());
+    AddUndoRedoData2(*history, layers, symbol, UndoStep::Init);
 }
 
 void frmMain::mnuUndoRedo(Long index) {
@@ -264,7 +274,8 @@ void frmMain::mnuUndoRedo(Long index) {
                                        : history.Ondo(*colSymbol());
     if (!restored) return;
     history.Tag.clear();
-    if (colSymbol()->Count() != symbols) Renumber();
+    if (colSymbol()->Count() != symbols) SymbolsReturned(symbols + 1);
+    if (restored->inSprite) RemoveLoops(*restored->colEditLayer, *restored->inSprite);
     if (restored->colMainLayer) inProject.colMainLayer = restored->colMainLayer;
     if (!restored->inSprite) inProject.colMainLayer = restored->colEditLayer;
     const Long timeline = restored->inSprite ? restored->inSprite->Index : EditMain;

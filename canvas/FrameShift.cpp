@@ -6,12 +6,22 @@ namespace tamber {
 
 namespace {
 
+/// A span whose end lay among the removed frames would reach into the next one.
+void CutOverlaps(clsLayer& layer) {
+    for (Long i = 2; i <= layer.ObjectCount(); ++i) {
+        clsLayerObject& before = *layer.Object(i - 1);
+        const Long start = layer.Object(i)->StartFrame();
+        if (before.endFrame() >= start) before.endFrame(start - 1);
+    }
+}
+
 bool ShiftOne(clsLayer& layer, Long frame1, Long frame2, ShiftDirection direction) {
     bool changed = false;
     if (direction == ShiftDirection::Right)
         layer.ShiftRight(frame1, frame2, changed);
     else
         layer.ShiftLeft(frame1, frame2, changed);
+    if (changed) CutOverlaps(layer);
     return changed;
 }
 

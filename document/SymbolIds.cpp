@@ -22,7 +22,7 @@ void SymbolIds::Add(Long id, Long count) {
         low_[static_cast<std::size_t>(id)] += count;
     else
         high_[id] += count;
-    if (count < 0) free_ = std::min(free_, id);
+    if (Count(id) == 0) free_ = std::min(free_, id);
 }
 
 bool SymbolIds::IsShared(const clsSymbolData& symbol) const {

@@ -65,8 +65,12 @@ const LayerSnapshot& clsUndoRedo::LatestOf(const std::shared_ptr<clsSymbolData>&
     return none;
 }
 
-void clsUndoRedo::Complete(clsUndoRedoData& data, const Collection<clsLayer>& layers) const {
+void clsUndoRedo::ForgetOwner(clsUndoRedoData& data) const {
     if (data.inSprite == Owner.lock()) data.inSprite.reset();
+}
+
+void clsUndoRedo::Complete(clsUndoRedoData& data, const Collection<clsLayer>& layers) const {
+    ForgetOwner(data);
     data.colEditLayer = TakeLayerSnapshot(layers, LatestOf(data.inSprite));
 }
 
@@ -101,7 +105,7 @@ void clsUndoRedo::TakePending(clsUndoRedoData& data) {
     if (pending_->inSprite != data.inSprite) {
         Push(std::move(*pending_));
         ++TotalHistory;
-    } else if (states_.empty() || states_.front().inSprite != data.inSprite) {
+    } else {
         data.Before = std::move(pending_->colEditLayer);
     }
     pending_.reset();
@@ -112,13 +116,35 @@ void clsUndoRedo::Push(clsUndoRedoData data) {
     while (states_.size() > Limit()) states_.pop_back();
 }
 
+/// Where the present state is of the same timeline, it is the one to come back to.
 void clsUndoRedo::SetUndoRedoData(clsUndoRedoData data, const Collection<clsLayer>& layers) {
+    pending_.reset();
+    ForgetOwner(data);
+    if (!states_.empty() && Present().inSprite == data.inSprite) return;
     Complete(data, layers);
     pending_ = std::move(data);
 }
 
 void clsUndoRedo::Keep(std::shared_ptr<const RemovedSymbols> symbols) {
     if (!states_.empty()) Present().Kept.push_back(std::move(symbols));
+}
+
+RemovedSymbols clsUndoRedo::Release() {
+    if (pending_) states_.push_back(std::move(*pending_));
+    RemovedSymbols held;
+    const auto hold = [&held](const LayerSnapshot& layers) {
+        for (const auto& layer : layers) held.push_back(layer->SymbolData());
+    };
+    for (const clsUndoRedoData& state : states_) {
+        held.push_back(state.inSprite);
+        hold(state.colEditLayer);
+        if (state.Before) hold(*state.Before);
+        for (const auto& kept : state.Kept) held.insert(held.end(), kept->begin(), kept->end());
+    }
+    states_.clear();
+    pending_.reset();
+    position_ = 1;
+    return held;
 }
 
 std::shared_ptr<clsSymbolData> clsUndoRedo::TimelineOwner(const clsUndoRedoData& state) const {
@@ -137,6 +163,8 @@ clsUndoRedo::Restored clsUndoRedo::Restore(Collection<clsSymbolData>& library,
     restored.Row = selection.Row;
     restored.KeyFrame = selection.KeyFrame;
     PutBack(restored.inSprite, restored.colEditLayer, library);
+    // What was put aside may not be the state of its timeline any more.
+    pending_.reset();
     RaiseOnUndoRedo();
     return restored;
 }

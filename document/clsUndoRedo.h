@@ -63,6 +63,9 @@ public:
     /// Symbols leave the library: the states that may show them keep them.
     void Keep(std::shared_ptr<const RemovedSymbols> symbols);
 
+    /// Forgets all states and gives the symbols that they held; null among them.
+    RemovedSymbols Release();
+
     bool CanUndo() const { return position_ < states_.size(); }
     bool CanRedo() const { return position_ >= 2; }
     /// The state before the present one; nothing at the history's end. Symbols that its layers show
@@ -85,6 +88,7 @@ private:
     const LayerSnapshot& LatestOf(const std::shared_ptr<clsSymbolData>& sprite) const;
     Restored Restore(Collection<clsSymbolData>& library, const clsUndoRedoData& left);
     void Push(clsUndoRedoData data);
+    void ForgetOwner(clsUndoRedoData& data) const;
     void Complete(clsUndoRedoData& data, const Collection<clsLayer>& layers) const;
     void DropRedone();
     void TakePending(clsUndoRedoData& data);

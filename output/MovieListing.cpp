@@ -5,6 +5,7 @@
 #include "platform/text.h"
 #include "script/compiler/ActionDisassembler.h"
 #include "swf/mdlZlib.h"
+#include "swf/tags/TagCodes.h"
 
 namespace tamber {
 
@@ -16,17 +17,6 @@ constexpr std::uint32_t LongLength = 63;
 /// Sprites stand in no other sprite; a file may say so all the same.
 constexpr std::size_t MaxDepth = 8;
 constexpr Long FirstWideEventVersion = 6;
-
-enum Tag : std::uint32_t {
-    End = 0,
-    DefineButton = 7,
-    DoAction = 12,
-    PlaceObject2 = 26,
-    DefineButton2 = 34,
-    DefineSprite = 39,
-    DoInitAction = 59,
-    PlaceObject3 = 70,
-};
 
 enum PlaceFlag : std::uint32_t {
     HasCharacter = 2,
@@ -49,70 +39,70 @@ enum PlaceFlag3 : std::uint32_t {
 constexpr std::uint32_t KeyPressEvent = 0x20000;
 
 struct TagName {
-    std::uint32_t Code;
+    Long Code;
     const char* Name;
 };
 
 constexpr TagName Names[] = {
-    {0, "End"},
-    {1, "ShowFrame"},
-    {2, "DefineShape"},
-    {4, "PlaceObject"},
-    {5, "RemoveObject"},
-    {6, "DefineBits"},
-    {7, "DefineButton"},
-    {8, "JPEGTables"},
-    {9, "SetBackgroundColor"},
-    {10, "DefineFont"},
-    {11, "DefineText"},
-    {12, "DoAction"},
-    {13, "DefineFontInfo"},
-    {14, "DefineSound"},
-    {15, "StartSound"},
-    {17, "DefineButtonSound"},
-    {18, "SoundStreamHead"},
-    {19, "SoundStreamBlock"},
-    {20, "DefineBitsLossless"},
-    {21, "DefineBitsJPEG2"},
-    {22, "DefineShape2"},
-    {23, "DefineButtonCxform"},
-    {24, "Protect"},
-    {26, "PlaceObject2"},
-    {28, "RemoveObject2"},
-    {32, "DefineShape3"},
-    {33, "DefineText2"},
-    {34, "DefineButton2"},
-    {35, "DefineBitsJPEG3"},
-    {36, "DefineBitsLossless2"},
-    {37, "DefineEditText"},
-    {39, "DefineSprite"},
-    {43, "FrameLabel"},
-    {45, "SoundStreamHead2"},
-    {46, "DefineMorphShape"},
-    {48, "DefineFont2"},
-    {56, "ExportAssets"},
-    {57, "ImportAssets"},
-    {58, "EnableDebugger"},
-    {59, "DoInitAction"},
-    {60, "DefineVideoStream"},
-    {61, "VideoFrame"},
-    {62, "DefineFontInfo2"},
-    {64, "EnableDebugger2"},
-    {65, "ScriptLimits"},
-    {66, "SetTabIndex"},
-    {69, "FileAttributes"},
-    {70, "PlaceObject3"},
-    {71, "ImportAssets2"},
-    {73, "DefineFontAlignZones"},
-    {74, "CSMTextSettings"},
-    {75, "DefineFont3"},
-    {77, "Metadata"},
-    {78, "DefineScalingGrid"},
-    {83, "DefineShape4"},
-    {84, "DefineMorphShape2"},
+    {TagCode::End, "End"},
+    {TagCode::ShowFrame, "ShowFrame"},
+    {TagCode::DefineShape, "DefineShape"},
+    {TagCode::PlaceObject, "PlaceObject"},
+    {TagCode::RemoveObject, "RemoveObject"},
+    {TagCode::DefineBits, "DefineBits"},
+    {TagCode::DefineButton, "DefineButton"},
+    {TagCode::JPEGTables, "JPEGTables"},
+    {TagCode::SetBackgroundColor, "SetBackgroundColor"},
+    {TagCode::DefineFont, "DefineFont"},
+    {TagCode::DefineText, "DefineText"},
+    {TagCode::DoAction, "DoAction"},
+    {TagCode::DefineFontInfo, "DefineFontInfo"},
+    {TagCode::DefineSound, "DefineSound"},
+    {TagCode::StartSound, "StartSound"},
+    {TagCode::DefineButtonSound, "DefineButtonSound"},
+    {TagCode::SoundStreamHead, "SoundStreamHead"},
+    {TagCode::SoundStreamBlock, "SoundStreamBlock"},
+    {TagCode::DefineBitsLossless, "DefineBitsLossless"},
+    {TagCode::DefineBitsJPEG2, "DefineBitsJPEG2"},
+    {TagCode::DefineShape2, "DefineShape2"},
+    {TagCode::DefineButtonCxform, "DefineButtonCxform"},
+    {TagCode::Protect, "Protect"},
+    {TagCode::PlaceObject2, "PlaceObject2"},
+    {TagCode::RemoveObject2, "RemoveObject2"},
+    {TagCode::DefineShape3, "DefineShape3"},
+    {TagCode::DefineText2, "DefineText2"},
+    {TagCode::DefineButton2, "DefineButton2"},
+    {TagCode::DefineBitsJPEG3, "DefineBitsJPEG3"},
+    {TagCode::DefineBitsLossless2, "DefineBitsLossless2"},
+    {TagCode::DefineEditText, "DefineEditText"},
+    {TagCode::DefineSprite, "DefineSprite"},
+    {TagCode::FrameLabel, "FrameLabel"},
+    {TagCode::SoundStreamHead2, "SoundStreamHead2"},
+    {TagCode::DefineMorphShape, "DefineMorphShape"},
+    {TagCode::DefineFont2, "DefineFont2"},
+    {TagCode::ExportAssets, "ExportAssets"},
+    {TagCode::ImportAssets, "ImportAssets"},
+    {TagCode::EnableDebugger, "EnableDebugger"},
+    {TagCode::DoInitAction, "DoInitAction"},
+    {TagCode::DefineVideoStream, "DefineVideoStream"},
+    {TagCode::VideoFrame, "VideoFrame"},
+    {TagCode::DefineFontInfo2, "DefineFontInfo2"},
+    {TagCode::EnableDebugger2, "EnableDebugger2"},
+    {TagCode::ScriptLimits, "ScriptLimits"},
+    {TagCode::SetTabIndex, "SetTabIndex"},
+    {TagCode::FileAttributes, "FileAttributes"},
+    {TagCode::PlaceObject3, "PlaceObject3"},
+    {TagCode::ImportAssets2, "ImportAssets2"},
+    {TagCode::DefineFontAlignZones, "DefineFontAlignZones"},
+    {TagCode::CSMTextSettings, "CSMTextSettings"},
+    {TagCode::DefineFont3, "DefineFont3"},
+    {TagCode::Metadata, "Metadata"},
+    {TagCode::DefineScalingGrid, "DefineScalingGrid"},
+    {TagCode::DefineShape4, "DefineShape4"},
+    {TagCode::DefineMorphShape2, "DefineMorphShape2"},
 };
 
-std::string NameOf(std::uint32_t code) {
+std::string NameOf(Long code) {
     for (const TagName& tag : Names)
         if (tag.Code == code) return tag.Name;
     return "Tag" + std::to_string(code);
@@ -194,39 +184,38 @@ void MovieListing::ListTags(ByteView tags, std::size_t offset, std::size_t depth
         const std::uint32_t header = bits.U16();
         std::size_t length = header & LongLength;
         if (length == LongLength) length = bits.U32();
-        const std::uint32_t code = header >> 6;
+        const Long code = static_cast<Long>(header >> 6);
         const ByteView body = bits.Take(bits.IsDamaged() ? 0 : length);
         if (bits.IsDamaged()) return Damage(at);
         Line(depth,
              std::to_string(at) + " " + NameOf(code) + ", " + std::to_string(length) + " bytes");
-        if (code == End) return;
+        if (code == TagCode::End) return;
         ListTag(code, body, offset + OffsetIn(tags, bits.Rest()) - body.size(), depth + 1);
     }
 }
 
-void MovieListing::ListTag(std::uint32_t code, ByteView body, std::size_t offset,
-                           std::size_t depth) {
+void MovieListing::ListTag(Long code, ByteView body, std::size_t offset, std::size_t depth) {
     constexpr std::size_t SpriteHeader = 4;
     constexpr std::size_t InitHeader = 2;
     MovieBits bits(body);
     offset_ = offset;
     switch (code) {
-        case DoAction:
+        case TagCode::DoAction:
             return ListActions(body, depth);
-        case DoInitAction:
+        case TagCode::DoInitAction:
             Line(depth, "sprite " + std::to_string(bits.U16()));
             if (body.size() >= InitHeader) return ListActions(body.subspan(InitHeader), depth);
             return Damage(offset);
-        case DefineSprite:
+        case TagCode::DefineSprite:
             if (depth > MaxDepth || body.size() < SpriteHeader) return Damage(offset);
             Line(depth, "sprite " + std::to_string(bits.U16()));
             return ListTags(body.subspan(SpriteHeader), offset + SpriteHeader, depth);
-        case PlaceObject2:
-        case PlaceObject3:
-            return ListClip(body, code == PlaceObject3, depth);
-        case DefineButton:
+        case TagCode::PlaceObject2:
+        case TagCode::PlaceObject3:
+            return ListClip(body, code == TagCode::PlaceObject3, depth);
+        case TagCode::DefineButton:
             return ListButton(body, depth);
-        case DefineButton2:
+        case TagCode::DefineButton2:
             return ListButton2(body, depth);
         default:
             return;

@@ -21,7 +21,7 @@ public:
 private:
     void ListMovie(ByteView body);
     void ListTags(ByteView tags, std::size_t offset, std::size_t depth);
-    void ListTag(std::uint32_t code, ByteView body, std::size_t offset, std::size_t depth);
+    void ListTag(Long code, ByteView body, std::size_t offset, std::size_t depth);
     void ListActions(ByteView actions, std::size_t depth);
     void ListClip(ByteView body, bool hasMoreFlags, std::size_t depth);
     void ListClipEvents(MovieBits& bits, std::size_t depth);

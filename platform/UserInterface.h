@@ -38,6 +38,12 @@ public:
     virtual String SaveFileDialog(const FileDialog& dialog) = 0;
     /// Folder chosen, empty when cancelled.
     virtual String SelectFolderDialog(StringView title) = 0;
+    /// A line typed in, empty when cancelled. Without a person the text offered comes back.
+    virtual String InputBox(StringView prompt, StringView title, StringView offered) {
+        (void)prompt;
+        (void)title;
+        return String(offered);
+    }
     /// Long work: what is done, or nothing, and `done` of `total` items; `done` = `total` ends the
     /// display.
     virtual void Progress(StringView text, Long done, Long total) = 0;

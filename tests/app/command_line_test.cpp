@@ -120,6 +120,52 @@ TEST_F(CommandLineTest, batch_runs_commands_and_tells_the_lines_that_fail) {
               std::string::npos);
 }
 
+TEST_F(CommandLineTest, batch_makes_a_movie_of_three_pictures) {
+    fs::create_directories(folder / "examples");
+    fs::copy(fs::path(TAMBER_SOURCE_DIR) / "examples/hello", folder / "examples/hello");
+    fs::copy(fs::path(TAMBER_SOURCE_DIR) / "examples/batch", folder / "examples/batch");
+    fs::create_directories(folder / "build");
+    const Outcome run = Tamber("batch examples/batch/moonrise.txt");
+    EXPECT_EQ(run.Code, 0) << run.Errors;
+    EXPECT_EQ(TextOf(folder / "build/moonrise.swf").substr(0, 4), std::string("CWS\x08"));
+    const auto state = nlohmann::json::parse(Tamber("info build/moonrise.kvf --json").Output);
+    EXPECT_EQ(state["symbols"].size(), 3u);
+    EXPECT_EQ(state["symbols"][0]["options"]["ToumeiColorBlue"], "255");
+    ASSERT_EQ(state["layers"].size(), 4u);
+    EXPECT_EQ(state["layers"][0]["keyFrames"][0]["DispCount"], 48);
+    const auto& moon = state["layers"][1]["keyFrames"];
+    ASSERT_EQ(moon.size(), 2u);
+    EXPECT_EQ(moon[0]["blTween"], true);
+    EXPECT_EQ(moon[0]["DispCount"], 47);
+    EXPECT_EQ(moon[1]["placement"]["filters"]["Glow.BlurX"], "20");
+}
+
+TEST_F(CommandLineTest, batch_edits_a_timeline_with_what_its_lines_tell) {
+    std::ofstream(folder / "a.as") << "stop();\ntrace(1);\n";
+    std::ofstream(folder / "script.txt")
+        << "mnuAddSymbolItem_Sprite 箱 40 30\n"
+           "SelectSymbols 1\nSymbol ObjectName box\nAddToLayer 1 after\n"
+           "AddToLayer 1 into into\nLayer InstanceName 箱\n"
+           "Layer InstanceName box1\nLayer ClippingDepth 1000\n"
+           "ChangeSprite 1\nAddToLayer 1\nmnuAddLayer_FrameAction\n"
+           "ScriptFile a.as\nElement Comment\nmnuJump nowhere\n"
+           "SelectFrames 4 6\nmnuAddKeyFrame\nPrint\n";
+    const Outcome run = Tamber("batch script.txt");
+    EXPECT_EQ(run.Code, 1);
+    for (const char* line : {"5行目：", "インスタンス名: ・半角", "6行目：", "8行目：",
+                             "循環参照: 「箱」", "14行目："})
+        EXPECT_NE(run.Errors.find(line), std::string::npos) << line << "\n" << run.Errors;
+    const auto state = nlohmann::json::parse(run.Output);
+    EXPECT_EQ(state["editIndex"], 1);
+    EXPECT_EQ(state["layers"][0]["InstanceName"], "box1");
+    EXPECT_EQ(state["symbols"][0]["ObjectName"], "box");
+    const auto& rows = state["symbols"][0]["layers"];
+    ASSERT_EQ(rows.size(), 1u);
+    ASSERT_EQ(rows[0]["keyFrames"].size(), 2u);
+    EXPECT_EQ(rows[0]["keyFrames"][0]["values"]["Script"], "stop();\ntrace(1);\n");
+    EXPECT_EQ(rows[0]["keyFrames"][1]["StartFrame"], 4);
+}
+
 TEST_F(CommandLineTest, info_tells_what_the_project_holds) {
     const Outcome run = Tamber("info " + hello + " --json");
     ASSERT_EQ(run.Code, 0) << run.Errors;

@@ -150,7 +150,7 @@ TEST(Timeline, shifts_the_rows_that_are_selected) {
         {1, 1, ShiftDirection::Right, true, "1-4 6-6 | 1-1 | 2-3 | 1-9"},
         // By itself the background moves too.
         {4, 4, ShiftDirection::Right, true, "1-2 4-4 | 1-1 | 2-3 | 1-11"},
-        {1, 1, ShiftDirection::Left, true, "1-2 2-2 | 1-1 | 2-3 | 1-9"},
+        {1, 1, ShiftDirection::Left, true, "1-1 2-2 | 1-1 | 2-3 | 1-9"},
         {3, 3, ShiftDirection::Left, false, "1-2 4-4 | 1-1 | 2-3 | 1-9"},
         {5, 5, ShiftDirection::Right, false, "1-2 4-4 | 1-1 | 2-3 | 1-9"},
     };
@@ -159,6 +159,11 @@ TEST(Timeline, shifts_the_rows_that_are_selected) {
         EXPECT_EQ(ShiftSelected(layers, c.Row1, c.Row2, 3, 2, c.Direction), c.Changed);
         EXPECT_EQ(all(layers), c.After);
     }
+    // The end of the first span goes with the removed frames.
+    Collection<clsLayer> overlapping;
+    overlapping.Add(LayerOf(KindSprite, "1-5 7-9"));
+    EXPECT_TRUE(ShiftSelected(overlapping, 1, 1, 4, 6, ShiftDirection::Left));
+    EXPECT_EQ(Spans(*overlapping(1)), "1-3 4-6");
     Collection<clsLayer> background;
     background.Add(LayerOf(KindBackGround, "1-9"));
     EXPECT_FALSE(ShiftRows(background, {1, 1}, 1, 1, ShiftDirection::Right));

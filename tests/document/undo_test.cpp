@@ -192,11 +192,42 @@ TEST_F(History, of_all_timelines_leads_back_to_the_one_where_the_change_was) {
     ASSERT_TRUE(restored);
     EXPECT_EQ(restored->inSprite, nullptr);
     EXPECT_EQ((*restored->colEditLayer)(1)->Object(1)->Placement()->X(), 10);
+    // The change itself is undone as well.
+    EXPECT_EQ(sprite->Property<clsPropertySprite>()->colLayer->Count(), 0);
     restored = history_.Redo(library_);
     ASSERT_TRUE(restored);
     EXPECT_EQ(restored->inSprite, sprite);
     EXPECT_EQ(sprite->Property<clsPropertySprite>()->colLayer->Count(), 1);
     EXPECT_EQ(sprite->Property<clsPropertySprite>()->colLayer, restored->colEditLayer);
+}
+
+TEST_F(History, a_change_of_the_main_timeline_is_undone_from_a_sprite_too) {
+    const auto sprite = AddSymbol(KindSprite);
+    auto& own = *sprite->Property<clsPropertySprite>()->colLayer;
+    history_.SetUndoRedoData(At(sprite, 1, 1), own);
+    history_.Change(At(sprite, 1, 1), own, false);
+    history_.SetUndoRedoData({}, *layers_);
+    Move(1, 1, 10);
+    Move(1, 1, 20, true);
+    const auto restored = history_.Undo(library_);
+    ASSERT_TRUE(restored);
+    EXPECT_EQ(restored->inSprite, sprite);
+    ASSERT_TRUE(restored->colMainLayer);
+    EXPECT_EQ((*restored->colMainLayer)(1)->Object(1)->Placement()->X(), 0);
+    EXPECT_FALSE(history_.Undo(library_)->colMainLayer);
+}
+
+TEST_F(History, keeps_symbols_when_the_state_that_kept_them_is_dropped) {
+    auto symbol = std::make_shared<clsSymbolData>(KindVector);
+    const std::weak_ptr<clsSymbolData> watched = symbol;
+    Move(1, 1, 10);
+    history_.Keep(std::make_shared<RemovedSymbols>(1, symbol));
+    symbol.reset();
+    Undo();
+    Move(1, 1, 20);
+    EXPECT_FALSE(watched.expired());
+    history_.Init({}, *layers_);
+    EXPECT_TRUE(watched.expired());
 }
 
 TEST_F(History, a_pending_state_enters_before_a_change_of_another_timeline) {

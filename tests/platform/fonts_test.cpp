@@ -54,6 +54,11 @@ GlyphOutlineRecord Glyph(char16_t character, const LogFont& font) {
 const LogFont Gothic{.FaceName = u"IPAGothic"};
 const LogFont Sans{.FaceName = u"DejaVu Sans"};
 const LogFont Junction{.FaceName = u"Junction"};
+const LogFont SansBold{.FaceName = u"DejaVu Sans", .Bold = true};
+const LogFont GothicItalic{.FaceName = u"IPAゴシック", .Italic = true};
+const LogFont NotInstalled{.FaceName = u"ＭＳ ゴシック"};
+const LogFont NoName{};
+const LogFont GothicOfTwo{.FaceName = u"IPAGothic", .Height = 2};
 
 struct Expected {
     const char* Name;
@@ -111,21 +116,12 @@ INSTANTIATE_TEST_SUITE_P(
         Expected{"Missing", Sans, u'漢', 528, 817, SansMissing},
         Expected{"MissingKana", Gothic, u'ก', 952, 838, GothicMissing},
         Expected{"Surrogate", Sans, 0xD83D, 528, 817, SansMissing},
-        Expected{"OwnBold",
-                 {.FaceName = u"DejaVu Sans", .Bold = true},
-                 u'l',
-                 302,
-                 817,
-                 " M 74,149 L 228,149 228,817 74,817"},
-        Expected{"SyntheticItalic",
-                 {.FaceName = u"IPAゴシック", .Italic = true},
-                 u'i',
-                 476,
-                 838,
+        Expected{"OwnBold", SansBold, u'l', 302, 817, " M 74,149 L 228,149 228,817 74,817"},
+        Expected{"SyntheticItalic", GothicItalic, u'i', 476, 838,
                  " M 348,123 L 432,123 414,209 330,209 M 307,337 L 382,337 285,790 211,790"},
-        Expected{"NotInstalled", {.FaceName = u"ＭＳ ゴシック"}, u'A', 476, 838, GothicA},
-        Expected{"NoName", {}, u'A', 476, 838, GothicA},
-        Expected{"OtherHeight", {.FaceName = u"IPAGothic", .Height = 2}, u'A', 476, 838, GothicA}),
+        Expected{"NotInstalled", NotInstalled, u'A', 476, 838, GothicA},
+        Expected{"NoName", NoName, u'A', 476, 838, GothicA},
+        Expected{"OtherHeight", GothicOfTwo, u'A', 476, 838, GothicA}),
     [](const auto& expected) { return std::string(expected.param.Name); });
 
 TEST(Fonts, AHeightOfOneOrLessDoesNothing) {

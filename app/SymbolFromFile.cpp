@@ -1,0 +1,71 @@
+#include "app/SymbolFromFile.h"
+
+#include "document/SymbolFiles.h"
+#include "document/clsPropertyText.h"
+#include "platform/TextEncoding.h"
+#include "platform/UserInterface.h"
+#include "platform/files.h"
+#include "platform/paths.h"
+#include "platform/text.h"
+
+namespace tamber {
+
+namespace {
+
+/// Pixels of a text that comes from a file, which tells none.
+constexpr Long FileTextSize = 24;
+/// Bytes of a text file at most, far more than a movie can show.
+constexpr std::uint64_t LargestTextFile = 1 << 20;
+
+bool ReadText(clsSymbolData& symbol, StringView path, const ProjectAssets& assets) {
+    const auto size = FileSize(path);
+    Bytes bytes;
+    if (!size || *size > LargestTextFile || !ReadFileBytes(path, bytes)) {
+        TellUnreadable(path);
+        return false;
+    }
+    auto& text = *symbol.Property<clsPropertyText>();
+    text.InitialText = WithCrLf(DecodeText(bytes));
+    if (text.InitialText.empty()) {
+        ShowMessage(u"テキストが入力されていません。", u"テキスト未入力", MessageIcon::Warning);
+        return false;
+    }
+    text.FontName = assets.DefaultFont();
+    text.FontSize = FileTextSize;
+    assets.SetTextSize(symbol);
+    return true;
+}
+
+bool ReadFile(clsSymbolData& symbol, StringView path, const ProjectAssets& assets) {
+    symbol.FilePathName = path;
+    if (assets.LoadFile(symbol)) return true;
+    TellUnreadable(path);
+    return false;
+}
+
+}  // namespace
+
+void TellUnreadable(StringView path) {
+    CurrentUserInterface().Status(path);
+    ShowMessage(u"ファイルの読み込みに失敗しました。", u"読み込みエラー", MessageIcon::Error);
+}
+
+std::shared_ptr<clsSymbolData> SymbolFromFile(StringView path, const ProjectAssets& assets) {
+    const Long kind = SymbolKindOfFile(path);
+    if (kind == 0) {
+        const String extensions = ReplaceAll(SymbolFileFilters().front().Pattern, u"*.", u"");
+        ShowMessage(String(path) +
+                    u"\r\n\r\n追加できない形式のファイルです。\r\n追加できる拡張子：" + extensions);
+        return nullptr;
+    }
+    if (!FileExists(path)) {
+        ShowMessage(String(path) + u"\r\n\r\nファイルが見つかりません。");
+        return nullptr;
+    }
+    auto symbol = std::make_shared<clsSymbolData>(kind);
+    const bool read =
+        kind == KindText ? ReadText(*symbol, path, assets) : ReadFile(*symbol, path, assets);
+    return read ? symbol : nullptr;
+}
+
+}  // namespace tamber

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <memory>
+
+#include "document/ProjectReader.h"
+#include "document/clsSymbolData.h"
+
+namespace tamber {
+
+/// A symbol made of a file, without a number; null when none can be made of it, which the user was
+/// told. The path is absolute. A text takes in what its file holds and forgets the file.
+std::shared_ptr<clsSymbolData> SymbolFromFile(StringView path, const ProjectAssets& assets);
+
+/// Tells that a file could not be read, and in the status area which one.
+void TellUnreadable(StringView path);
+
+}  // namespace tamber
