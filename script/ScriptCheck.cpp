@@ -79,8 +79,7 @@ ScriptCheckResult CheckScript(StringView script, ScriptKind kind, Long version,
     preprocessor.ProjectFolder = projectFolder;
     if (kind == ScriptKind::Frame)
         preprocessor.CompileInclude = [version](const String& text) {
-            Bytes bytes;
-            return CompileActionScript(bytes, text, version, true);
+            return CheckFrame(text, version).Ok;
         };
     String text(script);
     const Long failed = preprocessor.PreprocessScript(text, {});

@@ -15,7 +15,8 @@ struct ScriptCheckResult {
 };
 
 /// Looks through a script as a generation would, for a movie of a version, and tells its first
-/// fault. Included texts of frame scripts are compiled by themselves, so that lines stay right.
+/// fault. Included texts of frame scripts are compiled by themselves, and so are the init blocks in
+/// them, so that lines stay right.
 ScriptCheckResult CheckScript(StringView script, ScriptKind kind, Long version,
                               StringView projectFolder);
 

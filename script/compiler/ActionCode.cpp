@@ -70,6 +70,12 @@ void ActionCode::GetUrl(const Symbol* url, const Symbol* target) {
     Urls.push_back({url, target});
 }
 
+void ActionCode::CastOrCall(Symbol* name) {
+    if (!isReachable_) return;
+    ++name->Uses;
+    Emit(ItemKind::CastOrCall, name->Index);
+}
+
 ActionCode::Label ActionCode::NewLabel(std::uint32_t line) {
     labelUses_.push_back(0);
     LabelLines.push_back(line);

@@ -29,9 +29,8 @@ enum class ItemKind : Byte {
     With,
     WithEnd,
     Try,
-    /// Ends of the three blocks of a Try, each there even when it is empty.
+    /// Ends of the two blocks of a Try.
     TryBodyEnd,
-    HandlerEnd,
     TryEnd,
     StoreRegister,
     GotoFrame,
@@ -42,6 +41,9 @@ enum class ItemKind : Byte {
     GetUrl2,
     WaitForFrame,
     WaitForFrame2,
+    /// What a call of a player's class makes of its argument on the stack: a cast, or a call where
+    /// the script, perhaps behind it, has a function of that name.
+    CastOrCall,
 };
 
 /// Code in the making: a list of items of 32 bits, the kind in the high 8, the operand in the rest.
@@ -66,10 +68,9 @@ public:
         std::uint16_t Flags = 0;
     };
     struct TryRecord {
+        /// Of the variable for what was thrown; null for register 0.
         const Symbol* Name = nullptr;
         std::uint32_t Line = 0;
-        bool HasHandler = false;
-        bool HasLast = false;
     };
     struct UrlRecord {
         const Symbol* Url;
@@ -90,6 +91,7 @@ public:
     void PushNumeric(Symbol* digits);
     void PushRegister(Byte number) { Emit(ItemKind::PushRegister, number); }
     void GetUrl(const Symbol* url, const Symbol* target);
+    void CastOrCall(Symbol* name);
 
     Label NewLabel(std::uint32_t line);
     /// The place that jumps made before lead to.
@@ -108,7 +110,7 @@ public:
     void BeginWith(std::uint32_t line);
     void EndWith();
     void BeginTry(const TryRecord& record);
-    /// Ends the body, the handler or the last block.
+    /// Ends the body or the handler.
     void EndTryBlock(ItemKind end);
 
     bool IsReachable() const { return isReachable_; }

@@ -10,13 +10,14 @@ namespace tamber {
 namespace {
 
 constexpr Long FirstPoolVersion = 5;
+constexpr Long FirstCastVersion = 7;
 constexpr std::size_t MaxRecord = 65535;
 constexpr std::size_t MaxConstants = 65535;
 /// Constants that a push names with one byte.
 constexpr std::size_t ShortConstants = 256;
 constexpr std::size_t RecordHeader = 3;
 constexpr std::uint32_t HasHandlerFlag = 1;
-constexpr std::uint32_t HasLastFlag = 2;
+constexpr std::uint32_t InRegisterFlag = 4;
 
 /// Bytes that a constant saves beside its text in each push.
 std::int64_t SavingOf(const Symbol& symbol, bool isShort) {
@@ -114,7 +115,6 @@ void ActionEncoder::WriteItem(const ActionCode& code, ItemKind kind, std::uint32
         case ItemKind::TryEnd:
             return EndBlock(true);
         case ItemKind::TryBodyEnd:
-        case ItemKind::HandlerEnd:
             return EndBlock(false);
         case ItemKind::StoreRegister:
             return WriteShort(Opcode::StoreRegister, operand, 1);
@@ -132,6 +132,8 @@ void ActionEncoder::WriteItem(const ActionCode& code, ItemKind kind, std::uint32
             return WriteShort(Opcode::WaitForFrame2, 1, 1);
         case ItemKind::SetTarget:
             return WriteNamed(Opcode::SetTarget, symbols_.At(operand)->Text);
+        case ItemKind::CastOrCall:
+            return WriteCastOrCall(*symbols_.At(operand));
         case ItemKind::GotoLabel:
             return WriteNamed(Opcode::GotoLabel, symbols_.At(operand)->Text);
         default:
@@ -297,17 +299,22 @@ void ActionEncoder::WriteFunction(const ActionCode& code,
     BeginBlock(bytes_.size() - 2, function.Line);
 }
 
-/// Three lengths stand in front of the blocks; each block opens where the one before it ends.
+/// Three lengths stand in front of the blocks; each block opens where the one before it ends. The
+/// third, of what always runs, is not used.
 void ActionEncoder::WriteTry(const ActionCode::TryRecord& record) {
-    const std::string_view name = record.Name == nullptr ? std::string_view() : record.Name->Text;
+    const bool isInRegister = record.Name == nullptr;
+    const std::size_t nameSize = isInRegister ? 1 : record.Name->Text.size() + 1;
     U8(static_cast<Byte>(Opcode::Try));
-    U16(static_cast<std::uint32_t>(7 + name.size() + 1));
-    U8((record.HasHandler ? HasHandlerFlag : 0) | (record.HasLast ? HasLastFlag : 0));
+    U16(static_cast<std::uint32_t>(7 + nameSize));
+    U8(HasHandlerFlag | (isInRegister ? InRegisterFlag : 0));
     const std::size_t lengths = bytes_.size();
     U16(0);
     U16(0);
     U16(0);
-    Chars(name);
+    if (isInRegister)
+        U8(0);
+    else
+        Chars(record.Name->Text);
     BeginBlock(lengths, record.Line);
 }
 
@@ -336,6 +343,21 @@ void ActionEncoder::WriteUrl(const ActionCode::UrlRecord& record) {
     U16(static_cast<std::uint32_t>(record.Url->Text.size() + record.Target->Text.size() + 2));
     Chars(record.Url->Text);
     Chars(record.Target->Text);
+}
+
+/// Version 7 checks what it casts; before, the value stays as it is.
+void ActionEncoder::WriteCastOrCall(const Symbol& name) {
+    if (name.IsOwn) {
+        WriteNumber(1);
+        WriteText(name);
+        ClosePush();
+        U8(static_cast<Byte>(Opcode::CallFunction));
+    } else if (version_ >= FirstCastVersion) {
+        WriteText(name);
+        ClosePush();
+        for (const Opcode action : {Opcode::GetVariable, Opcode::StackSwap, Opcode::CastOp})
+            U8(static_cast<Byte>(action));
+    }
 }
 
 void ActionEncoder::WriteShort(Opcode opcode, std::uint32_t operand, std::size_t size) {

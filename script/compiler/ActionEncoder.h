@@ -40,6 +40,7 @@ private:
     void ClosePush();
     void WriteJump(Opcode opcode, ActionCode::Label label);
     void WriteFunction(const ActionCode& code, const ActionCode::FunctionRecord& function);
+    void WriteCastOrCall(const Symbol& name);
     void WriteTry(const ActionCode::TryRecord& record);
     void WriteUrl(const ActionCode::UrlRecord& record);
     void WriteShort(Opcode opcode, std::uint32_t operand, std::size_t size);

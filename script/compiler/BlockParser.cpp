@@ -91,7 +91,7 @@ Node* Parser::TryStatement() {
         Expect(TokenKind::CloseParenthesis, u")");
         node->B = GuardedBlock(node, &Parser::Block);
     }
-    if (Accept(TokenKind::Finally)) node->C = GuardedBlock(node, &Parser::Block);
+    if (Accept(TokenKind::Finally)) node->C = Block();
     if (node->B == nullptr && node->C == nullptr) Fail(u"catch または finally が必要です。");
     return node;
 }

@@ -89,7 +89,7 @@ bool CodeGenerator::CallInTarget(const std::string& path, Symbol* name, const No
         Complain(node, u"この名前の関数はパスで呼び出せません。");
         return true;
     }
-    code_->Emit(ItemKind::SetTarget, symbols_.InternCopy(path)->Index);
+    code_->Emit(ItemKind::SetTarget, PathText(node, path)->Index);
     const bool hasValue = BuiltinCall(*name->BuiltinEntry, node);
     RestoreTarget(scopes_.size());
     return hasValue;

@@ -20,6 +20,7 @@ void CodeGenerator::Class(const Node& node) {
     record.Base = definition.Base == nullptr ? std::string() : DottedPath(*definition.Base);
     for (const MemberNode* member = definition.FirstMember; member; member = member->Next)
         record.Members[member->Name] = member->IsStatic;
+    if (definition.IsIntrinsic) return;
     const Label end = code_->NewLabel(node.Line);
     ClassPath(*definition.Name);
     code_->JumpIf(end);
@@ -42,12 +43,15 @@ const Node* CodeGenerator::Kept(const Node& name) {
     return &kept;
 }
 
+/// Empty for what is no name.
 std::string CodeGenerator::DottedPath(const Node& node) const {
-    std::string path;
+    std::vector<const Symbol*> members;
     const Node* part = &node;
-    for (; part->Kind == NodeKind::Member; part = part->A)
-        path = "." + std::string(part->Name->Text) + path;
-    return part->Kind == NodeKind::Name ? std::string(part->Name->Text) + path : std::string();
+    for (; part->Kind == NodeKind::Member; part = part->A) members.push_back(part->Name);
+    if (part->Kind != NodeKind::Name && part->Kind != NodeKind::This) return {};
+    std::string path(part->Kind == NodeKind::This ? "this" : part->Name->Text);
+    for (; !members.empty(); members.pop_back()) (path += '.') += members.back()->Text;
+    return path;
 }
 
 /// if (!_global.a.b) _global.a.b = new Object();, from the outermost on.
@@ -197,9 +201,14 @@ bool CodeGenerator::Cast(const Node& node) {
     if (version_ < 6 || node.Count != 1) return false;
     const Node& callee = *node.A;
     if (callee.Kind != NodeKind::Name && callee.Kind != NodeKind::Member) return false;
-    const bool isPlayerClass = callee.Kind == NodeKind::Name && IsPlayerClass(callee.Name->Text);
-    if (!isPlayerClass && (classes_.empty() || !classes_.contains(DottedPath(callee))))
-        return false;
+    const bool isName = callee.Kind == NodeKind::Name;
+    if (isName && (callee.Name->Declarations > 0 || FindMember(callee.Name).IsFound)) return false;
+    if (classes_.empty() || !classes_.contains(DottedPath(callee))) {
+        if (!isName || !IsPlayerClass(callee.Name->Text)) return false;
+        Expression(*node.B);
+        code_->CastOrCall(callee.Name);
+        return true;
+    }
     if (version_ >= FirstExtendsVersion) Expression(callee);
     Expression(*node.B);
     if (version_ >= FirstExtendsVersion) code_->Emit(Opcode::CastOp);

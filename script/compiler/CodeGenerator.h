@@ -29,17 +29,15 @@ private:
     using Label = ActionCode::Label;
 
     // What surrounds the code being made.
-    enum class ScopeKind : Byte { Loop, ForIn, Switch, TellTarget, Guard };
+    enum class ScopeKind : Byte { Loop, ForIn, Switch, TellTarget, Guard, Last };
     struct Scope {
         ScopeKind Kind;
         /// Where break and continue lead; of a guard, the end of its block.
         Label Break = 0;
         Label Continue = 0;
         const Node* Statement = nullptr;
-        /// Of a guard, the variable that says how the block was left.
-        Symbol* Exit = nullptr;
-        /// Whether it is the block of a `finally`, which nothing runs after.
-        bool IsLast = false;
+        /// Of a guard, whether a `finally` stands behind it.
+        bool HasLast = false;
     };
     static constexpr std::size_t NoRecord = SIZE_MAX;
     /// Expressions in each other that are made by recursion on the left.
@@ -101,6 +99,7 @@ private:
     void AssignEnumerated(const Node& target);
     void Switch(const Node& node);
     void SwitchTests(const Node& node, const std::vector<Label>& labels, Label end);
+    void PlaceClause(Label label);
     void TestOfCase(const Node& value);
     void With(const Node& node);
     void TellTarget(const Node& node);
@@ -108,16 +107,19 @@ private:
     void RestoreTarget(std::size_t scopes);
     void IfFrameLoaded(const Node& node);
     void Try(const Node& node);
-    void GuardBlock(const Node* block, const Node& statement, Symbol* exit);
-    void Return(const Node& node);
-    void Throw(const Node& node);
+    void TryCatch(const Node& node);
+    void Finally(const Node& node);
+    void GuardBlock(const Node& block, const Node& statement);
+    void EndGuard(Label end);
+    std::uint32_t MarksOf(const Node& statement) const;
+    void FollowMarks(std::uint32_t marks, std::uint32_t line);
+    void FollowMark(std::uint32_t mark);
     void Leave(NodeKind kind);
-    void LeaveGuard(const Scope& scope, NodeKind kind);
-    void AfterGuard(const Node& statement, Symbol* exit);
+    void LeaveGuard(const Scope& scope, std::uint32_t mark);
+    void Throw();
+    void Unwind(std::size_t scope, bool hasValue);
     void UnwindForIn();
-    Symbol* ExitName();
-    void SetLocal();
-    static bool HasLast(const Scope& scope);
+    bool IsBeforeLast() const;
 
     // Expressions.
     void Expression(const Node& node);
@@ -157,6 +159,7 @@ private:
     Place PlaceOf(const Node& node);
     Place PlaceOfVersion4(const Node& node);
     void PushPlace(const Place& place);
+    void PushPlaceUnderValue(const Place& place);
     void Load(const Place& place);
     void Store(const Place& place);
     void Assign(const Node& node, bool isWanted);
@@ -169,6 +172,7 @@ private:
     void IncrementAfter(const Place& place, Operator op);
     bool IsSimplePlace(const Place& place) const;
     void ChooseKeyRegisters();
+    Symbol* PathText(const Node& node, std::string_view path);
     bool SlashPathOf(const Node& node, std::string& path) const;
 
     // Calls.

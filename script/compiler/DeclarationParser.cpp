@@ -2,6 +2,7 @@
 
 #include "script/compiler/Parser.h"
 #include "script/compiler/ParserLevel.h"
+#include "script/compiler/ParserState.h"
 
 namespace tamber {
 
@@ -99,6 +100,7 @@ void Parser::Parameters(FunctionNode& function) {
 }
 
 void Parser::Declare(Symbol* name, bool isParameter) {
+    if (function_ == nullptr) name->IsOwn = true;
     if (function_ == nullptr || name->DeclaredIn == function_->Number) return;
     NameNode* node = arena_.Make<NameNode>();
     node->Name = name;
@@ -167,9 +169,12 @@ Node* Parser::ClassStatement() {
     Node* node = Make(NodeKind::Class, token_.Line);
     NeedVersion(6, token_.Text, token_.Line);
     if (function_ != nullptr || inClass_) Fail(u"クラスは関数の外に書いて下さい。");
-    while (IsSpecial(SpecialName::Dynamic) || IsSpecial(SpecialName::Intrinsic)) Advance();
     ClassNode* definition = arena_.Make<ClassNode>();
     node->Class = definition;
+    while (IsSpecial(SpecialName::Dynamic) || IsSpecial(SpecialName::Intrinsic)) {
+        definition->IsIntrinsic = definition->IsIntrinsic || IsSpecial(SpecialName::Intrinsic);
+        Advance();
+    }
     definition->Line = token_.Line;
     definition->IsInterface = IsSpecial(SpecialName::Interface);
     if (!definition->IsInterface && !IsSpecial(SpecialName::Class)) Fail(u"class が必要です。");
@@ -186,10 +191,28 @@ Node* Parser::ClassStatement() {
     }
     Expect(TokenKind::OpenBrace, u"{");
     inClass_ = true;
-    while (!Is(TokenKind::CloseBrace)) ClassMember(*definition);
+    ClassMembers(*definition);
     inClass_ = false;
-    Advance();
     return node;
+}
+
+/// Up to the brace that closes the class, whatever is wrong with a member.
+void Parser::ClassMembers(ClassNode& node) {
+    while (!Accept(TokenKind::CloseBrace)) {
+        if (Is(TokenKind::End)) Fail(u"} が必要です。");
+        const State before(*this);
+        const char* const first = token_.Text.data();
+        try {
+            ClassMember(node);
+        } catch (const SyntaxError&) {
+            before.Restore();
+            if (Is(TokenKind::End)) throw;
+            SkipToStatement();
+            if (token_.Text.data() != first) continue;
+            Advance();
+            SkipToStatement();
+        }
+    }
 }
 
 /// The name of a class, with what an import makes of it.
@@ -201,10 +224,28 @@ Node* Parser::ClassReference() {
     return imported != nullptr ? imported : name;
 }
 
+bool Parser::IsModifier() const {
+    return IsSpecial(SpecialName::Public) || IsSpecial(SpecialName::Private) ||
+           IsSpecial(SpecialName::Static);
+}
+
+/// What tools know about a member: lists in brackets before it.
+void Parser::SkipMetadata() {
+    int brackets = 0;
+    while (Is(TokenKind::OpenBracket) || brackets > 0) {
+        const bool isLost = Is(TokenKind::End) || Is(TokenKind::Semicolon) ||
+                            Is(TokenKind::OpenBrace) || Is(TokenKind::CloseBrace);
+        if (isLost) Fail(u"] が必要です。");
+        if (Is(TokenKind::OpenBracket)) ++brackets;
+        if (Is(TokenKind::CloseBracket)) --brackets;
+        Advance();
+    }
+}
+
 void Parser::ClassMember(ClassNode& node) {
     bool isStatic = false;
-    while (IsSpecial(SpecialName::Public) || IsSpecial(SpecialName::Private) ||
-           IsSpecial(SpecialName::Static)) {
+    SkipMetadata();
+    while (IsModifier()) {
         isStatic = isStatic || IsSpecial(SpecialName::Static);
         Advance();
     }
@@ -240,14 +281,15 @@ void Parser::Method(ClassNode& node, bool isStatic) {
         Advance();
     }
     member.Name = TakeMemberName();
-    if (node.IsInterface) {
+    const bool isConstructor =
+        member.Kind == MemberKind::Method && !isStatic && member.Name == node.Name->Name;
+    if (node.IsInterface || node.IsIntrinsic) {
         Signature();
+        if (node.IsIntrinsic && !isConstructor) AddMember(node, member);
         return EndStatement();
     }
     isMethodNext_ = !isStatic;
     member.Value = FunctionRest(nullptr, member.Line);
-    const bool isConstructor =
-        member.Kind == MemberKind::Method && !isStatic && member.Name == node.Name->Name;
     if (!isConstructor) return AddMember(node, member);
     if (node.Constructor != nullptr)
         Complain(member.Line, member.Name->Text, u"コンストラクタは一つだけです。");

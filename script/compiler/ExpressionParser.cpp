@@ -114,6 +114,7 @@ Node* Parser::Assignment() {
     const bool isCompound = token_.Kind >= FirstCompound && token_.Kind <= LastCompound;
     if (!isCompound && !Is(TokenKind::Assign)) return left;
     CheckTarget(*left);
+    if (left->Kind == NodeKind::Name && left->Name->DeclaredIn == 0) left->Name->IsOwn = true;
     Node* node = Make(NodeKind::Assign, token_.Line);
     if (isCompound) {
         node->Op =

@@ -4,116 +4,123 @@ namespace tamber {
 
 namespace {
 
-/// How a block of its own was left, in its variable.
-constexpr Long LeftByBreak = 1;
-constexpr Long LeftByContinue = 2;
-constexpr Long LeftByReturn = 3;
-
-/// Variable for a value that waits.
-constexpr std::string_view ResultName = "$result";
+/// How a block of its own was left, beside the jumps of its statement.
+constexpr Long AtEnd = 0;
+constexpr std::uint32_t EscapesByThrow = 8;
 
 }  // namespace
 
 void CodeGenerator::With(const Node& node) {
-    Symbol* exit = ExitName();
     Expression(*node.A);
-    const bool isLeft = (node.Count & (Node::EscapesByBreak | Node::EscapesByContinue)) != 0;
-    if (isLeft) {
-        code_->PushText(exit);
-        PushInteger(0);
-        SetLocal();
-    }
     code_->BeginWith(node.Line);
     ++function_.Withs;
-    GuardBlock(node.B, node, exit);
+    GuardBlock(*node.B, node);
     --function_.Withs;
     code_->EndWith();
-    AfterGuard(node, exit);
+    FollowMarks(MarksOf(node), node.Line);
 }
 
-/// Differs from that of each guard around.
-Symbol* CodeGenerator::ExitName() {
-    return symbols_.InternCopy("$exit" + std::to_string(scopes_.size()));
+/// The jumps that mark a guard when they leave it. A return does only where a `finally` runs first.
+std::uint32_t CodeGenerator::MarksOf(const Node& statement) const {
+    return IsBeforeLast() ? statement.Count : statement.Count & ~Node::EscapesByReturn;
 }
 
-/// A block that the player runs by itself: what leaves it goes to its end first, with a mark.
-void CodeGenerator::GuardBlock(const Node* block, const Node& statement, Symbol* exit) {
-    if (block == nullptr) return;
+/// Whether a `finally` of the function runs before a return ends it.
+bool CodeGenerator::IsBeforeLast() const {
+    for (std::size_t i = function_.FirstScope; i < scopes_.size(); ++i)
+        if (scopes_[i].HasLast) return true;
+    return false;
+}
+
+/// A block that the player runs by itself: what leaves it goes to its end first. Where that may be,
+/// each way there puts a value on the stack, which a return or throw has, and a mark.
+void CodeGenerator::GuardBlock(const Node& block, const Node& statement) {
     const Label end = code_->NewLabel(statement.Line);
-    const bool isLast = block == statement.C;
-    scopes_.push_back({ScopeKind::Guard, end, end, &statement, exit, isLast});
-    Statement(*block);
+    const bool isMarked = MarksOf(statement) != 0;
+    scopes_.push_back({ScopeKind::Guard, end, end, &statement});
+    Statement(block);
     scopes_.pop_back();
+    if (isMarked) EndGuard(end);
+}
+
+void CodeGenerator::EndGuard(Label end) {
+    code_->Emit(ItemKind::PushUndefined);
+    PushInteger(AtEnd);
     code_->Place(end);
 }
 
-void CodeGenerator::AfterGuard(const Node& statement, Symbol* exit) {
-    const auto follow = [&](std::uint32_t flag, Long mark, NodeKind kind) {
-        if ((statement.Count & flag) == 0) return;
-        const Label stays = code_->NewLabel(statement.Line);
-        code_->PushText(exit);
-        code_->Emit(Opcode::GetVariable);
-        PushInteger(mark);
+/// Goes on where a block that ended with a mark was to be left to.
+void CodeGenerator::FollowMarks(std::uint32_t marks, std::uint32_t line) {
+    if (marks == 0) return;
+    for (const std::uint32_t mark :
+         {Node::EscapesByBreak, Node::EscapesByContinue, Node::EscapesByReturn, EscapesByThrow}) {
+        if ((marks & mark) == 0) continue;
+        const Label next = code_->NewLabel(line);
+        code_->Emit(Opcode::PushDuplicate);
+        PushInteger(static_cast<Long>(mark));
         code_->Emit(Opcode::Equals2);
         code_->Emit(Opcode::Not);
-        code_->JumpIf(stays);
-        Leave(kind);
-        code_->Place(stays);
-    };
-    follow(Node::EscapesByBreak, LeftByBreak, NodeKind::Break);
-    follow(Node::EscapesByContinue, LeftByContinue, NodeKind::Continue);
-    if (statement.Kind == NodeKind::Try && statement.C != nullptr)
-        follow(Node::EscapesByReturn, LeftByReturn, NodeKind::Return);
+        code_->JumpIf(next);
+        code_->Emit(Opcode::Pop);
+        FollowMark(mark);
+        code_->Place(next);
+    }
+    code_->Emit(Opcode::Pop);
+    code_->Emit(Opcode::Pop);
 }
 
-void CodeGenerator::LeaveGuard(const Scope& scope, NodeKind kind) {
-    code_->PushText(scope.Exit);
-    PushInteger(kind == NodeKind::Break      ? LeftByBreak
-                : kind == NodeKind::Continue ? LeftByContinue
-                                             : LeftByReturn);
-    code_->Emit(Opcode::SetVariable);
-    code_->Jump(scope.Break);
-}
-
-/// Whether it is a part of a try whose `finally` runs before a function ends.
-bool CodeGenerator::HasLast(const Scope& scope) {
-    return scope.Kind == ScopeKind::Guard && scope.Statement->Kind == NodeKind::Try &&
-           scope.Statement->C != nullptr && !scope.IsLast;
+/// The value lies on the stack.
+void CodeGenerator::FollowMark(std::uint32_t mark) {
+    if (mark == EscapesByThrow) return Throw();
+    if (mark == Node::EscapesByReturn) return Leave(NodeKind::Return);
+    code_->Emit(Opcode::Pop);
+    Leave(mark == Node::EscapesByBreak ? NodeKind::Break : NodeKind::Continue);
 }
 
 /// Goes to where break, continue or return lead, out of what stands between. The value of a return
-/// that passes a `finally` waits in a variable.
+/// lies on the stack.
 void CodeGenerator::Leave(NodeKind kind) {
+    const bool isReturn = kind == NodeKind::Return;
+    const bool stopsAtGuard = !isReturn || IsBeforeLast();
     for (std::size_t i = scopes_.size(); i-- > function_.FirstScope;) {
         const Scope& scope = scopes_[i];
         const bool isLoop = scope.Kind == ScopeKind::Loop || scope.Kind == ScopeKind::ForIn;
         if (kind == NodeKind::Continue && isLoop) return code_->Jump(scope.Continue);
         if (kind == NodeKind::Break && (isLoop || scope.Kind == ScopeKind::Switch))
             return code_->Jump(scope.Break);
-        if (scope.Kind == ScopeKind::ForIn && code_->IsReachable()) UnwindForIn();
-        if (scope.Kind == ScopeKind::TellTarget) RestoreTarget(i);
-        if (scope.Kind == ScopeKind::Guard && (kind != NodeKind::Return || HasLast(scope)))
-            return LeaveGuard(scope, kind);
+        if (scope.Kind == ScopeKind::Guard && stopsAtGuard)
+            return LeaveGuard(scope, isReturn                  ? Node::EscapesByReturn
+                                     : kind == NodeKind::Break ? Node::EscapesByBreak
+                                                               : Node::EscapesByContinue);
+        Unwind(i, isReturn);
     }
-    if (kind != NodeKind::Return) return;
-    code_->PushText(Known(ResultName));
-    code_->Emit(Opcode::GetVariable);
-    code_->Emit(Opcode::Return);
+    if (isReturn) code_->Emit(Opcode::Return);
 }
 
-void CodeGenerator::Return(const Node& node) {
-    bool isKept = false;
-    for (std::size_t i = function_.FirstScope; i < scopes_.size(); ++i)
-        isKept = isKept || scopes_[i].Kind == ScopeKind::ForIn ||
-                 scopes_[i].Kind == ScopeKind::TellTarget || HasLast(scopes_[i]);
-    if (!isKept) return ReturnValue(node.A);
-    code_->PushText(Known(ResultName));
-    if (node.A != nullptr)
-        Expression(*node.A);
-    else
-        Undefined();
-    code_->Emit(Opcode::DefineLocal);
-    Leave(NodeKind::Return);
+void CodeGenerator::LeaveGuard(const Scope& scope, std::uint32_t mark) {
+    if (mark != Node::EscapesByReturn) code_->Emit(ItemKind::PushUndefined);
+    PushInteger(static_cast<Long>(mark));
+    code_->Jump(scope.Break);
+}
+
+/// Takes what a scope has left on the stack from there, from under a value that waits, or goes back
+/// to the target around it.
+void CodeGenerator::Unwind(std::size_t scope, bool hasValue) {
+    const ScopeKind kind = scopes_[scope].Kind;
+    if (!code_->IsReachable()) return;
+    if (kind == ScopeKind::TellTarget) return RestoreTarget(scope);
+    if (kind != ScopeKind::ForIn && kind != ScopeKind::Last) return;
+    if (hasValue) {
+        code_->Emit(ItemKind::StoreRegister, 0);
+        code_->Emit(Opcode::Pop);
+    }
+    if (kind == ScopeKind::ForIn) {
+        UnwindForIn();
+    } else {
+        code_->Emit(Opcode::Pop);
+        code_->Emit(Opcode::Pop);
+    }
+    if (hasValue) code_->PushRegister(0);
 }
 
 void CodeGenerator::ReturnValue(const Node* value) {
@@ -129,46 +136,52 @@ void CodeGenerator::ReturnValue(const Node* value) {
         Expression(*value);
     else
         Undefined();
-    code_->Emit(Opcode::Return);
+    Leave(NodeKind::Return);
 }
 
-/// Names that a loop between here and the nearest try has left on the stack would reach a loop
-/// around that.
-void CodeGenerator::Throw(const Node& node) {
-    std::size_t loops = 0;
-    bool isCaught = false;
-    for (std::size_t i = scopes_.size(); i-- > function_.FirstScope && !isCaught;) {
-        if (scopes_[i].Kind == ScopeKind::ForIn) ++loops;
-        isCaught =
-            scopes_[i].Kind == ScopeKind::Guard && scopes_[i].Statement->Kind == NodeKind::Try;
-    }
-    const bool isKept = isCaught && loops > 0;
-    if (isKept) code_->PushText(Known(ResultName));
-    Expression(*node.A);
-    if (isKept) {
-        SetLocal();
-        for (; loops > 0; --loops) UnwindForIn();
-        code_->PushText(Known(ResultName));
-        code_->Emit(Opcode::GetVariable);
-    }
+/// The value lies on the stack. What scopes between here and the nearest try have left there would
+/// reach those around it.
+void CodeGenerator::Throw() {
+    const auto catches = [this](std::size_t i) {
+        return scopes_[i].Kind == ScopeKind::Guard && scopes_[i].Statement->Kind == NodeKind::Try;
+    };
+    std::size_t nearest = scopes_.size();
+    while (nearest > function_.FirstScope && !catches(nearest - 1)) --nearest;
+    if (nearest > function_.FirstScope)
+        for (std::size_t i = scopes_.size(); i-- > nearest;) Unwind(i, true);
     code_->Emit(Opcode::Throw);
 }
 
 void CodeGenerator::Try(const Node& node) {
-    Symbol* exit = ExitName();
-    if (node.Count != 0) {
-        code_->PushText(exit);
-        PushInteger(0);
-        SetLocal();
-    }
-    code_->BeginTry({node.Name, node.Line, node.B != nullptr, node.C != nullptr});
-    GuardBlock(node.A, node, exit);
+    node.C == nullptr ? TryCatch(node) : Finally(node);
+}
+
+void CodeGenerator::TryCatch(const Node& node) {
+    code_->BeginTry({node.Name, node.Line});
+    GuardBlock(*node.A, node);
     code_->EndTryBlock(ItemKind::TryBodyEnd);
-    GuardBlock(node.B, node, exit);
-    code_->EndTryBlock(ItemKind::HandlerEnd);
-    GuardBlock(node.C, node, exit);
+    GuardBlock(*node.B, node);
     code_->EndTryBlock(ItemKind::TryEnd);
-    AfterGuard(node, exit);
+    FollowMarks(MarksOf(node), node.Line);
+}
+
+/// The player has an action for it, out of whose last block no jump can lead: so that block stands
+/// behind a try that catches everything, and what was thrown is thrown again behind it.
+void CodeGenerator::Finally(const Node& node) {
+    const Label end = code_->NewLabel(node.Line);
+    code_->BeginTry({nullptr, node.Line});
+    scopes_.push_back({ScopeKind::Guard, end, end, &node, true});
+    node.B == nullptr ? Statement(*node.A) : TryCatch(node);
+    scopes_.pop_back();
+    EndGuard(end);
+    code_->EndTryBlock(ItemKind::TryBodyEnd);
+    code_->PushRegister(0);
+    PushInteger(EscapesByThrow);
+    code_->EndTryBlock(ItemKind::TryEnd);
+    scopes_.push_back({ScopeKind::Last});
+    Statement(*node.C);
+    scopes_.pop_back();
+    FollowMarks(node.Count | EscapesByThrow, node.Line);
 }
 
 }  // namespace tamber

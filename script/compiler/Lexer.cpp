@@ -38,8 +38,8 @@ bool IsNameCharacter(char letter) {
     return ClassOf(letter) >= LetterClass;
 }
 
-/// Names and texts stand in records of 64 KB at most, with what else these hold.
-constexpr std::size_t MaxText = 65000;
+/// First character that UTF-16 has two halves for.
+constexpr std::uint32_t FirstWide = 0x10000;
 
 /// Value of a digit of a base up to 16; 16 for what is none.
 unsigned DigitValue(char letter) {
@@ -304,8 +304,8 @@ bool Lexer::ReadSlashPath(Token& token, PathForm form) {
 }
 
 void Lexer::CheckLength(const Token& token) {
-    if (token.Text.size() > MaxText)
-        diagnostics_.Error(token.Line, token.Text, u"名前や文字列が長すぎます。64KB までです。");
+    if (token.Text.size() > Symbol::MaxText)
+        diagnostics_.Error(token.Line, token.Text, String(Symbol::TooLong));
 }
 
 Token Lexer::ReadNumber(Token token) {
@@ -411,11 +411,24 @@ void Lexer::AppendCharacter(std::string& text, std::uint32_t code, const Token& 
     } else if (code < 0x80 || (!isUtf8_ && code < 0x100)) {
         text += static_cast<char>(code);
     } else {
-        const auto letter = static_cast<char16_t>(code);
-        const StringView one(&letter, 1);
+        String one;
+        if (code >= FirstWide) one += static_cast<char16_t>(0xD800 + ((code - FirstWide) >> 10));
+        one += static_cast<char16_t>(code < FirstWide ? code : 0xDC00 | (code & 0x3FF));
         const Bytes bytes = isUtf8_ ? EncodeUtf8(one) : EncodeAnsi(one);
         text.append(bytes.begin(), bytes.end());
     }
+}
+
+/// The character whose first half is told, when the escape of the second stands behind it.
+std::uint32_t Lexer::ReadSecondHalf(std::uint32_t first) {
+    if (!Between(at_, end_).starts_with("\\u")) return first;
+    const char* begin = at_;
+    at_ += 2;
+    const std::uint32_t second = ReadDigits(16, 4);
+    if (second >= 0xDC00 && second < 0xE000)
+        return FirstWide + ((first & 0x3FF) << 10) + (second & 0x3FF);
+    at_ = begin;
+    return first;
 }
 
 void Lexer::ReadEscape(std::string& text, const Token& token) {
@@ -428,7 +441,9 @@ void Lexer::ReadEscape(std::string& text, const Token& token) {
     }
     if ((letter == 'x' || letter == 'u') && DigitValue(Ahead(1)) < 16) {
         ++at_;
-        AppendCharacter(text, ReadDigits(16, letter == 'x' ? 2 : 4), token);
+        std::uint32_t code = ReadDigits(16, letter == 'x' ? 2 : 4);
+        if (code >= 0xD800 && code < 0xDC00) code = ReadSecondHalf(code);
+        AppendCharacter(text, code, token);
         return;
     }
     constexpr std::string_view Names = "bfnrtv";

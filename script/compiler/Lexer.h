@@ -47,6 +47,7 @@ private:
     Token ReadString(Token token);
     void ReadEscape(std::string& text, const Token& token);
     std::uint32_t ReadDigits(unsigned base, int count);
+    std::uint32_t ReadSecondHalf(std::uint32_t first);
     void AppendCharacter(std::string& text, std::uint32_t code, const Token& token);
     bool ReadPunctuation(Token& token);
     void Take(Token& token, TokenKind kind, std::size_t length);

@@ -118,7 +118,8 @@ enum class Operator : Byte {
 /// | Switch | value, first case | |
 /// | Case | value (null: default), first statement | |
 /// | With, TellTarget, IfFrameLoaded | object or frame, body | With: Count, the jumps that leave it
-/// | | Try | body, handler, last | Name of the exception; Count as With |
+/// | | Try | body, handler, last | Name of the exception; Count: the jumps that leave body or
+/// handler |
 struct Node {
     /// Jumps that leave a With or Try, in its Count.
     static constexpr std::uint32_t EscapesByBreak = 1;
@@ -216,6 +217,8 @@ struct ClassNode {
     Node* Base = nullptr;
     NodeList Interfaces;
     bool IsInterface = false;
+    /// Whether the player has it, so that no code is made of what tells of it.
+    bool IsIntrinsic = false;
     std::uint32_t Line = 0;
     Node* Constructor = nullptr;
     MemberNode* FirstMember = nullptr;

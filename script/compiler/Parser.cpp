@@ -2,6 +2,7 @@
 
 #include "platform/text.h"
 #include "script/compiler/ParserLevel.h"
+#include "script/compiler/ParserState.h"
 #include "script/compiler/VersionAdvice.h"
 
 namespace tamber {
@@ -35,27 +36,12 @@ Node* Parser::NextStatement() {
 
 /// Null after an error.
 Node* Parser::GuardedStatement() {
-    const int loops = loops_;
-    const int switches = switches_;
-    const int colons = colonsAwaited_;
-    const int blocks = blocks_;
-    FunctionNode* const function = function_;
-    const bool inClass = inClass_;
-    const std::size_t firstGuard = firstGuard_;
-    const std::size_t guards = guards_.size();
+    const State before(*this);
     const char* const first = token_.Text.data();
     try {
         return Statement();
     } catch (const SyntaxError&) {
-        loops_ = loops;
-        switches_ = switches;
-        colonsAwaited_ = colons;
-        blocks_ = blocks;
-        function_ = function;
-        firstGuard_ = firstGuard;
-        guards_.resize(guards);
-        inClass_ = inClass;
-        if (diagnostics_.IsFull()) throw HopelessError();
+        before.Restore();
         Recover();
         if (token_.Text.data() == first) Advance();
     }
@@ -122,7 +108,8 @@ void Parser::Recover() {
     Accept(TokenKind::Else);
 }
 
-/// Behind a semicolon, at a word that begins a line, or at the brace that closes the block.
+/// Behind a semicolon, at a word that begins a line, in a class also at one that begins a member,
+/// or at the brace that closes the block.
 void Parser::SkipToStatement() {
     int braces = 0;
     for (; !Is(TokenKind::End); Advance()) {
@@ -133,7 +120,8 @@ void Parser::SkipToStatement() {
             Advance();
             return;
         }
-        if (token_.StartsLine && token_.Kind >= TokenKind::Break) return;
+        if (token_.StartsLine && (token_.Kind >= TokenKind::Break || (inClass_ && IsModifier())))
+            return;
     }
 }
 
@@ -221,8 +209,16 @@ Node* Parser::ExpressionStatement() {
     Node* statement = Make(NodeKind::Expression, token_.Line);
     atStatement_ = true;
     statement->A = Expression();
+    if (IsMetadata(*statement->A) && IsClassAhead()) return Make(NodeKind::Empty, token_.Line);
     EndStatement();
     return statement;
+}
+
+/// Whether an expression may be what tools know about the class behind it: lists in brackets.
+bool Parser::IsMetadata(const Node& expression) {
+    const Node* node = &expression;
+    while (node->Kind == NodeKind::Index) node = node->A;
+    return node->Kind == NodeKind::Array;
 }
 
 void Parser::EndStatement() {

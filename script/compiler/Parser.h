@@ -28,6 +28,7 @@ private:
     struct HopelessError {};
     /// Counts what stands in each other.
     class Level;
+    class State;
 
     // Tokens.
     void Advance() { token_ = lexer_.Next(); }
@@ -53,6 +54,7 @@ private:
     Node* SimpleStatement();
     Node* StrayPart(const String& text);
     Node* ExpressionStatement();
+    static bool IsMetadata(const Node& expression);
     Node* Block();
     Node* Grouped(const NodeList& list, std::uint32_t line);
     Node* LoopBody();
@@ -127,7 +129,10 @@ private:
     void CloseFunction(FunctionNode& function, std::size_t firstUse);
     Node* DottedName();
     Node* ClassReference();
+    void ClassMembers(ClassNode& node);
     void ClassMember(ClassNode& node);
+    void SkipMetadata();
+    bool IsModifier() const;
     void Field(ClassNode& node, bool isStatic);
     void Method(ClassNode& node, bool isStatic);
     void Signature();

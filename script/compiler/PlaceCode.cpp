@@ -47,9 +47,9 @@ CodeGenerator::Place CodeGenerator::PlaceOfVersion4(const Node& node) {
         case NodeKind::Member:
             if (!SlashPathOf(*node.A, path)) break;
             if (node.Name->Property != Symbol::NoProperty)
-                return {PlaceKind::Property, 0, node.Name->Property, symbols_.InternCopy(path)};
+                return {PlaceKind::Property, 0, node.Name->Property, PathText(node, path)};
             if (!path.empty()) path += ':';
-            return {.Name = symbols_.InternCopy(path.append(node.Name->Text))};
+            return {.Name = PathText(node, path.append(node.Name->Text))};
         case NodeKind::Call:
             return {PlaceKind::Named, 0, 0, nullptr, node.B};
         default:
@@ -57,6 +57,12 @@ CodeGenerator::Place CodeGenerator::PlaceOfVersion4(const Node& node) {
     }
     NeedVersion5(node);
     return {.Name = Known("")};
+}
+
+/// What a name with dots becomes may be longer than a text can be.
+Symbol* CodeGenerator::PathText(const Node& node, std::string_view path) {
+    if (path.size() > Symbol::MaxText) Complain(node, String(Symbol::TooLong));
+    return symbols_.InternCopy(path);
 }
 
 void CodeGenerator::NeedVersion5(const Node& node) {
@@ -232,6 +238,23 @@ void CodeGenerator::ChangeComplex(const Place& place, const Node* value, Operato
     Load(place);
     ApplyChange(value, op);
     StoreWanted(place, isWanted);
+}
+
+/// What Store needs below the value that lies on the stack.
+void CodeGenerator::PushPlaceUnderValue(const Place& place) {
+    PushPlace(place);
+    if (place.Kind != PlaceKind::Member && place.Kind != PlaceKind::Index)
+        return code_->Emit(Opcode::StackSwap);
+    ChooseKeyRegisters();
+    for (const Byte number : {function_.Key, function_.Object}) {
+        code_->Emit(ItemKind::StoreRegister, number);
+        code_->Emit(Opcode::Pop);
+    }
+    code_->Emit(ItemKind::StoreRegister, 0);
+    code_->Emit(Opcode::Pop);
+    code_->PushRegister(function_.Object);
+    code_->PushRegister(function_.Key);
+    code_->PushRegister(0);
 }
 
 /// Registers that nothing else uses, behind the function's variables where it has its own. Nothing

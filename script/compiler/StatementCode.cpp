@@ -59,7 +59,7 @@ void CodeGenerator::Statement(const Node& node) {
         case NodeKind::Continue:
             return Leave(node.Kind);
         case NodeKind::Return:
-            return Return(node);
+            return ReturnValue(node.A);
         case NodeKind::Switch:
             return Switch(node);
         case NodeKind::With:
@@ -71,7 +71,8 @@ void CodeGenerator::Statement(const Node& node) {
         case NodeKind::Try:
             return Try(node);
         case NodeKind::Throw:
-            return Throw(node);
+            Expression(*node.A);
+            return Throw();
         case NodeKind::Function:
             return Function(node);
         case NodeKind::Class:
@@ -192,22 +193,31 @@ void CodeGenerator::ForIn(const Node& node) {
     code_->Place(end);
 }
 
-/// Version 5 enumerates by name only, so what has none is kept in a variable.
+/// Version 5 enumerates by name only, so what has none becomes a member for a moment: of an object
+/// that no clip has.
 void CodeGenerator::EnumerateObject(const Node& object) {
     if (version_ >= 6) {
         Expression(object);
-        code_->Emit(Opcode::Enumerate2);
-    } else if (object.Kind == NodeKind::Name) {
-        code_->PushText(object.Name);
-        code_->Emit(Opcode::Enumerate);
-    } else {
-        Symbol* name = symbols_.InternCopy("$in" + std::to_string(scopes_.size()));
-        code_->PushText(name);
-        Expression(object);
-        code_->Emit(Opcode::DefineLocal);
-        code_->PushText(name);
-        code_->Emit(Opcode::Enumerate);
+        return code_->Emit(Opcode::Enumerate2);
     }
+    const std::string path = DottedPath(object);
+    if (!path.empty()) {
+        code_->PushText(PathText(object, path));
+        return code_->Emit(Opcode::Enumerate);
+    }
+    const auto pushOwner = [this] {
+        Text("Object");
+        code_->Emit(Opcode::GetVariable);
+        Text("$in");
+    };
+    pushOwner();
+    Expression(object);
+    code_->Emit(Opcode::SetMember);
+    Text("Object.$in");
+    code_->Emit(Opcode::Enumerate);
+    pushOwner();
+    code_->Emit(Opcode::Delete);
+    code_->Emit(Opcode::Pop);
 }
 
 /// Register 0 holds the name.
@@ -230,13 +240,8 @@ void CodeGenerator::AssignEnumerated(const Node& target) {
         code_->PushRegister(0);
     } else {
         // What names the place may use register 0.
-        const Place kept{.Name = symbols_.InternCopy("$name" + std::to_string(scopes_.size()))};
-        PushPlace(kept);
         code_->PushRegister(0);
-        code_->Emit(Opcode::DefineLocal);
-        PushPlace(place);
-        PushPlace(kept);
-        Load(kept);
+        PushPlaceUnderValue(place);
     }
     Store(place);
 }
@@ -250,59 +255,63 @@ void CodeGenerator::UnwindForIn() {
     code_->JumpIf(next);
 }
 
-/// The tests use register 0, or a variable where they could change it.
+/// Clauses without statements have the label of the next.
 void CodeGenerator::Switch(const Node& node) {
     const Label end = code_->NewLabel(node.Line);
     std::vector<Label> labels;
-    for (const Node* clause = node.B; clause != nullptr; clause = clause->Next)
-        labels.push_back(code_->NewLabel(clause->Line));
+    bool isShared = false;
+    for (const Node* clause = node.B; clause != nullptr; clause = clause->Next) {
+        labels.push_back(isShared ? labels.back() : code_->NewLabel(clause->Line));
+        isShared = clause->B == nullptr;
+    }
     SwitchTests(node, labels, end);
     scopes_.push_back({ScopeKind::Switch, end});
     std::size_t i = 0;
-    for (const Node* clause = node.B; clause != nullptr; clause = clause->Next) {
-        code_->Place(labels[i++]);
+    for (const Node* clause = node.B; clause != nullptr; clause = clause->Next, ++i) {
+        if (i == 0 || labels[i] != labels[i - 1]) PlaceClause(labels[i]);
         Statements(clause->B);
     }
     scopes_.pop_back();
     code_->Place(end);
 }
 
+/// The tests come here with the value on the stack, the clause before without it.
+void CodeGenerator::PlaceClause(Label label) {
+    if (version_ < FirstStackVersion) return code_->Place(label);
+    const Label begin = code_->NewLabel(0);
+    code_->Jump(begin);
+    code_->Place(label);
+    code_->Emit(Opcode::Pop);
+    code_->Place(begin);
+}
+
+/// The value stays on the stack until a clause is found; in version 4, which cannot copy it there,
+/// in a variable.
 void CodeGenerator::SwitchTests(const Node& node, const std::vector<Label>& labels, Label end) {
-    Symbol* kept = nullptr;
-    bool mayCall = false;
-    for (const Node* clause = node.B; clause != nullptr; clause = clause->Next)
-        mayCall = mayCall || (clause->A != nullptr && !IsSimple(*clause->A));
-    const bool usesVariable = version_ < 5 || mayCall;
-    if (usesVariable) {
-        kept = symbols_.InternCopy("$switch" + std::to_string(scopes_.size()));
-        code_->PushText(kept);
-        Expression(*node.A);
-        SetLocal();
-    } else {
-        Expression(*node.A);
-        code_->Emit(ItemKind::StoreRegister, 0);
-    }
-    bool isFirst = !usesVariable;
-    Label otherwise = end;
+    Symbol* const kept = symbols_.InternCopy("$switch" + std::to_string(scopes_.size()));
+    const bool isOnStack = version_ >= FirstStackVersion;
+    if (!isOnStack) code_->PushText(kept);
+    Expression(*node.A);
+    if (!isOnStack) code_->Emit(Opcode::SetVariable);
+    const Label* otherwise = nullptr;
     std::size_t i = 0;
     for (const Node* clause = node.B; clause != nullptr; clause = clause->Next, ++i) {
         if (clause->A == nullptr) {
-            otherwise = labels[i];
+            otherwise = &labels[i];
             continue;
         }
-        if (kept != nullptr) {
+        if (isOnStack) {
+            code_->Emit(Opcode::PushDuplicate);
+        } else {
             code_->PushText(kept);
             code_->Emit(Opcode::GetVariable);
-        } else if (!isFirst) {
-            code_->PushRegister(0);
         }
-        isFirst = false;
         Expression(*clause->A);
         TestOfCase(*clause->A);
         code_->JumpIf(labels[i]);
     }
-    if (isFirst) code_->Emit(Opcode::Pop);
-    code_->Jump(otherwise);
+    if (otherwise == nullptr && isOnStack) code_->Emit(Opcode::Pop);
+    code_->Jump(otherwise == nullptr ? end : *otherwise);
 }
 
 void CodeGenerator::TestOfCase(const Node& value) {
@@ -312,11 +321,6 @@ void CodeGenerator::TestOfCase(const Node& value) {
         code_->Emit(Opcode::Equals2);
     else
         code_->Emit(value.Kind == NodeKind::Text ? Opcode::StringEquals : Opcode::Equals);
-}
-
-/// The name and the value lie on the stack.
-void CodeGenerator::SetLocal() {
-    code_->Emit(function_.Node != nullptr ? Opcode::DefineLocal : Opcode::SetVariable);
 }
 
 /// Inside another target, within the first so many scopes, that one is set again, and otherwise the
@@ -332,7 +336,7 @@ void CodeGenerator::SetTarget(const Node& target) {
     if (target.Kind == NodeKind::Text || target.Kind == NodeKind::SlashPath) {
         code_->Emit(ItemKind::SetTarget, target.Name->Index);
     } else if (version_ < 5 && target.Kind == NodeKind::Member && SlashPathOf(target, path)) {
-        code_->Emit(ItemKind::SetTarget, symbols_.InternCopy(path)->Index);
+        code_->Emit(ItemKind::SetTarget, PathText(target, path)->Index);
     } else {
         Expression(target);
         code_->Emit(Opcode::SetTarget2);

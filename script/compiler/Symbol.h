@@ -40,6 +40,9 @@ enum class SpecialName : Byte {
 struct Symbol {
     static constexpr Byte NoRegister = 0;
     static constexpr Byte NoProperty = 0xFF;
+    /// Bytes of a text at most: it stands in a record of 64 KB, with what else that holds.
+    static constexpr std::size_t MaxText = 65000;
+    static constexpr StringView TooLong = u"名前や文字列が長すぎます。64KB までです。";
 
     std::string_view Text;
     std::uint32_t Hash = 0;
@@ -59,6 +62,8 @@ struct Symbol {
     /// First version whose players know the name, or 0.
     Byte NeededVersion = 0;
     const Builtin* BuiltinEntry = nullptr;
+    /// Whether the script gives a variable of the timeline that name.
+    bool IsOwn = false;
 
     /// Register that holds the variable in the function whose code is being made.
     Byte Register = NoRegister;

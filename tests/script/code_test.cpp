@@ -110,6 +110,10 @@ TEST(Code, OfVersion6ComparesStrictlyAndEnumeratesObjects) {
          "96 05 00 00 6B 00 04 00 1D 96 03 00 00 6B 00 1C 26 99 02 00 DC FF"},
         {6, "x = \"\xE6\x97\xA5\";", "96 08 00 00 78 00 00 E6 97 A5 00 1D"},
         {6, "x = MovieClip(a);", "96 06 00 00 78 00 00 61 00 1C 1D"},
+        {6, "x = \"\\uD83D\\uDE00\";", "96 09 00 00 78 00 00 F0 9F 98 80 00 1D"},
+        {6, "switch (a) { case b: c(); break; default: d(); }",
+         "96 03 00 00 61 00 1C 4C 96 03 00 00 62 00 1C 66 9D 02 00 05 00 99 02 00 10 00 17 "
+         "96 05 00 05 00 00 63 00 3D 17 99 02 00 0B 00 17 96 05 00 05 00 00 64 00 3D 17"},
     });
 }
 
@@ -121,7 +125,7 @@ TEST(Code, OfVersion7HasFunctionsWithRegistersExceptionsAndCasts) {
         {7, "try { f(); } catch (e) {}",
          "8F 09 00 01 0D 00 00 00 00 00 65 00 96 08 00 07 00 00 00 00 00 66 00 3D 17"},
         {7, "x = MovieClip(a);",
-         "96 0E 00 00 78 00 00 4D 6F 76 69 65 43 6C 69 70 00 1C 96 03 00 00 61 00 1C 2B 1D"},
+         "96 06 00 00 78 00 00 61 00 1C 96 0B 00 00 4D 6F 76 69 65 43 6C 69 70 00 1C 4D 2B 1D"},
     });
 }
 
@@ -130,6 +134,7 @@ TEST(Code, IsNotMadeOfWhatHasNoEffectOrCannotBeReached) {
         {6, "", ""},
         {6, " // only\n /* comments */ ; ", ""},
         {6, "if (false) trace(1);", ""},
+        {6, "[Event(\"a\")]\n[Icon(\"b\")] intrinsic class C { var x; function f():Void; }", ""},
         {6, "while (0) trace(1);", ""},
         {6, "function f() { return 1; trace(2); }",
          "9B 06 00 66 00 00 00 09 00 96 05 00 07 01 00 00 00 3E"},

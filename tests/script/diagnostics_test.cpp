@@ -95,6 +95,15 @@ TEST(Diagnostics, AreNotRepeatedForOneFault) {
         "a();\nin b;",
         "switch (a) {\ncase 1: x = ;\ncase 2: y();\n}",
         "x = \"open\ny = 1;",
+        "class A {\nvar 5;\nvar b;\nfunction c() { }\n}",
+        "class A {\nfunction 5() { a(); }\nfunction b() { }\n}",
+        "class A {\npublic x() { a(); }\npublic function b() { }\n}",
+        "class A {\nwhile (a) { b(); }\nstatic var c;\n}",
+        "class A {\n{ a(); }\nvar c;\n}",
+        "class A {\n[Told(1;\nvar c;\n}",
+        "class A { private }",
+        "class A {\nvar b;\n",
+        "class A {\nfunction",
     };
     for (const std::string_view source : sources)
         EXPECT_EQ(Compiled(source, 7).Errors.size(), 1U) << source;
@@ -186,6 +195,21 @@ TEST(Diagnostics, StandForTextsThatNoCodeCanHold) {
     for (const Long version : {4, 6, 7})
         for (const std::string& source : sources)
             EXPECT_FALSE(Compiled(source, version).IsCompiled()) << source.substr(0, 20);
+}
+
+TEST(Diagnostics, TellOfNamesWithDotsThatMakeTooLongAPath) {
+    const std::string part(40000, 'n');
+    const std::string path = "a." + part + "." + part;
+    const std::pair<Long, std::string> sources[] = {
+        {4, path + ".x = 1;"},
+        {4, path + "._x = 1;"},
+        {4, "tellTarget (" + path + ") play();"},
+        {4, path + ".play();"},
+        {5, "for (k in " + path + ") x();"},
+    };
+    for (const auto& [version, source] : sources)
+        EXPECT_FALSE(Compiled(source, version).IsCompiled()) << source.substr(0, 20);
+    EXPECT_TRUE(Compiled("for (k in " + path + ") x();", 6).IsCompiled());
 }
 
 TEST(Diagnostics, AreNotNeededForLongChains) {

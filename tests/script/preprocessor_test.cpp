@@ -160,6 +160,10 @@ TEST_F(Includes, are_told_by_the_check_with_their_line) {
               u"onClipEvent または on が必要です。（行番号：1）");
     EXPECT_EQ(check(u";\r\n#include \"bad.as\"", ScriptKind::Frame).Message,
               u"文法に誤りがあります。（行番号：2）");
+    Write(u"init.as", u"#initclip 1\r\nx = 1;\r\n#endinitclip\r\ny = 2;");
+    Write(u"badinit.as", u"#initclip\r\nx = ;\r\n#endinitclip\r\n");
+    EXPECT_TRUE(check(u"#include \"init.as\"\r\nz = 3;", ScriptKind::Frame).Ok);
+    EXPECT_EQ(check(u"\r\n#include \"badinit.as\"", ScriptKind::Frame).Line, 2);
     EXPECT_EQ(check(u"#include \"self.as\"", ScriptKind::Frame).Message,
               u"循環参照です。（行番号：1）\r\n\r\n" + folder_ + u"/self.as →\r\n" + folder_ +
                   u"/self.as");

@@ -17,6 +17,24 @@ trace(2 + 2);        //= 4
 getURL("FSCommand:asked", "now"); //! asked|now
 setProperty("/clip", _x, x); setProperty("/clip", _y, x + 1);
 trace(getProperty("/clip", _x) add "," add getProperty("/clip", _y)); //= 40,41
+trace(getProperty("/", _xmouse) - getProperty("/clip", _xmouse)); //= 40
+trace(getProperty("/", _ymouse) - getProperty("/clip", _ymouse)); //= 41
+setProperty("/clip", _visible, 0);
+trace(getProperty("/clip", _visible)); //=4-4 0
+                     //=5+ false
+setProperty("/clip", _visible, 1);
+trace(getProperty("/clip", _visible)); //=4-4 1
+                     //=5+ true
+setProperty("/", _quality, "LOW");
+trace(getProperty("/", _quality) add getProperty("/", _highquality)); //= LOW0
+setProperty("/", _highquality, 1);
+trace(getProperty("/", _quality) add getProperty("/", _highquality)); //= HIGH1
+setProperty("/", _focusrect, 0);
+trace(getProperty("/", _focusrect)); //=-5 0
+                     //=6+ false
+setProperty("/", _focusrect, 1);
+trace(getProperty("/", _focusrect)); //=-5 1
+                     //=6+ true
 setProperty("/clip", _xscale, 50); setProperty("/clip", _yscale, 25);
 trace(getProperty("/clip", _xscale) add "," add getProperty("/clip", _yscale)); //= 50,25
 setProperty("/clip", _rotation, 90); setProperty("/clip", _alpha, 50);

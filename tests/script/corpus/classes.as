@@ -58,3 +58,18 @@ Object.registerClass("Sym", Shape);
 var s = attachMovie("Sym", "made", 5);
 trace(s.hit());            //= 4
 trace(made._currentframe); //= 1
+intrinsic class TextSnapshot { var x:Number; function getCount():Number; static function make(a:Object):TextSnapshot; }
+intrinsic dynamic class Unknown extends MovieClip { function Unknown(); function get size():Number; private var y; }
+trace(typeof Unknown);     //= undefined
+[Event("change")]
+[IconFile("box.png")] class Box {
+  [Inspectable(defaultValue="a", type=String)]
+  var label:String = "plain";
+  [Inspectable(name="Size", enumeration="1,2")] public function get size():Number { return 2; }
+  [Bindable] [ChangeEvent("change")] static function kind():String { return "box"; }
+  function Button(x) { return "member " + x; }
+  function call(x) { return Button(x); }
+}
+trace(new Box().label + new Box().size + Box.kind()); //= plain2box
+trace(new Box().call(1));  //= member 1
+trace(MovieClip(this) == this); //= true

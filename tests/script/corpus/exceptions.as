@@ -60,3 +60,36 @@ function leaves(o) { while (true) { with (o) { try { if (v) break; } finally { v
 trace(leaves({v: 0}));            //= w
                                   //= w
                                   //= done
+// What leaves a `finally` forgets what was on its way; nothing shows among a timeline's variables.
+function forgets(how) {
+  for (var i = 0; i < 3; i++) {
+    try { if (how == "return") return "returned"; if (how == "throw") throw "thrown"; }
+    finally { if (i == 0) continue; if (i == 1) break; }
+  }
+  return how + i;
+}
+trace(forgets("return") + forgets("throw") + forgets("")); //= return1throw11
+for (i = 0; i < 2; i++) { try { throw "lost"; } catch (e) { throw e + "again"; } finally { continue; } }
+trace("on" + i);                  //= on2
+for (k in {a: 1, b: 1}) { try { throw k; } finally { for (j in {p: 1, q: 1}) break; continue; } }
+trace(k + j);                     //= bp
+function inner() { try { return 1; } finally { for (;;) { try { return 2; } finally { break; } } } }
+trace(inner());                   //= 1
+function both() { try { try { throw 1; } finally { throw 2; } } catch (e) { return e; } }
+trace(both());                    //= 2
+function deep(o) { try { with (o) { try { return v; } catch (e) { } } } finally { o.v = 9; } }
+kept = {v: 5}; trace(deep(kept) + "," + kept.v); //= 5,9
+function chosen(a) { try { return a ? "yes" : "no"; } finally { a = !a; } }
+trace(chosen(true) + chosen(false)); //= yesno
+function looped(o) { for (var k in o) { try { for (var j in o) { try { return k + j; } finally { j = 0; } } } finally { k = 0; } } }
+for (k in {z: 1}) trace(looped({a: 1, b: 1}) + k); //= aaz
+function found(o) { for (var k in o) if (k.indexOf("$") >= 0 && k != "$version") return k; return "nothing"; }
+for (i = 0; i < 2; i++) { try { if (i == 1) break; trace(found(this)); } finally { trace(found(this)); } } //= nothing
+                                  //= nothing
+                                  //= nothing
+for (;;) { try { throw "x"; } finally { trace(found(this)); break; } } //= nothing
+trace(found(this));               //= nothing
+for (k in {a: 1, b: 1}) { try { tellTarget("clip") { throw _name; } } catch (e) { trace(e + _target); } } //= clip/
+                                  //= clip/
+try { try { null.x.y(); throw "rethrown"; } finally { trace("first"); } } catch (e) { trace(e); } //= first
+                                  //= rethrown

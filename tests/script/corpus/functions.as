@@ -54,3 +54,11 @@ trace(typeof cond(0));      //= string
 trace(cond(5));      //= 5!
 named = function sums(n) { return n > 0 ? n + sums(n - 1) : 0; };
 trace(named(3));     //= 6
+function Button(x) { return "own " + x; }
+trace(Button(3));            //= own 3
+trace(XML("b"));             //= later b
+function XML(text) { return "later " + text; }
+Color = function (c) { return c * 2; };
+trace(Color(4));             //= 8
+function given(Sound) { var Video = function (v) { return v + 1; }; return Sound(5) + Video(6); }
+trace(given(function (s) { return s; })); //= 12
