@@ -321,6 +321,9 @@ private:
     /// History that edits of the edited timeline go into.
     clsUndoRedo& EditHistory();
     void AttachHistory();
+    /// A project file to read: `path`, or what a dialog gives for an empty one. Empty when
+    /// cancelled and, after a message, when there is no such file.
+    static String ExistingProject(StringView path, StringView title);
     /// Asks what to do with changes. False when the command must not go on.
     bool Guard();
     void ClearHistories();

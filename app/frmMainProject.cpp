@@ -89,19 +89,23 @@ bool frmMain::mnuNew() {
     return true;
 }
 
-bool frmMain::OpenProject(StringView path) {
-    if (!Guard()) return false;
+String frmMain::ExistingProject(StringView path, StringView title) {
     String chosen(path);
     if (chosen.empty()) {
-        FileDialog dialog = ProjectDialog(u"プロジェクトを開く");
+        FileDialog dialog = ProjectDialog(title);
         dialog.Filters = {{u"KVFファイル (*.kvf;*.kvfz)", u"*.kvf;*.kvfz"}};
         chosen = CurrentUserInterface().OpenFileDialog(dialog);
-        if (chosen.empty()) return false;
+        if (chosen.empty()) return {};
     }
-    if (!FileExists(chosen)) {
-        ShowMessage(chosen + u"\r\n\r\nファイルが見つかりません。");
-        return false;
-    }
+    if (FileExists(chosen)) return chosen;
+    ShowMessage(chosen + u"\r\n\r\nファイルが見つかりません。");
+    return {};
+}
+
+bool frmMain::OpenProject(StringView path) {
+    if (!Guard()) return false;
+    const String chosen = ExistingProject(path, u"プロジェクトを開く");
+    if (chosen.empty()) return false;
     Project opened = inProject;
     if (!LoadProject(chosen, opened, AssetReader())) return false;
     ReleaseProject(inProject, cUndoRedo);
