@@ -121,16 +121,23 @@ bool frmMain::SaveTo(StringView path, RuntimeError* why) {
 }
 
 bool frmMain::IsSource(StringView path) const {
-    if (SameFile(path, ProjectFileName)) return true;
+    return SameFile(path, ProjectFileName) || IsSymbolFile(path);
+}
+
+bool frmMain::IsSymbolFile(StringView path) const {
     return std::any_of(colSymbol()->begin(), colSymbol()->end(), [path](const auto& symbol) {
         return !symbol->FilePathName.empty() && SameFile(path, symbol->FilePathName);
     });
 }
 
+void frmMain::TellInUse(StringView path) {
+    ShowMessage(String(path) + u"\r\n\r\nプロジェクトで使用中のファイルには出力できません。",
+                ProgramTitle, MessageIcon::Error);
+}
+
 bool frmMain::mnuAuthoring(StringView path) {
     if (FileExists(path) && IsSource(path)) {
-        ShowMessage(String(path) + u"\r\n\r\nプロジェクトで使用中のファイルには出力できません。",
-                    ProgramTitle, MessageIcon::Error);
+        TellInUse(path);
         return false;
     }
     view_->DispDataTbl();

@@ -115,8 +115,8 @@ public:
     /// Steps were recorded since the last save.
     bool IsProjectChanged() const;
     /// There is work to save: the project is changed, or the library or the stage are, of which no
-    /// steps are recorded.
-    bool HasUnsavedWork() const { return libraryChanged_ || IsProjectChanged(); }
+    /// steps are recorded, or the saved state cannot be reached any more.
+    bool HasUnsavedWork() const { return uncountedWork_ || IsProjectChanged(); }
     /// An empty project in place of the open one, with its stage, rate and version. False when the
     /// user would rather keep what was changed.
     bool mnuNew();
@@ -127,7 +127,8 @@ public:
     /// Saves to the project's own path, or asks for one. False when it is not saved.
     bool mnuSave();
     bool mnuSaveNew();
-    /// Saves to a path, which becomes the project's own.
+    /// Saves to a path, which becomes the project's own. False when it is not saved, which is told:
+    /// a file that a symbol is made from is no place for a project.
     bool mnuSaveNew(StringView path);
     /// Lets a person choose what comes along. False when they would rather not.
     using ChooseImport = std::function<bool(const Project& incoming, ImportOptions& options)>;
@@ -286,8 +287,9 @@ public:
 
 private:
     std::shared_ptr<MainView> view_;
-    /// The library, or the stage, since the last save.
-    bool libraryChanged_ = false;
+    /// Work since the last save that counts of steps do not tell: changes of the library and of the
+    /// stage, and a step in place of undone ones among which the saved state was.
+    bool uncountedWork_ = false;
     std::shared_ptr<Collection<clsLayer>> editLayers_;
     /// What the start has done, a line a step; dropped once it went well.
     String startLog_;
@@ -316,6 +318,9 @@ private:
     void AddOwnLayer(const std::shared_ptr<clsLayer>& layer);
     /// The project's own file, or one that a symbol is made from.
     bool IsSource(StringView path) const;
+    /// A file that a symbol is made from.
+    bool IsSymbolFile(StringView path) const;
+    static void TellInUse(StringView path);
     /// The symbol whose timeline is edited; null for the main timeline.
     std::shared_ptr<clsSymbolData> EditSymbol() const;
     /// History that edits of the edited timeline go into.

@@ -102,7 +102,7 @@ void frmMain::RefreshFgrdSymbol() {
 }
 
 void frmMain::LibraryChanged() {
-    libraryChanged_ = true;
+    uncountedWork_ = true;
     RefreshFgrdSymbol();
     view_->DispDataTbl();
     ShowEditFrame();
@@ -113,7 +113,7 @@ void frmMain::AddSymbol(const std::shared_ptr<clsSymbolData>& symbol, Long index
     const Long row = index < 1 ? end : std::min(index, end);
     Long newIndex = 0;
     AddSymbolData(*colSymbol(), row, symbol, false, false, newIndex);
-    libraryChanged_ = true;
+    uncountedWork_ = true;
     if (newIndex == end) {
         symbol->Index = newIndex;
         view_->AppendSymbol(*symbol);
@@ -304,7 +304,7 @@ void frmMain::mnuRemoveSymbolItem() {
 void frmMain::SymbolsReturned(Long first) {
     SymbolIds ids(*colSymbol());
     SeparateIds(*colSymbol(), ids, first, colSymbol()->Count(), TellRepeatedIds);
-    libraryChanged_ = true;
+    uncountedWork_ = true;
     RefreshFgrdSymbol();
 }
 

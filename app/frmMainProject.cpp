@@ -41,6 +41,12 @@ void Record(clsUndoRedo& history, clsUndoRedoData data, const Collection<clsLaye
     }
 }
 
+/// Makes the present state the saved one. No edit joins the step that led to it.
+void CountFromHere(clsUndoRedo& history) {
+    history.TotalHistory = 0;
+    history.Tag.clear();
+}
+
 FileDialog ProjectDialog(StringView title) {
     FileDialog dialog;
     dialog.Title = title;
@@ -75,7 +81,7 @@ void frmMain::ShowProject() {
     cUndoRedo.OnUndo = cUndoRedo.OnRedo = nullptr;
     AddUndoRedoData(UndoStep::Init);
     AttachHistory();
-    libraryChanged_ = false;
+    uncountedWork_ = false;
 }
 
 bool frmMain::mnuNew() {
@@ -132,6 +138,10 @@ bool frmMain::mnuSaveNew() {
 
 bool frmMain::mnuSaveNew(StringView path) {
     const String target(path);
+    if (FileExists(target) && IsSymbolFile(target)) {
+        TellInUse(target);
+        return false;
+    }
     RuntimeError why(0, u"", u"");
     if (!SaveTo(target, &why)) {
         ShowMessage(u"保存できませんでした。\r\n\r\n「Number： " + ToText(why.Number) + u"\r\n" +
@@ -147,12 +157,12 @@ bool frmMain::mnuSaveNew(StringView path) {
 }
 
 void frmMain::ClearHistories() {
-    libraryChanged_ = false;
-    cUndoRedo.TotalHistory = 0;
+    uncountedWork_ = false;
+    CountFromHere(cUndoRedo);
     if (mdlPrivateProfile::UndoRedoType()) return;
     for (const auto& symbol : *colSymbol())
         if (auto* history = OwnHistory(*symbol); history != nullptr && *history)
-            (*history)->TotalHistory = 0;
+            CountFromHere(**history);
 }
 
 void frmMain::AddRecentFile(StringView path) const {
@@ -172,7 +182,7 @@ bool frmMain::mnuPrjProperty(Long width, Long height, Single frameRate, Long swf
     inProject.MainHeight = height;
     inProject.FrameRate = frameRate;
     inProject.SWFVersion = swfVersion;
-    libraryChanged_ = true;
+    uncountedWork_ = true;
     if (editIndex == EditMain) view_->SetCanvasSize(width, height);
     view_->DispDataTbl();
     ShowEditFrame();
@@ -232,7 +242,8 @@ clsUndoRedo& frmMain::EditHistory() {
 void frmMain::AttachHistory() {
     clsUndoRedo& history = EditHistory();
     const auto show = [this, &history](bool) {
-        view_->ShowUndoRedo(history.CanUndo(), history.CanRedo());
+        // A change of the library is recorded in the histories of other timelines too.
+        if (&history == &EditHistory()) view_->ShowUndoRedo(history.CanUndo(), history.CanRedo());
     };
     history.OnUndo = history.OnRedo = show;
     history.RaiseOnUndoRedo();
@@ -245,6 +256,8 @@ void frmMain::AddUndoRedoData(UndoStep type, StringView tag) {
     data.Row = SelIndex1;
     if (const auto layer = EditLayer()) data.KeyFrame = layer->SelectIndex;
     if (!tag.empty() && history.Tag == tag) type = UndoStep::Merge;
+    if (type == UndoStep::Change && history.CanRedo() && history.TotalHistory < 0)
+        uncountedWork_ = true;
     Record(history, std::move(data), *editLayers_, type);
     history.Tag = tag;
 }

@@ -199,6 +199,7 @@ bool frmMain::ChangeKeyFrame(StringView tag, const std::function<bool(clsLayerOb
     if (object->Compare(*before)) return true;
     FitFixedKeyFrames(*editLayers_);
     view_->DispEditTimeLine();
+    view_->ShowEditFrame();
     AddUndoRedoData(UndoStep::Change, tag);
     return true;
 }

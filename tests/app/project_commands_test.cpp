@@ -76,6 +76,63 @@ TEST_F(ProjectCommands, saving_counts_from_there) {
         interface_.Messages.back().Text.starts_with(u"保存できませんでした。\r\n\r\n「Number： "));
 }
 
+TEST_F(ProjectCommands, an_edit_behind_a_save_joins_no_step_before_it) {
+    Paint(1, u"red");
+    ASSERT_TRUE(main_.mnuSaveNew(Path(u"a.kvf")));
+    Paint(2, u"red");
+    EXPECT_TRUE(main_.IsProjectChanged());
+    main_.mnuUndoRedo(0);
+    EXPECT_EQ(Background().BackColorRed, 1);
+    EXPECT_FALSE(main_.HasUnsavedWork());
+    EXPECT_TRUE(mdlPrivateProfile::UndoRedoType(false));
+    main_.ChangeSprite(AddSprite(10));
+    AddRow();
+    main_.AddUndoRedoData(UndoStep::Change, u"row");
+    ASSERT_TRUE(main_.mnuSave());
+    main_.AddUndoRedoData(UndoStep::Change, u"row");
+    EXPECT_TRUE(main_.IsProjectChanged());
+}
+
+TEST_F(ProjectCommands, a_step_in_place_of_the_saved_state_is_work_to_save) {
+    Paint(1);
+    ASSERT_TRUE(main_.mnuSaveNew(Path(u"a.kvf")));
+    main_.mnuUndoRedo(0);
+    main_.mnuUndoRedo(1);
+    EXPECT_FALSE(main_.HasUnsavedWork());
+    main_.mnuUndoRedo(0);
+    Paint(2);
+    EXPECT_EQ(main_.cUndoRedo.TotalHistory, 0);
+    EXPECT_TRUE(main_.HasUnsavedWork());
+    EXPECT_FALSE(main_.mnuNew());
+    EXPECT_EQ(Background().BackColorRed, 2);
+    ASSERT_TRUE(main_.mnuSave());
+    EXPECT_FALSE(main_.HasUnsavedWork());
+    // The saved state lies before the undone step.
+    Paint(3);
+    main_.mnuUndoRedo(0);
+    Paint(4);
+    main_.mnuUndoRedo(0);
+    EXPECT_FALSE(main_.HasUnsavedWork());
+}
+
+TEST_F(ProjectCommands, no_project_is_saved_in_place_of_a_file_that_a_symbol_is_made_from) {
+    const std::string drawing =
+        R"(<svg xmlns="http://www.w3.org/2000/svg"><path d="M0 0h9v9z"/></svg>)";
+    const Bytes written(drawing.begin(), drawing.end());
+    ASSERT_TRUE(WriteFileBytes(written, Path(u"a.svg")));
+    ASSERT_TRUE(main_.AddSymbolItem_File(Path(u"a.svg")));
+    EXPECT_FALSE(main_.mnuSaveNew(Path(u"a.svg")));
+    EXPECT_EQ(interface_.Messages.back().Text,
+              Path(u"a.svg") + u"\r\n\r\nプロジェクトで使用中のファイルには出力できません。");
+    Bytes kept;
+    ASSERT_TRUE(ReadFileBytes(Path(u"a.svg"), kept));
+    EXPECT_EQ(kept, written);
+    EXPECT_EQ(main_.ProjectFileName, u"");
+    EXPECT_TRUE(main_.HasUnsavedWork());
+    EXPECT_TRUE(main_.mnuSaveNew(Path(u"b.kvf")));
+    EXPECT_TRUE(main_.mnuSave());
+}
+
 TEST_F(ProjectCommands, a_new_project_keeps_stage_rate_and_version) {
     EXPECT_TRUE(main_.mnuPrjProperty(400, 300, 12.5f, 7));
     EXPECT_EQ(view_->Width, 400);
@@ -154,6 +211,23 @@ TEST_F(ProjectCommands, a_history_for_each_timeline_stays_in_it) {
     // A place that is no timeline.
     main_.ChangeSprite(99);
     EXPECT_EQ(main_.editIndex, sprite);
+}
+
+TEST_F(ProjectCommands, a_step_in_another_timeline_leaves_the_buttons_of_the_shown_one) {
+    EXPECT_TRUE(mdlPrivateProfile::UndoRedoType(false));
+    const Long outer = AddSprite(10);
+    const Long inner = AddSprite(20);
+    main_.ChangeSprite(outer);
+    main_.SelectSymbols(inner, inner);
+    main_.AddToLayer(1, false, false);
+    EXPECT_TRUE(view_->Undo);
+    main_.ChangeSprite(frmMain::EditMain);
+    EXPECT_FALSE(view_->Undo);
+    main_.RemoveSymbolAndUses(inner);
+    EXPECT_FALSE(view_->Undo);
+    main_.ChangeSprite(outer);
+    EXPECT_TRUE(main_.colEditLayer()->Empty());
+    EXPECT_TRUE(view_->Undo);
 }
 
 TEST_F(ProjectCommands, recent_files_move_to_the_front_without_case) {

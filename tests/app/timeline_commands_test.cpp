@@ -121,6 +121,24 @@ TEST_F(TimelineCommands, flags_stretch_the_span) {
     EXPECT_EQ(Steps(), 7);
 }
 
+TEST_F(TimelineCommands, a_changed_key_frame_is_shown_on_the_canvas) {
+    Place(AddSprite(10), 1);
+    const Long before = view_->Shown;
+    const auto moveTo = [this](Single x) {
+        return main_.ChangeKeyFrame(u"X", [x](clsLayerObject& object) {
+            object.Placement()->X(x);
+            return true;
+        });
+    };
+    EXPECT_TRUE(moveTo(5));
+    EXPECT_EQ(view_->Shown, before + 1);
+    EXPECT_TRUE(moveTo(5));
+    EXPECT_EQ(view_->Shown, before + 1);
+    // The next one joins the step.
+    EXPECT_TRUE(moveTo(6));
+    EXPECT_EQ(Steps(), 2);
+}
+
 TEST_F(TimelineCommands, elements_are_copied_from_the_neighbour_and_keep_their_path) {
     AddSprite(10);
     Place(1, 1);

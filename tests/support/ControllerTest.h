@@ -20,6 +20,9 @@ public:
     Long Height = 0;
     bool Undo = true;
     bool Redo = true;
+    /// How often the canvas was shown.
+    Long Shown = 0;
+    void ShowEditFrame() override { ++Shown; }
     void SetCanvasSize(Long width, Long height) override {
         Width = width;
         Height = height;
