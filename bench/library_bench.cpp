@@ -10,8 +10,12 @@ namespace tamber {
 namespace {
 
 void Add(frmMain& controller, Long count) {
-    for (Long i = 0; i < count; ++i)
-        controller.mnuAddSymbolItem_Sprite([](clsSymbolData&) { return true; });
+    for (Long id = 1; id <= count; ++id) {
+        auto symbol = std::make_shared<clsSymbolData>(KindSprite);
+        symbol->ID = id;
+        controller.colSymbol()->Add(std::move(symbol));
+    }
+    controller.RefreshFgrdSymbol();
 }
 
 /// Numbers the library against its order, so that a sort moves every row.

@@ -142,6 +142,10 @@ bool clsSymbolData::blExportEx() const {
     return blExport;
 }
 
+String clsSymbolData::ListName() const {
+    return blExportEx() ? Value() + u" {書き出し：" + ExportName() + u"}" : Value();
+}
+
 String clsSymbolData::OptionText() const {
     if (const auto* link = Property<clsPropertyLinkSymbol>())
         return RecordMark(link->objPropertyData.get());

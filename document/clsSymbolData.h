@@ -59,6 +59,8 @@ public:
     /// Linkage name in use.
     String ExportName() const;
     bool blExportEx() const;
+    /// Name as the list of the library shows it, with the linkage name of an exported symbol.
+    String ListName() const;
     /// Mark in the list.
     String OptionText() const;
     /// Colours of the list row, red in the low byte.

@@ -1,4 +1,5 @@
 #include "script/compiler/Parser.h"
+#include "script/compiler/ParserState.h"
 
 namespace tamber {
 
@@ -10,18 +11,41 @@ Node* Parser::SwitchStatement() {
     NodeList cases;
     bool hasDefault = false;
     ++switches_;
-    while (!Is(TokenKind::CloseBrace)) {
+    while (!Accept(TokenKind::CloseBrace)) {
         if (Is(TokenKind::Default)) {
             if (hasDefault) Complain(token_.Line, token_.Text, u"default は一つだけです。");
             hasDefault = true;
         }
-        cases.Add(CaseClause());
+        if (Node* clause = GuardedClause()) cases.Add(clause);
     }
     --switches_;
-    Advance();
     node->B = cases.First;
     node->Count = cases.Count;
     return node;
+}
+
+/// Null after an error in the head of a clause; the cursor then stands at the next.
+Node* Parser::GuardedClause() {
+    const State before(*this);
+    try {
+        return CaseClause();
+    } catch (const SyntaxError&) {
+        before.Restore();
+        if (Is(TokenKind::End)) throw;
+        SkipToClause();
+    }
+    return nullptr;
+}
+
+/// A clause of this switch, or the brace that closes it.
+void Parser::SkipToClause() {
+    int braces = 0;
+    for (; !Is(TokenKind::End); Advance()) {
+        const bool isClause = Is(TokenKind::Case) || Is(TokenKind::Default);
+        if (Is(TokenKind::OpenBrace)) ++braces;
+        if (braces == 0 && (isClause || Is(TokenKind::CloseBrace))) return;
+        if (Is(TokenKind::CloseBrace)) --braces;
+    }
 }
 
 Node* Parser::CaseClause() {

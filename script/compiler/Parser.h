@@ -76,7 +76,9 @@ private:
     Node* JumpStatement();
     Node* ReturnStatement();
     Node* SwitchStatement();
+    Node* GuardedClause();
     Node* CaseClause();
+    void SkipToClause();
     Node* WithStatement();
     Node* TellTargetStatement();
     Node* IfFrameLoadedStatement();

@@ -186,6 +186,8 @@ TEST_F(ProjectFile, FillsTheRecords) {
     EXPECT_EQ(symbols(1)->FilePathName, JoinPath(JoinPath(folder_, u"絵"), u"表.bmp"));
     EXPECT_TRUE(symbols(1)->blExport);
     EXPECT_FALSE(symbols(1)->blExportTop);
+    EXPECT_EQ(symbols(1)->ListName(), u"表.bmp {書き出し：pic}");
+    EXPECT_EQ(symbols(6)->ListName(), symbols(6)->Value());
     EXPECT_EQ(symbols(2)->Property<clsPropertyText>()->FitShapeSymbol(), symbols(5));
     EXPECT_EQ(symbols(5)->Property<clsPropertyVector>()->MorphSymbol(), symbols(6));
     EXPECT_EQ(symbols(10)->Property<clsPropertyButton>()->DownSymbol(), nullptr);
