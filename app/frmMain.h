@@ -304,8 +304,10 @@ private:
     void PasteKeyFrames(FrameClipboard::Room room);
     void ShiftSelection(ShiftDirection direction);
     void ShiftAll(ShiftDirection direction);
-    /// What a change of key frames ends with.
+    /// What a change of key frames ends with: fixed ones that end their layers are fitted, and the
+    /// step is shown and recorded.
     void FramesChanged();
+    void FramesShown();
     /// What a change of rows ends with.
     void RowsChanged();
     /// A sprite that would show itself in the edited timeline, which is told.

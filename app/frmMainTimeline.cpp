@@ -30,6 +30,10 @@ void frmMain::ShowEditFrame() {
 
 void frmMain::FramesChanged() {
     FitFixedKeyFrames(*editLayers_);
+    FramesShown();
+}
+
+void frmMain::FramesShown() {
     view_->DispEditTimeLine();
     ShowEditFrame();
     AddUndoRedoData(UndoStep::Change);
@@ -144,9 +148,14 @@ void frmMain::chkFixed(bool on) {
     const auto layer = FrameLayer();
     const auto object = layer ? layer->SelectObject() : nullptr;
     if (!object || object->blFixed == on) return;
+    // The timeline stays as long as it is, although the key frame no longer decides that.
+    const Long last = LastFrame(*editLayers_);
     object->blFixed = on;
-    if (on) Stretch(*layer, layer->SelectIndex, LastFrame(*editLayers_));
-    FramesChanged();
+    if (on)
+        Stretch(*layer, layer->SelectIndex, last);
+    else
+        FitFixedKeyFrames(*editLayers_);
+    FramesShown();
 }
 
 void frmMain::chkTween(bool on) {

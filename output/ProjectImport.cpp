@@ -105,7 +105,7 @@ void ProjectImport::ReplaceFonts() const {
     for (const auto& symbol : symbols_) {
         auto* text = symbol->Property<clsPropertyText>();
         if (text == nullptr || text->FontName.starts_with(u'_') ||
-            assets_.FontAvailable(text->FontName))
+            text->FontName == SubstituteFont || assets_.FontAvailable(text->FontName))
             continue;
         if (told.insert(text->FontName).second)
             ShowMessage(u"「" + text->FontName + u"」が見つかりません。\r\n「" +

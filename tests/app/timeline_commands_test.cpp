@@ -139,6 +139,17 @@ TEST_F(TimelineCommands, a_changed_key_frame_is_shown_on_the_canvas) {
     EXPECT_EQ(Steps(), 2);
 }
 
+TEST_F(TimelineCommands, a_fixed_key_frame_leaves_the_timeline_as_long_as_it_is) {
+    AddRow("1-10");
+    main_.ChangeSelectIndex(1, 1);
+    main_.SelectFrames(1, 1);
+    main_.chkFixed(true);
+    EXPECT_EQ(Spans(Row(1)), "1-10F");
+    main_.chkFixed(false);
+    EXPECT_EQ(Spans(Row(1)), "1-10");
+    EXPECT_EQ(Spans(Row(2)), "1-10F");
+}
+
 TEST_F(TimelineCommands, elements_are_copied_from_the_neighbour_and_keep_their_path) {
     AddSprite(10);
     Place(1, 1);
