@@ -43,7 +43,8 @@ String& ProgramFolderText() {
 
 bool FileExists(StringView path) {
     std::error_code error;
-    return fs::is_regular_file(Native(path), error);
+    // The system takes a name for ended at a NUL.
+    return path.find(u'\0') == StringView::npos && fs::is_regular_file(Native(path), error);
 }
 
 bool FolderExists(StringView path) {

@@ -133,6 +133,10 @@ TEST_F(Includes, that_fail_leave_the_script_and_tell_the_line_of_the_outermost) 
     script = u"\n#include \"lost.as\"";
     EXPECT_EQ(preprocessor_.PreprocessScript(script, {}), -2);
     EXPECT_EQ(preprocessor_.Chain(), folder_ + u"/program/none/x.as");
+    // One that names itself ever longer is not there.
+    const String longer = u"#include \"nul.as" + String(1, u'\0') + u"/b\"";
+    Write(u"nul.as", longer);
+    EXPECT_EQ(Expand(longer), u"failed at -1");
 }
 
 TEST_F(Includes, in_great_numbers_end) {
