@@ -34,10 +34,9 @@ public:
     void Add(const std::shared_ptr<clsSymbolData>& symbol) {
         if (symbol->eType() == KindClass) return;
         auto layer = symbol->eType() == KindSymbolFolder ? FolderFor(*symbol) : LayerFor(symbol);
-        const auto folder = folders_.find(symbol->ParentFolder().get());
-        if (folder != folders_.end()) {
-            layer->ParentFolder(folder->second);
-            folder->second->AddInFolder(1);
+        if (const auto folder = RowOfFolderAround(*symbol)) {
+            layer->ParentFolder(folder);
+            folder->AddInFolder(1);
         }
         if (symbol->eType() == KindSymbolFolder) folders_.emplace(symbol.get(), layer);
         rows_.Add(std::move(layer));
@@ -45,6 +44,14 @@ public:
     Collection<clsLayer> Take() { return std::move(rows_); }
 
 private:
+    /// The row of the innermost folder around a symbol that has one, or null: a range may begin
+    /// within a folder and end behind it.
+    std::shared_ptr<clsLayer> RowOfFolderAround(const clsSymbolData& symbol) const {
+        for (auto folder = symbol.ParentFolder(); folder; folder = folder->ParentFolder())
+            if (const auto row = folders_.find(folder.get()); row != folders_.end())
+                return row->second;
+        return nullptr;
+    }
     static std::shared_ptr<clsLayer> FolderFor(const clsSymbolData& symbol) {
         auto layer = MakeOwnLayer(KindLayerFolder, 1);
         layer->LayerName = symbol.Value();

@@ -92,7 +92,8 @@ TEST(LayerClipboard, takes_folders_with_all_that_they_hold) {
     }
 }
 
-/// Library rows: picture 1; folder 2 of picture 3, folder 4 of picture 5 and class 6; picture 7.
+/// Library rows: picture 1; folder 2 of picture 3, folder 4 of picture 5 and class 6, and picture
+/// 7; picture 8.
 Collection<clsSymbolData> Library() {
     Collection<clsSymbolData> library;
     const auto add = [&library](Long kind, Long below = 0) {
@@ -100,16 +101,17 @@ Collection<clsSymbolData> Library() {
         symbol->Index = library.Count() + 1;
         if (auto* folder = symbol->Property<clsPropertySymbolFolder>()) {
             folder->LayerCount = below;
-            folder->FolderName = below == 4 ? u"F" : u"G";
+            folder->FolderName = below == 5 ? u"F" : u"G";
         }
         library.Add(symbol);
     };
     add(KindSprite);
-    add(KindSymbolFolder, 4);
+    add(KindSymbolFolder, 5);
     add(KindSprite);
     add(KindSymbolFolder, 2);
     add(KindSprite);
     add(KindClass);
+    add(KindSprite);
     add(KindSprite);
     NestSymbols(library);
     return library;
@@ -123,13 +125,15 @@ TEST(LayerPlacement, follows_the_folders_of_the_library) {
     };
     const Case cases[]{
         {1, 1, "1"},
-        {2, 2, "F(3) >3 >G(1) >>5"},
-        {2, 1, "1 F(3) >3 >G(1) >>5"},
+        {2, 2, "F(4) >3 >G(1) >>5 >7"},
+        {2, 1, "1 F(4) >3 >G(1) >>5 >7"},
         {6, 6, "F(1) >G(0)"},
         {5, 5, "F(2) >G(1) >>5"},
-        {5, 7, "5 7"},
+        // From within the inner folder to behind it, and to behind both.
+        {5, 7, "F(2) >5 >7"},
+        {5, 8, "5 7 8"},
         {0, 3, ""},
-        {7, 8, ""},
+        {8, 9, ""},
     };
     const Collection<clsSymbolData> library = Library();
     for (const Case& c : cases) {
@@ -148,7 +152,7 @@ TEST(LayerPlacement, counts_follow_rows_that_are_refused) {
     RemoveRefusedRows(layers, [](const clsSymbolData& symbol) { return symbol.Index == 5; });
     for (const auto& layer : layers)
         if (layer->Folder() == nullptr) layer->LayerName = u"x";
-    EXPECT_EQ(Rows(layers), "F(2) >x >G(0)");
+    EXPECT_EQ(Rows(layers), "F(3) >x >G(0) >x");
 }
 
 }  // namespace
