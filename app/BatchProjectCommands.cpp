@@ -110,6 +110,10 @@ bool Authoring(BatchContext& context, const BatchArguments& arguments) {
     return context.Controller.mnuAuthoring(AbsolutePath(arguments[0]));
 }
 
+bool ShowFrame(BatchContext& context, const BatchArguments& arguments) {
+    return context.Controller.ShowEditSWFBitmap(arguments.empty() ? 0 : ToLong(arguments[0]));
+}
+
 bool AnswerNext(BatchContext& context, const BatchArguments& arguments) {
     const String word = FoldCase(arguments[0]);
     if (word == u"yes")
@@ -156,6 +160,7 @@ constexpr BatchCommand Commands[]{
     {u"ChangeSprite", u"INDEX", 1, 1, ChangeTimeline},
     {u"mnuUndoRedo", u"0|1", 1, 1, UndoRedo},
     {u"mnuAuthoring", u"PATH", 1, 1, Authoring},
+    {u"ShowEditSWFBitmap", u"[FRAME]", 0, 1, ShowFrame},
     {u"Answer", u"yes|no|cancel", 1, 1, AnswerNext},
     {u"Print", u"", 0, 0, Print},
 };

@@ -58,6 +58,7 @@ bool Application::Main(StringView commandLine) {
 
 void Application::Stop() {
     if (controller_) {
+        controller_->DeleteSnapshot();
         DeleteTemporaryFiles();
         controller_->Form_Unload();
     }

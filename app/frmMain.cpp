@@ -86,6 +86,8 @@ void frmMain::Form_Load() {
     inProject.MainHeight = std::clamp(mdlPrivateProfile::CanvasHeight(), 1, MaxStage);
     inProject.FrameRate = FrameRateOf(mdlPrivateProfile::FPS());
     inProject.SWFVersion = mdlPrivateProfile::SWFVersion();
+    chkVisibleForwardLayer = mdlPrivateProfile::flgForwardLayerVisible();
+    chkVisibleBackLayer = mdlPrivateProfile::flgBackLayerVisible();
     LogStep(u"ini読み込み：");
     view_->RefreshFgrdSymbol();
     LogStep(u"シンボル用リストクラス初期化：");

@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 
+#include "canvas/EditSnapshot.h"
 #include "canvas/FrameClipboard.h"
 #include "canvas/FrameShift.h"
 #include "canvas/LayerClipboard.h"
@@ -25,6 +26,12 @@ public:
     virtual void DispDataTbl() {}
     virtual void DispEditTimeLine() {}
     virtual void ShowEditFrame() {}
+    /// Shows the snapshot movie of a path, which stands still; nothing for an empty path. The
+    /// colour behind it has red in the low byte.
+    virtual void ReloadSnapshot(StringView path, Long backColor) {
+        (void)path;
+        (void)backColor;
+    }
     virtual void RefreshFgrdSymbol() {}
     /// A symbol came to the library's end.
     virtual void AppendSymbol(const clsSymbolData& symbol) { (void)symbol; }
@@ -74,6 +81,11 @@ public:
     /// First and last frame selected, in either order. The first is where the frame cursor stands.
     Long SelFrame1 = 1;
     Long SelFrame2 = 1;
+    /// The canvas shows rows in front of the selected one, and behind it.
+    bool chkVisibleForwardLayer = true;
+    bool chkVisibleBackLayer = true;
+    /// The frame that the canvas showed last, 0 for none.
+    Long nPrevFrame = 0;
     FrameClipboard inCopyFrames;
     LayerClipboard inCopyLayers;
     bool blHotKeyEnable = false;
@@ -147,6 +159,17 @@ public:
     /// Size in pixels of what the canvas shows: the stage, or the edited sprite.
     Long CanvasWidth() const;
     Long CanvasHeight() const;
+    /// Folder of the snapshot movie: the project's, or the program's for one without a name and
+    /// where the settings say so.
+    String TempMoviePath() const;
+    /// Writes and shows a movie of what the edited timeline shows on a frame; 0 stands for the
+    /// frame of the cursor or, as the settings say, where the selected key frame starts. Nothing is
+    /// said; false when it could not be written, and the old picture stays.
+    bool ShowEditSWFBitmap(Long frame = 0);
+    /// The placements of that movie, each with its row and key frame.
+    const PlacedTags& SnapshotTags() const { return snapshotTags_; }
+    /// Removes the movie that the canvas shows.
+    void DeleteSnapshot();
 
     /// Selects rows of the library; numbers beyond them give the nearest row. None is selected when
     /// both are below 1.
@@ -291,12 +314,19 @@ private:
     /// stage, and a step in place of undone ones among which the saved state was.
     bool uncountedWork_ = false;
     std::shared_ptr<Collection<clsLayer>> editLayers_;
+    clsSWFAdmin snapshot_;
+    PlacedTags snapshotTags_;
+    String snapshotPath_;
     /// What the start has done, a line a step; dropped once it went well.
     String startLog_;
 
     void LogStep(StringView step);
     /// The next edit opens a step of its own.
     void ShowEditFrame();
+    void SetCanvasSize();
+    /// What lies behind the main timeline, red in the low byte; white for a sprite's.
+    Long CanvasColor() const;
+    bool WriteSnapshot(StringView path, Long frame);
     /// The selected row, where its key frames can be edited; else null. A class keeps one for each
     /// row, folders have one.
     std::shared_ptr<clsLayer> FrameLayer() const;

@@ -386,7 +386,7 @@ bool frmMain::ChangeSymbol(const EditSymbolData& edit) {
     clsSymbolData& symbol = *(*colSymbol())(range.First);
     if (!edit(symbol)) return false;
     LibraryChanged();
-    if (range.First == editIndex) view_->SetCanvasSize(CanvasWidth(), CanvasHeight());
+    if (range.First == editIndex) SetCanvasSize();
     if (symbol.eType() == KindText) AssetReader().SetTextSize(symbol);
     if (symbol.FilePathName.empty()) return true;
     SelectSymbols(range.First, range.First);

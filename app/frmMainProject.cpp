@@ -183,7 +183,7 @@ bool frmMain::mnuPrjProperty(Long width, Long height, Single frameRate, Long swf
     inProject.FrameRate = frameRate;
     inProject.SWFVersion = swfVersion;
     uncountedWork_ = true;
-    if (editIndex == EditMain) view_->SetCanvasSize(width, height);
+    if (editIndex == EditMain) SetCanvasSize();
     view_->DispDataTbl();
     ShowEditFrame();
     return true;
@@ -193,23 +193,13 @@ std::shared_ptr<clsSymbolData> frmMain::EditSymbol() const {
     return editIndex > 0 ? colSymbol()->Item(editIndex) : nullptr;
 }
 
-Long frmMain::CanvasWidth() const {
-    const auto symbol = EditSymbol();
-    return symbol && symbol->eType() == KindSprite ? symbol->PixelWidth() : inProject.MainWidth;
-}
-
-Long frmMain::CanvasHeight() const {
-    const auto symbol = EditSymbol();
-    return symbol && symbol->eType() == KindSprite ? symbol->PixelHeight() : inProject.MainHeight;
-}
-
 void frmMain::SetLayers(Long index, Long row, Long col) {
     const bool changed = index != 0 && index != editIndex;
     if (index != 0) editIndex = index;
     const auto symbol = EditSymbol();
     editLayers_ = symbol ? TimelineOf(*symbol) : colMainLayer();
     if (symbol && (symbol->eType() == KindClass || editLayers_->Empty())) SelFrame1 = SelFrame2 = 1;
-    view_->SetCanvasSize(CanvasWidth(), CanvasHeight());
+    SetCanvasSize();
     SelIndex1 = SelIndex2 = row;
     if (const auto layer = EditLayer(); layer && col != 0)
         layer->SelectIndex = std::clamp(col, 1, std::max(layer->ObjectCount(), 1));

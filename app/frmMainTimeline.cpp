@@ -23,11 +23,6 @@ std::shared_ptr<clsLayer> frmMain::FrameLayer() const {
     return layer && !IsFolder(*layer) && !EditsClass() ? layer : nullptr;
 }
 
-void frmMain::ShowEditFrame() {
-    EditHistory().Tag.clear();
-    view_->ShowEditFrame();
-}
-
 void frmMain::FramesChanged() {
     FitFixedKeyFrames(*editLayers_);
     FramesShown();

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <mutex>
 #include <string_view>
 #include <unordered_map>
@@ -130,19 +129,6 @@ private:
 OverrideTable& Overrides() {
     static OverrideTable table;
     return table;
-}
-
-std::string_view Environment(const char* name) {
-    const char* value = std::getenv(name);
-    return value == nullptr ? std::string_view() : std::string_view(value);
-}
-
-/// Folder of the user's own settings; empty when the environment names none.
-String UserFolder() {
-    const std::string_view config = Environment("XDG_CONFIG_HOME");
-    if (config.starts_with('/')) return JoinPath(FromNarrow(config), u"tamber");
-    const std::string_view home = Environment("HOME");
-    return home.empty() ? String() : JoinPath(FromNarrow(home), u".config/tamber");
 }
 
 String ProgramPath() {

@@ -1,6 +1,8 @@
 #include "platform/paths.h"
 
+#include <cstdlib>
 #include <filesystem>
+#include <string_view>
 #include <vector>
 
 #include "platform/codepage.h"
@@ -32,6 +34,11 @@ std::vector<StringView> Segments(StringView path) {
         path.remove_prefix(end + 1);
     }
     return segments;
+}
+
+std::string_view Environment(const char* name) {
+    const char* value = std::getenv(name);
+    return value == nullptr ? std::string_view() : std::string_view(value);
 }
 
 String& ProgramFolderText() {
@@ -161,6 +168,13 @@ String ProgramFolder() {
 }
 void ProgramFolder(StringView folder) {
     ProgramFolderText() = folder;
+}
+
+String UserFolder() {
+    const std::string_view config = Environment("XDG_CONFIG_HOME");
+    if (config.starts_with('/')) return JoinPath(FromNarrow(config), u"tamber");
+    const std::string_view home = Environment("HOME");
+    return home.empty() ? String() : JoinPath(FromNarrow(home), u".config/tamber");
 }
 
 String ReplaceAppDirToken(StringView path) {

@@ -46,6 +46,9 @@ String PathFromCell(StringView cell);
 /// The program's folder, base of its settings and data files.
 String ProgramFolder();
 void ProgramFolder(StringView folder);
+/// The user's own folder for what the program's folder cannot take; empty when the environment
+/// names none. It need not exist.
+String UserFolder();
 /// Puts the program's folder in place of "$(TAMBERDIR)"; the result ends in no separator.
 String ReplaceAppDirToken(StringView path);
 

@@ -11,6 +11,7 @@
 
 namespace tamber {
 
+class clsPropertyClass;
 class clsPropertySprite;
 
 /// Versions of the movie from which there are imports, and nine-slice scaling.
@@ -27,6 +28,8 @@ struct Timeline {
     TimelineOrigin Origin;
     /// Frame of the movie that a sprite's definitions go into; 0 for the movie's own timeline.
     Long SpriteFrame = 0;
+    /// The one frame that is walked, on frame 1; 0 for all of them.
+    Long OnlyFrame = 0;
 
     bool IsMain() const { return SpriteFrame == 0; }
 };
@@ -39,6 +42,10 @@ public:
     void PreDefineFrameOne(clsSWFAdmin& admin);
     void DefineExports(clsSWFAdmin& admin, Long mode);
     void WriteTimeline(const Timeline& timeline);
+    /// Puts what rows of a timeline show on one frame on frame 1: no scripts, labels or sounds, and
+    /// of sprites their first frame. The result are the placements, each with its row and key
+    /// frame.
+    PlacedTags WriteFrameSnapshot(clsSWFAdmin& admin, const SnapshotRequest& snapshot);
 
     MovieScripts Scripts;
 
@@ -53,7 +60,11 @@ private:
     void DefineText(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
     void DefineVector(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
     void DefineSprite(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
-    void DefineClass(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
+    /// New definitions, with identifiers of their own. Init actions go into `frame`.
+    Long GetNewSprite(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long frame);
+    Long GetNewSpriteEdit(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long frame);
+    /// A class is an empty sprite whose init action makes it.
+    Long GetNewClass(clsSWFAdmin& admin, const clsPropertyClass& record, Long frame);
     void DefineLink(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
     /// Adds the definition of a sprite whose timeline is written, and its init actions.
     Long AddSprite(clsSWFAdmin& admin, const std::shared_ptr<clsSWFAdmin>& inner, Long frame);
@@ -65,7 +76,12 @@ private:
     void AddScalingGrid(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long id, Long frame);
     void AddExport(clsSWFAdmin& admin, const clsSymbolData& symbol, Long id, Long frame);
 
+    /// Frame for what need not be defined in the first one.
+    Long LateFrame() const { return snapshot_ == nullptr ? 2 : 1; }
+    /// The row has something for this walk, at a depth that there is.
+    bool IsWalked(const Timeline& timeline, Long index, Long depth) const;
     void WriteLayer(const Timeline& timeline, Long index, Long& depth);
+    void WriteUnplaced(const Timeline& timeline, const clsLayer& layer);
     void WriteBackground(const Timeline& timeline, const clsLayer& layer);
     void WriteLabels(const Timeline& timeline, const clsLayer& layer);
     void PlaceLayer(const Timeline& timeline, Long index, Long depth);
@@ -73,11 +89,10 @@ private:
     void WriteFrameActions(const Timeline& timeline, const clsLayer& layer);
     /// Defines the button of one layer, with the layer's script. 0 for a layer without key frames.
     Long DefineButton(const Timeline& timeline, const clsLayer& layer, Long depth);
-    void PlaceKomas(const Timeline& timeline, const clsLayer& layer,
-                    LayerPlacement::Character character);
-    LayerPlacement::DeformedCharacter Deform(const Timeline& timeline, const clsLayer& layer,
-                                             const clsLayerObject& start,
-                                             const clsLayerObject* end);
+    void PlaceKomas(const Timeline& timeline, Long index, LayerCharacter character);
+    void Place(const Timeline& timeline, Long index, const LayerCharacter& character);
+    DeformedCharacter Deform(const Timeline& timeline, const clsLayer& layer,
+                             const clsLayerObject& start, const clsLayerObject* end);
     bool IsGated(const clsLayer& layer) const;
     void LeaveOut(const clsLayer& layer);
     void LeaveOutKomas(const clsLayer& layer);
@@ -85,6 +100,8 @@ private:
 
     const MovieRequest& request_;
     clsSWFAdmin& movie_;
+    const SnapshotRequest* snapshot_ = nullptr;
+    PlacedTags placed_;
     std::set<const clsLayer*> leftOut_;
     Long nesting_ = 0;
 };

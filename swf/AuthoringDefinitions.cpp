@@ -11,6 +11,7 @@
 #include "platform/UserInterface.h"
 #include "swf/Authoring.h"
 #include "swf/FitText.h"
+#include "swf/FramePlacement.h"
 #include "swf/MovieLimits.h"
 #include "swf/TextDefinition.h"
 #include "swf/VectorDefinition.h"
@@ -28,6 +29,10 @@ constexpr Long BitmapExportVersion = 8;
 bool CanExport(Long kind) {
     return kind == KindBitmap || kind == KindText || kind == KindVector || kind == KindSprite ||
            kind == KindClass || kind == KindLink;
+}
+
+TimelineOrigin OriginOf(const clsPropertySprite& sprite) {
+    return {static_cast<Single>(sprite.baseX), static_cast<Single>(sprite.baseY)};
 }
 
 }  // namespace
@@ -101,7 +106,10 @@ Long Authoring::DefineSymbol(clsSWFAdmin& admin, clsSymbolData& symbol, Long fra
     }
     if (symbol.eType() == KindButton)
         DefineButtonStates(admin, *symbol.Property<clsPropertyButton>(), frame);
-    if (symbol.eType() == KindClass) DefineClass(admin, symbol, frame);
+    if (symbol.eType() == KindClass && snapshot_ == nullptr) {
+        symbol.DefineID(GetNewClass(admin, *symbol.Property<clsPropertyClass>(), frame));
+        AddExport(admin, symbol, symbol.DefineID(), frame);
+    }
     if (symbol.eType() == KindLink) DefineLink(admin, symbol, frame);
     --nesting_;
     return symbol.DefineID();
@@ -110,7 +118,8 @@ Long Authoring::DefineSymbol(clsSWFAdmin& admin, clsSymbolData& symbol, Long fra
 void Authoring::DefineSpriteChildren(clsSWFAdmin& admin, const clsPropertySprite& sprite,
                                      Long frame) {
     for (const auto& layer : *sprite.colLayer) {
-        if (!layer->Visible(true)) continue;
+        const bool unseen = snapshot_ != nullptr && FramePlacement(*layer, 1).Empty();
+        if (!layer->Visible(true) || unseen) continue;
         if (layer->SymbolData()->eType() == KindKoma)
             DefineKomas(admin, *layer->SymbolData(), frame);
         else
@@ -192,26 +201,33 @@ Long Authoring::AddSprite(clsSWFAdmin& admin, const std::shared_ptr<clsSWFAdmin>
     return id;
 }
 
-void Authoring::DefineSprite(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
-    const clsPropertySprite& sprite = *symbol.Property<clsPropertySprite>();
+Long Authoring::GetNewSprite(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long frame) {
     const auto inner =
         NewInner(admin, sprite.Width, sprite.height,
                  std::clamp(mdlSWFAuthoring::LastShownFrame(*sprite.colLayer), 1, MaxFrames));
-    const TimelineOrigin origin{static_cast<Single>(sprite.baseX),
-                                static_cast<Single>(sprite.baseY)};
-    WriteTimeline({*inner, *sprite.colLayer, origin, frame});
-    const Long id = AddSprite(admin, inner, frame);
+    WriteTimeline({*inner, *sprite.colLayer, OriginOf(sprite), frame});
+    return AddSprite(admin, inner, frame);
+}
+
+Long Authoring::GetNewSpriteEdit(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long frame) {
+    const auto inner = NewInner(admin, sprite.Width, sprite.height, 1);
+    WriteTimeline({*inner, *sprite.colLayer, OriginOf(sprite), frame, 1});
+    return AddSprite(admin, inner, frame);
+}
+
+void Authoring::DefineSprite(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
+    const clsPropertySprite& sprite = *symbol.Property<clsPropertySprite>();
+    const Long id = snapshot_ == nullptr ? GetNewSprite(admin, sprite, frame)
+                                         : GetNewSpriteEdit(admin, sprite, frame);
     symbol.DefineID(id);
     AddScalingGrid(admin, sprite, id, frame);
     AddExport(admin, symbol, id, frame);
 }
 
-/// A class is an empty sprite whose init action makes it.
-void Authoring::DefineClass(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
+Long Authoring::GetNewClass(clsSWFAdmin& admin, const clsPropertyClass& record, Long frame) {
     const auto inner = NewInner(admin, 0, 0, 1);
-    Scripts.CompileClass(*inner, *symbol.Property<clsPropertyClass>());
-    symbol.DefineID(AddSprite(admin, inner, frame));
-    AddExport(admin, symbol, symbol.DefineID(), frame);
+    Scripts.CompileClass(*inner, record);
+    return AddSprite(admin, inner, frame);
 }
 
 void Authoring::DefineLink(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {

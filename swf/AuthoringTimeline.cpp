@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <utility>
 
 #include "document/SymbolKinds.h"
 #include "document/clsLayerFolder.h"
@@ -10,6 +11,9 @@
 #include "platform/UserInterface.h"
 #include "platform/text.h"
 #include "swf/Authoring.h"
+#include "swf/FramePlacement.h"
+#include "swf/LayerPlacement.h"
+#include "swf/MovieLimits.h"
 #include "swf/VectorDefinition.h"
 
 namespace tamber {
@@ -57,6 +61,23 @@ void Authoring::WriteTimeline(const Timeline& timeline) {
     if (timeline.IsMain()) ShowProgress(count, count);
 }
 
+PlacedTags Authoring::WriteFrameSnapshot(clsSWFAdmin& admin, const SnapshotRequest& snapshot) {
+    snapshot_ = &snapshot;
+    admin.FrameCount(1);
+    WriteTimeline({admin, *snapshot.Layers, {}, 0, snapshot.Frame});
+    snapshot_ = nullptr;
+    return std::exchange(placed_, {});
+}
+
+bool Authoring::IsWalked(const Timeline& timeline, Long index, Long depth) const {
+    if (timeline.OnlyFrame == 0) return true;
+    // Of a movie that is refused for its many rows, the canvas shows those that fit.
+    if (depth < 1 || depth >= BottomDepth + MaxDepths) return false;
+    if (timeline.IsMain() && (index < snapshot_->FirstRow || index > snapshot_->LastRow))
+        return false;
+    return !FramePlacement(*timeline.Layers(index), timeline.OnlyFrame).Empty();
+}
+
 bool Authoring::IsGated(const clsLayer& layer) const {
     const Long kind = layer.SymbolData()->eType();
     const Long version = mdlSWFTag::swfVersion();
@@ -97,18 +118,24 @@ void Authoring::WriteLayer(const Timeline& timeline, Long index, Long& depth) {
     const clsLayer& layer = *timeline.Layers(index);
     const Long kind = layer.SymbolData()->eType();
     if (IsGated(layer)) return;
+    if (timeline.OnlyFrame == 0) WriteUnplaced(timeline, layer);
+    const Long depths = IsPlaced(kind) ? layer.DepthCnt(true) : 0;
+    if (depths == 0) return;
+    if (request_.blTopToBottom) depth -= depths - 1;
+    if (!CanPlace(kind))
+        LeaveOut(layer);
+    else if (IsWalked(timeline, index, depth))
+        PlaceLayer(timeline, index, depth);
+    depth += request_.blTopToBottom ? -1 : depths;
+}
+
+/// What takes no depth.
+void Authoring::WriteUnplaced(const Timeline& timeline, const clsLayer& layer) {
+    const Long kind = layer.SymbolData()->eType();
     if (kind == KindBackGround) WriteBackground(timeline, layer);
     if (kind == KindFrameLabel) WriteLabels(timeline, layer);
     if (kind == KindSound) LeaveOut(layer);
     if (kind == KindFrameAction) WriteFrameActions(timeline, layer);
-    const Long depths = IsPlaced(kind) ? layer.DepthCnt(true) : 0;
-    if (depths == 0) return;
-    if (request_.blTopToBottom) depth -= depths - 1;
-    if (CanPlace(kind))
-        PlaceLayer(timeline, index, depth);
-    else
-        LeaveOut(layer);
-    depth += request_.blTopToBottom ? -1 : depths;
 }
 
 void Authoring::WriteBackground(const Timeline& timeline, const clsLayer& layer) {
@@ -142,21 +169,22 @@ void Authoring::WriteLabels(const Timeline& timeline, const clsLayer& layer) {
 void Authoring::PlaceLayer(const Timeline& timeline, Long index, Long depth) {
     const clsLayer& layer = *timeline.Layers(index);
     clsSymbolData& symbol = *layer.SymbolData();
-    LayerPlacement::Character character;
+    LayerCharacter character;
     character.Depth = depth;
     character.ClippingDepth =
         mdlSWFAuthoring::ClipDepthOf(timeline.Layers, index, layer.ClippingDepth);
     character.Origin = timeline.Origin;
     if (symbol.eType() == KindKoma) {
-        PlaceKomas(timeline, layer, character);
+        PlaceKomas(timeline, index, character);
         return;
     }
     const Long last = symbol.eType() == KindButton
                           ? DefineButton(timeline, layer, depth)
-                          : EnsureDefined(timeline.Admin, &layer, symbol, 2);
+                          : EnsureDefined(timeline.Admin, &layer, symbol, LateFrame());
     if (last == 0) return;
     std::vector<SwfEventActions> actions;
-    if (symbol.eTypeEx() == KindSprite) actions = Scripts.ClipActions(layer);
+    if (symbol.eTypeEx() == KindSprite && snapshot_ == nullptr)
+        actions = Scripts.ClipActions(layer);
     character.Actions = &actions;
     if (symbol.eType() == KindVector) {
         character.PlaceCount = layer.DepthCnt(false);
@@ -165,16 +193,28 @@ void Authoring::PlaceLayer(const Timeline& timeline, Long index, Long depth) {
         };
     }
     character.Identifier = last + 1 - character.PlaceCount;
-    LayerPlacement(timeline.Admin, layer, character).Run();
+    Place(timeline, index, character);
+}
+
+void Authoring::Place(const Timeline& timeline, Long index, const LayerCharacter& character) {
+    const clsLayer& layer = *timeline.Layers(index);
+    if (timeline.OnlyFrame == 0) {
+        LayerPlacement(timeline.Admin, layer, character).Run();
+        return;
+    }
+    auto tag = FramePlacement(layer, timeline.OnlyFrame).Place(timeline.Admin, character);
+    tag->LayerIndex = index;
+    if (timeline.IsMain()) placed_.push_back(std::move(tag));
 }
 
 Long Authoring::DefineButton(const Timeline& timeline, const clsLayer& layer, Long depth) {
     if (layer.ObjectCount() == 0) return 0;
     auto& button = *layer.SymbolData()->Property<clsPropertyButton>();
-    const Long frame = timeline.IsMain() ? layer.Object(1)->StartFrame() : timeline.SpriteFrame;
-    const ButtonCharacters characters = DefineButtonStates(timeline.Admin, button, 2);
+    const Long start = snapshot_ == nullptr ? layer.Object(1)->StartFrame() : LateFrame();
+    const Long frame = timeline.IsMain() ? start : timeline.SpriteFrame;
+    const ButtonCharacters characters = DefineButtonStates(timeline.Admin, button, LateFrame());
     const auto tag = GetNewButton(timeline.Admin, button, characters, depth);
-    tag->Actions = Scripts.ButtonActions(layer);
+    if (snapshot_ == nullptr) tag->Actions = Scripts.ButtonActions(layer);
     movie_.AddTag(frame, tag, true);
     if (button.bl9Scale && mdlSWFTag::swfVersion() >= ScalingGridVersion)
         movie_.AddTag(frame,
@@ -184,8 +224,8 @@ Long Authoring::DefineButton(const Timeline& timeline, const clsLayer& layer, Lo
     return tag->ID;
 }
 
-void Authoring::PlaceKomas(const Timeline& timeline, const clsLayer& layer,
-                           LayerPlacement::Character character) {
+void Authoring::PlaceKomas(const Timeline& timeline, Long index, LayerCharacter character) {
+    const clsLayer& layer = *timeline.Layers(index);
     LeaveOutKomas(layer);
     const Long frame = timeline.Admin.FrameCount() == 1 ? 1 : 2;
     const clsSymbolData& symbol = *layer.SymbolData();
@@ -194,13 +234,12 @@ void Authoring::PlaceKomas(const Timeline& timeline, const clsLayer& layer,
     character.Identifier = identifiers.front();
     KomaTable table(symbol.Property<clsPropertyKoma>()->DispCount, std::move(identifiers));
     character.Koma = &table;
-    LayerPlacement(timeline.Admin, layer, character).Run();
+    Place(timeline, index, character);
 }
 
 /// Defines what a deformed key frame shows. It is divided where its layer has the depths.
-LayerPlacement::DeformedCharacter Authoring::Deform(const Timeline& timeline, const clsLayer& layer,
-                                                    const clsLayerObject& start,
-                                                    const clsLayerObject* end) {
+DeformedCharacter Authoring::Deform(const Timeline& timeline, const clsLayer& layer,
+                                    const clsLayerObject& start, const clsLayerObject* end) {
     const auto* from = start.ObjectAs<clsObjVector>();
     const auto* to = end != nullptr ? end->ObjectAs<clsObjVector>() : nullptr;
     const auto& record = *layer.SymbolData()->Property<clsPropertyVector>();
@@ -210,7 +249,8 @@ LayerPlacement::DeformedCharacter Authoring::Deform(const Timeline& timeline, co
         record.blDivide || (from != nullptr && from->blDivide) || (to != nullptr && to->blDivide);
     own.blDivide = wanted && layer.DepthCnt(true) == own.ShapeCount();
     if (layer.ClippingDepth != 0) deformed.Start->DefineNum = VectorForm::Clip;
-    const Long frame = timeline.IsMain() ? std::min(start.StartFrame(), 2) : timeline.SpriteFrame;
+    const Long frame =
+        timeline.IsMain() ? std::min(start.StartFrame(), LateFrame()) : timeline.SpriteFrame;
     tamber::DefineVector({timeline.Admin, movie_, frame}, *deformed.Start);
     const Long count = own.blDivide && layer.ClippingDepth == 0 ? own.ShapeCount() : 1;
     return {deformed.Start->DefineID() + 1 - count, count};

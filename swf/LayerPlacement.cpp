@@ -1,17 +1,18 @@
 #include "swf/LayerPlacement.h"
 
-#include "document/SymbolKinds.h"
-#include "document/clsObjVector.h"
-#include "document/clsPropertyVector.h"
-#include "document/clsSymbolData.h"
-#include "swf/TweenExpansion.h"
 #include "swf/tags/clsSWFTagRemoveObject.h"
 
 namespace tamber {
 
 namespace {
 constexpr Long BlendVersion = 8;
+
+/// What a character that is placed anew has to say of its blend mode.
+void TakeBlend(clsSWFTagPlaceObject& tag, const clsLayerObjElement& element) {
+    if (mdlSWFTag::swfVersion() >= BlendVersion && element.eBlend != 0) tag.eBlend(element.eBlend);
 }
+
+}  // namespace
 
 void LayerPlacement::Run() {
     for (Long index = 1; index <= layer_.ObjectCount(); ++index)
@@ -23,8 +24,11 @@ std::shared_ptr<clsSWFTagPlaceObject> LayerPlacement::MakeTag(const clsLayerObje
     const Long depth = character_.Depth;
     if (placed_) {
         auto tag = NewPlaceObject(0, depth, element, character_.Origin, previous_->Placement());
-        // A koma is placed anew within the span and has to mask again; any other mask stays one.
-        if (character_.Koma != nullptr) tag->ClippingDepth = tag_->ClippingDepth;
+        // A koma is placed anew within the span and has to mask and blend again.
+        if (character_.Koma != nullptr) {
+            tag->ClippingDepth = tag_->ClippingDepth;
+            TakeBlend(*tag, element);
+        }
         return tag;
     }
     auto tag = NewPlaceObject(character_.Identifier, depth, element, character_.Origin, nullptr);
@@ -33,20 +37,6 @@ std::shared_ptr<clsSWFTagPlaceObject> LayerPlacement::MakeTag(const clsLayerObje
     if (object.blVisible && character_.Actions != nullptr) tag->MCAction = *character_.Actions;
     if (character_.Koma != nullptr) character_.Koma->Rewind();
     return tag;
-}
-
-bool LayerPlacement::OpensTween(Long index) const {
-    const clsLayerObject& object = *layer_.Object(index);
-    return object.blVisible && object.blTween && index < layer_.ObjectCount();
-}
-
-/// The key frame needs a character of its own: its outline is deformed, or its tween ends so.
-bool LayerPlacement::IsDeformed(Long index) const {
-    const auto deformed = [this](Long i) {
-        const auto* element = layer_.Object(i)->ObjectAs<clsObjVector>();
-        return element != nullptr && element->blFreeTransEx();
-    };
-    return character_.Deform && (deformed(index) || (OpensTween(index) && deformed(index + 1)));
 }
 
 void LayerPlacement::PlaceKeyFrame(Long index) {
@@ -65,7 +55,7 @@ void LayerPlacement::PlaceKeyFrame(Long index) {
         return;
     }
     ChooseCharacter(index, endsTween);
-    if (OpensTween(index)) {
+    if (OpensTween(layer_, index)) {
         inTween_ = true;
     } else {
         PlaceStatic(object);
@@ -77,9 +67,9 @@ void LayerPlacement::PlaceKeyFrame(Long index) {
 /// and a plain one after them the layer's.
 void LayerPlacement::ChooseCharacter(Long index, bool endsTween) {
     const clsLayerObject& object = *layer_.Object(index);
-    const bool opens = OpensTween(index);
+    const bool opens = OpensTween(layer_, index);
     if (special_ && endsTween && !opens) return;
-    if (IsDeformed(index)) {
+    if (IsDeformed(layer_, index, character_)) {
         const clsLayerObject* end = opens ? layer_.Object(index + 1).get() : nullptr;
         ReplaceCharacter(object.StartFrame(), character_.Deform(object, end));
         special_ = true;
@@ -97,8 +87,7 @@ void LayerPlacement::ReplaceCharacter(Long frame, DeformedCharacter character) {
     tag_->PlaceCnt = character.PlaceCount;
     tag_->ClippingDepth = character_.ClippingDepth;
     if (layer_.blInstance()) tag_->Name = layer_.InstanceName;
-    const Long blend = previous_->Placement()->eBlend;
-    if (mdlSWFTag::swfVersion() >= BlendVersion && blend != 0) tag_->eBlend(blend);
+    TakeBlend(*tag_, *previous_->Placement());
 }
 
 /// What stands at the depth is gone; the next key frame begins anew.
@@ -109,19 +98,10 @@ void LayerPlacement::EndCharacter() {
 
 void LayerPlacement::ExpandTween(const std::shared_ptr<clsSWFTagPlaceObject>& start,
                                  const clsLayerObject& end) {
-    Tween tween;
-    tween.Frame = previous_->StartFrame();
-    tween.Span = previous_->DispCount();
+    Tween tween = TweenOf(layer_, *previous_, character_);
     tween.StartTag = start;
     tween.EndTag = tag_;
-    tween.Element = previous_->Placement();
-    tween.blVector = layer_.SymbolData()->eTypeEx() == KindVector;
-    const auto* drawing = layer_.SymbolData()->Property<clsPropertyVector>();
-    tween.blMorph = drawing != nullptr && drawing->MorphSymbol() != nullptr;
-    tween.Koma = character_.Koma;
-    const TweenPath path(*previous_->Placement(), *end.Placement(), character_.Origin.X,
-                         character_.Origin.Y);
-    AddTween(admin_, tween, path);
+    AddTween(admin_, tween, PathOf(*previous_, end, character_.Origin));
     onStage_ = true;
 }
 

@@ -1,11 +1,8 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 
-#include "document/clsLayer.h"
-#include "swf/KomaTable.h"
-#include "swf/PlaceObjectFactory.h"
+#include "swf/LayerCharacter.h"
 #include "swf/clsSWFAdmin.h"
 
 namespace tamber {
@@ -13,29 +10,7 @@ namespace tamber {
 /// Puts the key frames of one layer into a timeline: placements, tweens, moves and removals.
 class LayerPlacement {
 public:
-    /// A character of a key frame's own.
-    struct DeformedCharacter {
-        Long Identifier = 0;
-        Long PlaceCount = 1;
-    };
-
-    /// What stands on the layer, and where.
-    struct Character {
-        Long Identifier = 0;
-        Long Depth = 0;
-        Long PlaceCount = 1;     ///< depths that it takes
-        Long ClippingDepth = 0;  ///< depths that it masks
-        TimelineOrigin Origin;
-        /// Actions of a sprite's events, or null.
-        const std::vector<SwfEventActions>* Actions = nullptr;
-        KomaTable* Koma = nullptr;
-        /// Defines the character of a vector key frame that is deformed, or, with the key frame
-        /// that a tween ends with, one that morphs. Null for other kinds.
-        std::function<DeformedCharacter(const clsLayerObject& start, const clsLayerObject* end)>
-            Deform;
-    };
-
-    LayerPlacement(clsSWFAdmin& admin, const clsLayer& layer, Character character)
+    LayerPlacement(clsSWFAdmin& admin, const clsLayer& layer, LayerCharacter character)
         : admin_(admin),
           layer_(layer),
           character_(std::move(character)),
@@ -45,8 +20,6 @@ public:
 
 private:
     void PlaceKeyFrame(Long index);
-    bool OpensTween(Long index) const;
-    bool IsDeformed(Long index) const;
     void ChooseCharacter(Long index, bool endsTween);
     void ReplaceCharacter(Long frame, DeformedCharacter character);
     void EndCharacter();
@@ -58,7 +31,7 @@ private:
 
     clsSWFAdmin& admin_;
     const clsLayer& layer_;
-    Character character_;
+    LayerCharacter character_;
     std::shared_ptr<clsSWFTagPlaceObject> tag_;
     /// The key frame before, when its placement is part of the present chain.
     const clsLayerObject* previous_ = nullptr;

@@ -73,20 +73,27 @@ void MixColour(clsSWFTagPlaceObject& tag, const SwfColorTransform& a, const SwfC
                            mix(a.AddB, b.AddB), mix(a.AddA, b.AddA)});
 }
 
-std::shared_ptr<clsSWFTagPlaceObject> Interpolate(const clsSWFTagPlaceObject& start,
-                                                  const clsSWFTagPlaceObject& end,
-                                                  Long positionRatio, Long parameterRatio,
-                                                  const TweenPath& path) {
+/// Gives `tag` what differs between the ends of a tween, as it is at frame `frame` of it.
+void Interpolate(clsSWFTagPlaceObject& tag, const Tween& tween, const TweenPath& path,
+                 const TweenEasing& easing, Long frame) {
+    const clsSWFTagPlaceObject& start = *tween.StartTag;
+    const clsSWFTagPlaceObject& end = *tween.EndTag;
+    const Single t = static_cast<Single>(frame) / static_cast<Single>(tween.Span);
+    const Long parameterRatio = easing.ParameterRatio(t);
+    const Mix mix{(FullRatio - parameterRatio) / static_cast<double>(FullRatio),
+                  parameterRatio / static_cast<double>(FullRatio)};
+    if (start.blMatrixMorphing) MixMatrix(tag, start, end, mix, path.At(easing.PositionRatio(t)));
+    if (start.blColorMorphing) MixColour(tag, start.Color, end.Color, mix);
+    if (start.blFilterMorphing && start.inFilter() && end.inFilter())
+        tag.inFilter(start.inFilter()->Morphing(*end.inFilter(), mix.q, mix.p));
+    if (tween.blVector) tag.Ratio(parameterRatio);
+}
+
+std::shared_ptr<clsSWFTagPlaceObject> NewMove(const clsSWFTagPlaceObject& start) {
     auto tag = std::make_shared<clsSWFTagPlaceObject>();
     tag->depth = start.depth;
     tag->PlaceCnt = start.PlaceCnt;
     tag->ClippingDepth = start.ClippingDepth;
-    const Mix mix{(FullRatio - parameterRatio) / static_cast<double>(FullRatio),
-                  parameterRatio / static_cast<double>(FullRatio)};
-    if (start.blMatrixMorphing) MixMatrix(*tag, start, end, mix, path.At(positionRatio));
-    if (start.blColorMorphing) MixColour(*tag, start.Color, end.Color, mix);
-    if (start.blFilterMorphing && start.inFilter() && end.inFilter())
-        tag->inFilter(start.inFilter()->Morphing(*end.inFilter(), mix.q, mix.p));
     return tag;
 }
 
@@ -147,18 +154,26 @@ void PlaceKoma(clsSWFAdmin& admin, Long frame, const clsSWFTagPlaceObject& tag, 
     admin.AddPlaceObj(frame, std::move(copy));
 }
 
-void AddTween(clsSWFAdmin& admin, const Tween& tween, const TweenPath& path) {
+void AddTween(clsSWFAdmin& admin, const Tween& tween, const TweenPath& path, Long fixedFrame) {
     ChooseMorphing(tween, path);
     const TweenEasing easing(*tween.Element);
     if (tween.blVector) tween.StartTag->Ratio(0);
+    if (fixedFrame > tween.Frame) {
+        clsSWFTagPlaceObject tag(*tween.StartTag);
+        Interpolate(tag, tween, path, easing, fixedFrame - tween.Frame);
+        *tween.StartTag = std::move(tag);
+    }
+    if (fixedFrame != 0) {
+        admin.AddPlaceObj(1, tween.StartTag);
+        return;
+    }
     if (tween.Koma != nullptr) tween.Koma->BeginSpan();
     PlaceOnFrame(admin, tween, tween.Frame, tween.StartTag);
     for (Long i = 1; i < tween.Span; ++i) {
-        const Single t = static_cast<Single>(i) / static_cast<Single>(tween.Span);
-        const Long parameterRatio = easing.ParameterRatio(t);
-        auto tag = Interpolate(*tween.StartTag, *tween.EndTag, easing.PositionRatio(t),
-                               parameterRatio, path);
-        if (tween.blVector) tag->Ratio(parameterRatio);
+        auto tag = NewMove(*tween.StartTag);
+        if (tween.Koma != nullptr && tween.StartTag->blHasBlend())
+            tag->eBlend(tween.StartTag->eBlend());
+        Interpolate(*tag, tween, path, easing, i);
         PlaceOnFrame(admin, tween, tween.Frame + i, tag);
     }
     if (tween.blVector) tween.EndTag->Ratio(FullRatio);

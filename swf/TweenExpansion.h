@@ -20,8 +20,10 @@ struct Tween {
     KomaTable* Koma = nullptr;                    ///< of a koma symbol
 };
 
-/// Puts one placement on each of the tween's `Span` frames. The end tag is left to the caller.
-void AddTween(clsSWFAdmin& admin, const Tween& tween, const TweenPath& path);
+/// Puts one placement on each of the tween's `Span` frames. The end tag is left to the caller. With
+/// a `fixedFrame`, one of these frames, the start tag takes the values of that frame and is put on
+/// frame 1 alone.
+void AddTween(clsSWFAdmin& admin, const Tween& tween, const TweenPath& path, Long fixedFrame = 0);
 
 /// Puts the koma's next picture on a frame, when its turn has come: the old one goes, a copy of
 /// `tag` with the new one comes.

@@ -18,6 +18,9 @@ public:
     Long depth = 0;
     /// Neighbouring depths and identifiers that this one object writes.
     Long PlaceCnt = 1;
+    /// Row and key frame that it was made of, in a snapshot; not written.
+    Long LayerIndex = 0;
+    Long ObjIndex = 0;
 
     bool blHasMatrix = false;
     Single ScaleX = 1;

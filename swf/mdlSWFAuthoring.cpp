@@ -74,4 +74,11 @@ bool BuildMovie(const MovieRequest& request) {
     return Refuse(request.Path + u"\r\n\r\nファイルに書き込めませんでした。");
 }
 
+PlacedTags WriteFrameSnapshot(clsSWFAdmin& admin, const SnapshotRequest& snapshot) {
+    MovieRequest request;
+    request.Layers = snapshot.Layers;
+    request.blTopToBottom = snapshot.blTopToBottom;
+    return Authoring(request, admin).WriteFrameSnapshot(admin, snapshot);
+}
+
 }  // namespace tamber::mdlSWFAuthoring

@@ -3,9 +3,12 @@
 #include "document/clsLayer.h"
 #include "document/clsSymbolData.h"
 #include "platform/Collection.h"
+#include "swf/clsSWFTagPlaceObject.h"
 #include "swf/tags/clsFontAdmin.h"
 
 namespace tamber {
+
+class clsSWFAdmin;
 
 /// What a movie is built from.
 struct MovieRequest {
@@ -35,11 +38,28 @@ struct MovieRequest {
     bool blExportsInFrameTwo = false;
 };
 
+/// One frame of a timeline, as the canvas shows it.
+struct SnapshotRequest {
+    const Collection<clsLayer>* Layers = nullptr;
+    /// Rows to show; masks among them clip as in the movie.
+    Long FirstRow = 1;
+    Long LastRow = 1;
+    Long Frame = 1;
+    /// The first layer of the table is the topmost one.
+    bool blTopToBottom = true;
+};
+
+using PlacedTags = std::vector<std::shared_ptr<clsSWFTagPlaceObject>>;
+
 namespace mdlSWFAuthoring {
 
 /// Builds and writes a movie. What cannot go into it is left out with a message. False when nothing
 /// was written.
 bool BuildMovie(const MovieRequest& request);
+
+/// Fills an empty movie of the global version, whose symbols have no identifiers yet, with one
+/// frame of a timeline. The result are the placements, each with its row and key frame.
+PlacedTags WriteFrameSnapshot(clsSWFAdmin& admin, const SnapshotRequest& snapshot);
 
 /// Last frame on which a visible layer shows anything, 0 when there is none.
 Long LastShownFrame(const Collection<clsLayer>& layers);

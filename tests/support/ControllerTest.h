@@ -22,7 +22,14 @@ public:
     bool Redo = true;
     /// How often the canvas was shown.
     Long Shown = 0;
+    /// Snapshot that the canvas has, and the colour behind it.
+    String Snapshot;
+    Long BackColor = 0;
     void ShowEditFrame() override { ++Shown; }
+    void ReloadSnapshot(StringView path, Long backColor) override {
+        Snapshot = path;
+        BackColor = backColor;
+    }
     void SetCanvasSize(Long width, Long height) override {
         Width = width;
         Height = height;

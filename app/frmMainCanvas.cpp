@@ -1,0 +1,108 @@
+#include <algorithm>
+
+#include "app/frmMain.h"
+#include "app/mdlPrivateProfile.h"
+#include "document/SymbolKinds.h"
+#include "document/clsObjBackGround.h"
+#include "document/clsSymbolData.h"
+#include "platform/files.h"
+#include "platform/paths.h"
+#include "swf/TextDefinition.h"
+
+// What the canvas shows: a small movie of one frame.
+
+namespace tamber {
+
+namespace {
+
+constexpr StringView SnapshotName = u"_edit.swf";
+constexpr Long White = 0xFFFFFF;
+
+Long ToTwips(Long pixels) {
+    constexpr double TwipsPerPixel = 20;
+    return mdlSWFTag::ToField(pixels * TwipsPerPixel);
+}
+
+}  // namespace
+
+Long frmMain::CanvasWidth() const {
+    const auto symbol = EditSymbol();
+    return symbol && symbol->eType() == KindSprite ? symbol->PixelWidth() : inProject.MainWidth;
+}
+
+Long frmMain::CanvasHeight() const {
+    const auto symbol = EditSymbol();
+    return symbol && symbol->eType() == KindSprite ? symbol->PixelHeight() : inProject.MainHeight;
+}
+
+void frmMain::SetCanvasSize() {
+    snapshot_.SetDimension(0, ToTwips(CanvasWidth()), 0, ToTwips(CanvasHeight()), 0);
+    view_->SetCanvasSize(CanvasWidth(), CanvasHeight());
+}
+
+void frmMain::ShowEditFrame() {
+    EditHistory().Tag.clear();
+    view_->ShowEditFrame();
+}
+
+Long frmMain::CanvasColor() const {
+    if (editIndex != EditMain || colMainLayer()->Empty()) return White;
+    const auto object = (*colMainLayer())(colMainLayer()->Count())->SelectObject();
+    const auto* back = object ? object->ObjectAs<clsObjBackGround>() : nullptr;
+    return back != nullptr ? back->BackColor() : White;
+}
+
+String frmMain::TempMoviePath() const {
+    const bool beside = !ProjectFileName.empty() && mdlPrivateProfile::flgPrevPrjPath();
+    return beside ? ProjectDir : ProgramFolder();
+}
+
+bool frmMain::ShowEditSWFBitmap(Long frame) {
+    if (editLayers_->Empty()) {
+        snapshotTags_.clear();
+        view_->ReloadSnapshot({}, CanvasColor());
+        return true;
+    }
+    const auto layer = EditLayer();
+    const auto object = layer ? layer->SelectObject() : nullptr;
+    const bool atCursor = !object || mdlPrivateProfile::flgCursorFrameDisp();
+    if (frame < 1) frame = atCursor ? SelFrame1 : object->StartFrame();
+    nPrevFrame = frame;
+    const String path = JoinPath(TempMoviePath(), SnapshotName);
+    // A program's folder that takes no files has the user's own in its place.
+    const bool written = WriteSnapshot(path, frame) ||
+                         (TempMoviePath() == ProgramFolder() && MakeFolders(UserFolder()) &&
+                          WriteSnapshot(JoinPath(UserFolder(), SnapshotName), frame));
+    if (written) view_->ReloadSnapshot(snapshotPath_, CanvasColor());
+    return written;
+}
+
+bool frmMain::WriteSnapshot(StringView path, Long frame) {
+    const bool isTaken =
+        std::any_of(colSymbol()->begin(), colSymbol()->end(), [path](const auto& symbol) {
+            return symbol->FilePathName.ends_with(SnapshotName) &&
+                   SameFile(symbol->FilePathName, path);
+        });
+    if (isTaken) return false;
+    SnapshotRequest request;
+    request.Layers = editLayers_.get();
+    request.FirstRow = chkVisibleForwardLayer ? 1 : SelIndex1;
+    request.LastRow = chkVisibleBackLayer ? editLayers_->Count() : SelIndex1;
+    request.Frame = frame;
+    request.blTopToBottom = mdlPrivateProfile::flgTopToBottom();
+    snapshot_.Ver = inProject.SWFVersion;
+    snapshot_.FrameRate = inProject.FrameRate;
+    snapshot_.inFontAdmin = RefreshFontAdmin(*colSymbol(), inProject.SWFVersion);
+    if (!WriteEditSnapshot(snapshot_, *colSymbol(), request, CanvasColor(), path, snapshotTags_))
+        return false;
+    if (snapshotPath_ != path) DeleteSnapshot();
+    snapshotPath_ = path;
+    return true;
+}
+
+void frmMain::DeleteSnapshot() {
+    if (!snapshotPath_.empty() && FileExists(snapshotPath_)) DeleteFile(snapshotPath_);
+    snapshotPath_.clear();
+}
+
+}  // namespace tamber

@@ -1,0 +1,21 @@
+#include "canvas/EditSnapshot.h"
+
+#include "platform/SilentUserInterface.h"
+#include "swf/MovieLimits.h"
+
+namespace tamber {
+
+bool WriteEditSnapshot(clsSWFAdmin& admin, const Collection<clsSymbolData>& library,
+                       const SnapshotRequest& snapshot, Long backColor, StringView path,
+                       PlacedTags& placed) {
+    SilentUserInterface silent;
+    const UserInterfaceScope scope(silent);
+    mdlSWFTag::swfVersion(admin.Ver);
+    for (const auto& symbol : library) symbol->InitDefineID();
+    admin.InitSWF();
+    admin.BackGroundColor = backColor;
+    placed = mdlSWFAuthoring::WriteFrameSnapshot(admin, snapshot);
+    return admin.DefineID <= MaxIdentifiers && admin.Save(path);
+}
+
+}  // namespace tamber

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "document/clsSymbolData.h"
+#include "swf/clsSWFAdmin.h"
+#include "swf/mdlSWFAuthoring.h"
+
+namespace tamber {
+
+/// Writes a movie of one frame of a timeline, for the canvas. `admin` has its dimension, version
+/// and fonts; `backColor` has red in the low byte. `placed` gets the placements, for hit tests.
+/// Nothing is said; false when the file could not be written, an earlier one then stays.
+bool WriteEditSnapshot(clsSWFAdmin& admin, const Collection<clsSymbolData>& library,
+                       const SnapshotRequest& snapshot, Long backColor, StringView path,
+                       PlacedTags& placed);
+
+}  // namespace tamber

@@ -1,0 +1,104 @@
+#include "swf/FramePlacement.h"
+
+#include <algorithm>
+
+namespace tamber {
+
+namespace {
+
+constexpr Long FullRatio = 65535;
+
+/// The last key frame that has begun by a frame, 0 when there is none.
+Long LastBegun(const clsLayer& layer, Long frame) {
+    const auto after =
+        std::upper_bound(layer.colObject.begin(), layer.colObject.end(), frame,
+                         [](Long at, const auto& object) { return at < object->StartFrame(); });
+    return static_cast<Long>(after - layer.colObject.begin());
+}
+
+}  // namespace
+
+FramePlacement::FramePlacement(const clsLayer& layer, Long frame) : layer_(layer), frame_(frame) {
+    const Long index = LastBegun(layer, frame);
+    if (index == 0) return;
+    const clsLayerObject& object = *layer.Object(index);
+    if (object.Placement() == nullptr || !object.blVisible) return;
+    // A tween that ends before the next key frame begins holds its last place.
+    if (object.CheckFrame(frame) || OpensTween(layer, index)) index_ = index;
+}
+
+/// What the key frame shows is still on the stage when the next one begins.
+bool FramePlacement::ContinuesFrom(Long index) const {
+    const clsLayerObject& object = *layer_.Object(index);
+    return object.blVisible && object.Placement() != nullptr &&
+           (OpensTween(layer_, index) ||
+            object.endFrame() + 1 >= layer_.Object(index + 1)->StartFrame());
+}
+
+/// The key frame, no tween's start, ends one whose character is its own, and goes on showing that.
+bool FramePlacement::EndsSpecialTween(Long index, const LayerCharacter& character) const {
+    return index > 1 && !OpensTween(layer_, index) && OpensTween(layer_, index - 1) &&
+           IsDeformed(layer_, index - 1, character);
+}
+
+/// A morph lies behind the key frame, and no new character since.
+bool FramePlacement::MorphEnded(const LayerCharacter& character) const {
+    for (Long index = index_ - 1; index >= 1 && ContinuesFrom(index); --index) {
+        if (OpensTween(layer_, index)) return true;
+        if (IsDeformed(layer_, index, character) || EndsSpecialTween(index, character))
+            return false;
+    }
+    return false;
+}
+
+void FramePlacement::ChooseCharacter(clsSWFTagPlaceObject& tag,
+                                     const LayerCharacter& character) const {
+    const auto take = [&tag](DeformedCharacter own) {
+        tag.PlaceID = own.Identifier;
+        tag.PlaceCnt = own.PlaceCount;
+    };
+    if (EndsSpecialTween(index_, character)) {
+        take(character.Deform(*layer_.Object(index_ - 1), &Object()));
+        tag.Ratio(FullRatio);
+    } else if (IsDeformed(layer_, index_, character)) {
+        const bool opens = OpensTween(layer_, index_);
+        take(character.Deform(Object(), opens ? layer_.Object(index_ + 1).get() : nullptr));
+    } else if (TweenOf(layer_, Object(), character).blMorph && MorphEnded(character)) {
+        tag.Ratio(FullRatio);
+    }
+}
+
+/// The list of pictures runs through all key frames that follow each other without a gap.
+Long FramePlacement::KomaCharacter(KomaTable& koma) const {
+    Long first = index_;
+    while (first > 1 && ContinuesFrom(first - 1)) --first;
+    koma.Rewind();
+    for (Long index = first; index < index_; ++index)
+        koma.AdvanceSpan(layer_.Object(index)->DispCount());
+    return koma.AdvanceSpan(std::min(frame_ - Object().StartFrame() + 1, Object().DispCount()));
+}
+
+std::shared_ptr<clsSWFTagPlaceObject> FramePlacement::Place(clsSWFAdmin& admin,
+                                                            const LayerCharacter& character) const {
+    const clsLayerObjElement& element = *Object().Placement();
+    const Long id =
+        character.Koma != nullptr ? KomaCharacter(*character.Koma) : character.Identifier;
+    auto tag = NewPlaceObject(id, character.Depth, element, character.Origin, nullptr);
+    tag->PlaceCnt = character.PlaceCount;
+    tag->ClippingDepth = character.ClippingDepth;
+    tag->ObjIndex = index_;
+    ChooseCharacter(*tag, character);
+    if (!OpensTween(layer_, index_)) {
+        admin.AddPlaceObj(1, tag);
+        return tag;
+    }
+    const clsLayerObject& end = *layer_.Object(index_ + 1);
+    Tween tween = TweenOf(layer_, Object(), character);
+    tween.StartTag = tag;
+    tween.EndTag = NewPlaceObject(0, character.Depth, *end.Placement(), character.Origin, &element);
+    const Long last = tween.Frame + tween.Span - 1;
+    AddTween(admin, tween, PathOf(Object(), end, character.Origin), std::min(frame_, last));
+    return tag;
+}
+
+}  // namespace tamber

@@ -1,0 +1,40 @@
+#include "swf/LayerCharacter.h"
+
+#include "document/SymbolKinds.h"
+#include "document/clsObjVector.h"
+#include "document/clsPropertyVector.h"
+#include "document/clsSymbolData.h"
+
+namespace tamber {
+
+bool OpensTween(const clsLayer& layer, Long index) {
+    const clsLayerObject& object = *layer.Object(index);
+    return object.blVisible && object.blTween && index < layer.ObjectCount();
+}
+
+bool IsDeformed(const clsLayer& layer, Long index, const LayerCharacter& character) {
+    const auto deformed = [&layer](Long i) {
+        const auto* element = layer.Object(i)->ObjectAs<clsObjVector>();
+        return element != nullptr && element->blFreeTransEx();
+    };
+    return character.Deform &&
+           (deformed(index) || (OpensTween(layer, index) && deformed(index + 1)));
+}
+
+Tween TweenOf(const clsLayer& layer, const clsLayerObject& start, const LayerCharacter& character) {
+    Tween tween;
+    tween.Frame = start.StartFrame();
+    tween.Span = start.DispCount();
+    tween.Element = start.Placement();
+    tween.blVector = layer.SymbolData()->eTypeEx() == KindVector;
+    const auto* drawing = layer.SymbolData()->Property<clsPropertyVector>();
+    tween.blMorph = drawing != nullptr && drawing->MorphSymbol() != nullptr;
+    tween.Koma = character.Koma;
+    return tween;
+}
+
+TweenPath PathOf(const clsLayerObject& start, const clsLayerObject& end, TimelineOrigin origin) {
+    return {*start.Placement(), *end.Placement(), origin.X, origin.Y};
+}
+
+}  // namespace tamber

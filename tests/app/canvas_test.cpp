@@ -1,0 +1,123 @@
+#include "app/mdlPrivateProfile.h"
+#include "document/clsLayerObjElement.h"
+#include "document/clsObjBackGround.h"
+#include "platform/files.h"
+#include "tests/support/ControllerTest.h"
+#include "tests/swf/MovieParser.h"
+
+namespace tamber {
+namespace {
+
+/// The movie that the canvas shows. Three rows of one sprite, at 10, 20 and 30 pixels, stand before
+/// the background.
+class CanvasTest : public ControllerTest {
+protected:
+    void SetUp() override {
+        ControllerTest::SetUp();
+        sprite_ = AddSprite(50);
+        for (int i = 0; i < 3; ++i) {
+            main_.SelSymbol1 = main_.SelSymbol2 = sprite_;
+            main_.AddToLayer(1, false, false);
+        }
+        for (Long row = 1; row <= 3; ++row)
+            Row(row).Object(1)->Placement()->X(static_cast<Single>(row * 10));
+    }
+
+    /// Pixels of what the snapshot places, from the back.
+    std::vector<Long> Shown(Long frame = 0) {
+        EXPECT_TRUE(main_.ShowEditSWFBitmap(frame));
+        std::vector<Long> places;
+        for (const auto& place : test::Places(test::ParseMovie(view_->Snapshot)))
+            places.push_back(place.Matrix.TranslateX / 20);
+        EXPECT_EQ(places.size(), main_.SnapshotTags().size());
+        return places;
+    }
+
+    Long sprite_ = 0;
+};
+
+TEST_F(CanvasTest, rows_before_and_behind_the_selected_one_are_shown_as_the_boxes_say) {
+    main_.ChangeSelectIndex(2, 2);
+    EXPECT_EQ(Shown(), (std::vector<Long>{10, 20, 30}));
+    main_.chkVisibleForwardLayer = false;
+    EXPECT_EQ(Shown(), (std::vector<Long>{20, 30}));
+    main_.chkVisibleBackLayer = false;
+    EXPECT_EQ(Shown(), (std::vector<Long>{20}));
+    main_.chkVisibleForwardLayer = true;
+    EXPECT_EQ(Shown(), (std::vector<Long>{10, 20}));
+}
+
+TEST_F(CanvasTest, the_frame_is_the_selected_key_frames_or_the_cursors) {
+    Row(1).Object(1)->DispCount(4);
+    main_.ChangeSelectIndex(1, 1);
+    main_.SelectFrames(4, 4);
+    Shown();
+    EXPECT_EQ(main_.nPrevFrame, 1);
+    mdlPrivateProfile::flgCursorFrameDisp(true);
+    EXPECT_EQ(Shown(), (std::vector<Long>{10}));
+    EXPECT_EQ(main_.nPrevFrame, 4);
+    EXPECT_EQ(Shown(1), (std::vector<Long>{10, 20, 30}));
+}
+
+TEST_F(CanvasTest, the_movie_lies_beside_the_project_and_its_old_place_is_cleared) {
+    EXPECT_EQ(Shown().size(), 3u);
+    EXPECT_EQ(view_->Snapshot, Path(u"_edit.swf"));
+    ASSERT_TRUE(MakeFolders(Path(u"作品")));
+    ASSERT_TRUE(main_.mnuSaveNew(Path(u"作品/月.kvf")));
+    Shown();
+    EXPECT_EQ(view_->Snapshot, Path(u"作品/_edit.swf"));
+    EXPECT_FALSE(FileExists(Path(u"_edit.swf")));
+    mdlPrivateProfile::flgPrevPrjPath(false);
+    Shown();
+    EXPECT_EQ(view_->Snapshot, Path(u"_edit.swf"));
+    main_.DeleteSnapshot();
+    EXPECT_FALSE(FileExists(Path(u"_edit.swf")));
+    EXPECT_FALSE(FileExists(Path(u"作品/_edit.swf")));
+    EXPECT_TRUE(FileExists(Path(u"作品/月.kvf")));
+}
+
+TEST_F(CanvasTest, the_stage_and_a_sprite_have_their_own_size_and_colour) {
+    Row(4).Object(1)->ObjectAs<clsObjBackGround>()->BackColor(0x332211);
+    Shown();
+    test::ParsedMovie movie = test::ParseMovie(view_->Snapshot);
+    EXPECT_EQ(movie.Stage.xMax, main_.CanvasWidth() * 20);
+    EXPECT_EQ(movie.Bodies(9)[0], (Bytes{0x11, 0x22, 0x33}));
+    EXPECT_EQ(view_->BackColor, 0x332211);
+
+    auto& record = *(*main_.colSymbol())(sprite_)->Property<clsPropertySprite>();
+    main_.ChangeSprite(sprite_);
+    EXPECT_TRUE(main_.ShowEditSWFBitmap());
+    EXPECT_EQ(view_->Snapshot, u"");
+    record.colLayer->Add((*main_.colMainLayer())(1)->CopyHead());
+    EXPECT_EQ(Shown(), std::vector<Long>());
+    movie = test::ParseMovie(view_->Snapshot);
+    EXPECT_EQ(movie.Stage.xMax, 50 * 20);
+    EXPECT_EQ(movie.Bodies(9)[0], (Bytes{0xFF, 0xFF, 0xFF}));
+}
+
+TEST_F(CanvasTest, a_movie_that_cannot_be_written_leaves_the_old_picture_and_says_nothing) {
+    Shown();
+    const String before = view_->Snapshot;
+    ASSERT_TRUE(MakeFolders(Path(u"x/_edit.swf")));
+    main_.ProjectFileName = Path(u"x/y.kvf");
+    main_.ProjectDir = Path(u"x");
+    EXPECT_FALSE(main_.ShowEditSWFBitmap());
+    EXPECT_EQ(view_->Snapshot, before);
+    EXPECT_TRUE(FileExists(before));
+    EXPECT_TRUE(interface_.Messages.empty());
+}
+
+TEST_F(CanvasTest, a_symbols_own_file_is_not_written_over) {
+    ASSERT_TRUE(WriteFileBytes(Bytes{1, 2, 3}, Path(u"_edit.swf")));
+    (*main_.colSymbol())(sprite_)->FilePathName = Path(u"_edit.swf");
+    main_.ProjectFileName = Path(u"a.kvf");
+    main_.ProjectDir = folder_;
+    mdlPrivateProfile::flgPrevPrjPath(true);
+    main_.ShowEditSWFBitmap();
+    Bytes bytes;
+    ASSERT_TRUE(ReadFileBytes(Path(u"_edit.swf"), bytes));
+    EXPECT_EQ(bytes, (Bytes{1, 2, 3}));
+}
+
+}  // namespace
+}  // namespace tamber
