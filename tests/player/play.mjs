@@ -1,7 +1,7 @@
 #!/usr/bin/env node
 // Generates the movie of every case and looks at it in a real player; then compares drawings with another renderer.
 //
-//   node play.mjs TAMBER MODULES OUTPUT [CASE... | page | drawings]
+//   node play.mjs TAMBER MODULES OUTPUT [CASE... | snapshots | page | drawings]
 //
 // TAMBER is the program, MODULES the folder with node_modules, OUTPUT where movies and the pictures of all looked-at
 // frames go. Exit status 0 when all is as expected, 1 when not.
@@ -33,16 +33,19 @@ function headerDifferences(movie, { compressed, version }) {
   return lines;
 }
 
-/** The user's own settings are kept out of it. */
-function generate(tamber, { project, arguments: extra = [] }, folder, output) {
+/** Runs the program, and answers what it made. The user's own settings are kept out of it. */
+function made(tamber, words, output, input = '') {
   rmSync(output, { force: true });
-  const run = spawnSync(tamber, ['generate', path.join(folder, project), '-o', output, ...extra], {
-    encoding: 'utf8', timeout: 60000, env: { ...process.env, XDG_CONFIG_HOME: path.dirname(output) },
+  const run = spawnSync(tamber, words, {
+    encoding: 'utf8', input, timeout: 60000, env: { ...process.env, XDG_CONFIG_HOME: path.dirname(output) },
   });
   if (run.error) throw run.error;
   if (run.status !== 0) throw new Error(`Tamber answered ${run.status ?? run.signal}: ${run.stderr.trim()}`);
   return readFileSync(output);
 }
+
+const generate = (tamber, { project, arguments: extra = [] }, folder, output) =>
+  made(tamber, ['generate', path.join(folder, project), '-o', output, ...extra], output);
 
 async function look(stage, movie, { width, height, expectations }, picturePath) {
   const lines = [];
@@ -93,6 +96,24 @@ async function checkPage(stage, tamber, output) {
   return differences(picture, expectation);
 }
 
+/** The movie of one frame, as the canvas shows it, looks like that frame of the whole movie. */
+async function checkSnapshot(stage, tamber, name, output) {
+  const folder = path.join(casesFolder, name), lines = [];
+  const { project, width, height, expectations } = JSON.parse(readFileSync(path.join(folder, 'case.json'), 'utf8'));
+  const whole = generate(tamber, { project }, folder, path.join(output, `${name}.swf`));
+  for (const frame of new Set(expectations.map((expectation) => expectation.frame))) {
+    await stage.load(whole, width, height);
+    const expected = await stage.show(frame);
+    const words = ['batch', '--set', 'flgPrevPrjPath=0', '--home', output];
+    const commands = `OpenProject "${path.join(folder, project)}"\nShowEditSWFBitmap ${frame}\n`;
+    await stage.load(made(tamber, words, path.join(output, '_edit.swf'), commands), width, height);
+    const seen = await stage.show(1);
+    writeFileSync(path.join(output, `${name}-snapshot-${frame}.png`), seen.file);
+    if (!seen.file.equals(expected.file)) lines.push(`the picture of frame ${frame} is not that of the movie`);
+  }
+  return lines;
+}
+
 async function checkDrawings(stage, tamber, output, report) {
   const folder = path.join(output, 'drawings');
   await report('drawings', async () => {
@@ -125,8 +146,11 @@ async function main([tamber, modules, output, ...chosen]) {
   };
   try {
     await report('(the runner itself)', () => checkRunner(stage, output));
-    for (const name of names.filter((name) => name !== 'drawings' && name !== 'page'))
+    for (const name of names.filter((name) => !['drawings', 'page', 'snapshots'].includes(name)))
       await report(name, () => checkCase(stage, path.resolve(tamber), name, output));
+    for (const name of ['morph', 'deforming', 'effects', 'easing', 'mask', 'divided', 'path'])
+      if (!chosen.length || chosen.includes('snapshots'))
+        await report(`snapshots of ${name}`, () => checkSnapshot(stage, path.resolve(tamber), name, output));
     if (!chosen.length || chosen.includes('page')) await report('page', () => checkPage(stage, path.resolve(tamber), output));
     if (!chosen.length || chosen.includes('drawings')) await checkDrawings(stage, path.resolve(tamber), output, report);
   } finally {
