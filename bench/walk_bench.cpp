@@ -4,6 +4,7 @@
 
 #include <filesystem>
 
+#include "canvas/EditSnapshot.h"
 #include "document/SymbolKinds.h"
 #include "document/clsLayerObjElement.h"
 #include "document/clsPropertyBmp.h"
@@ -99,6 +100,22 @@ void Walk(benchmark::State& state) {
         benchmark::Counter(Placements, benchmark::Counter::kIsIterationInvariantRate);
 }
 BENCHMARK(Walk)->Unit(benchmark::kMillisecond);
+
+/// One frame in the middle of the same movie, as the canvas shows it on every redraw.
+void Snapshot(benchmark::State& state) {
+    const WalkProject project;
+    clsSWFAdmin admin;
+    admin.SetDimension(0, 6400, 0, 6400, 0);
+    SnapshotRequest request;
+    request.Layers = &project.layers;
+    request.LastRow = LayerCount;
+    request.Frame = FrameCount / 2;
+    PlacedTags placed;
+    for (auto _ : state)
+        if (!WriteEditSnapshot(admin, project.library, request, 0, OutputPath(), placed))
+            std::abort();
+}
+BENCHMARK(Snapshot)->Unit(benchmark::kMillisecond);
 
 /// The yardstick: zlib's compress over the same movie.
 void CompressSameBytes(benchmark::State& state) {

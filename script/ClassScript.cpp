@@ -43,14 +43,14 @@ bool ReadFunction(StringView body, Long& pos, ClassMember& member, StringView ow
     return true;
 }
 
-/// Reads a variable's statement, which begins at the next token from `pos` on.
+/// Reads a variable's statement, which begins at the next token from `pos` on, or is empty.
 bool ReadVariable(StringView body, Long& pos, ClassMember& member) {
+    const Long end = FindStatementEnd(body, pos);
     const Long start = SkipToToken(body, pos);
-    const Long end = FindStatementEnd(body, start);
-    if (end == 0 || AtEnd(body, start)) return false;
+    if (end == 0 || (AtEnd(body, start) && start < end)) return false;
     member.Kind = ClassMember::KindOf::Variable;
     member.Name.clear();
-    member.Text = Between(body, start, end + 1);
+    member.Text = start < end ? Between(body, start, end + 1) : String();
     if (FindCharacter(member.Text, 1, u'=') == 0) member.Text.clear();
     pos = end + 1;
     return true;

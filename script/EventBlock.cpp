@@ -16,8 +16,8 @@ constexpr Long ButtonEventsInClipsVersion = 6;
 constexpr StringView ClipEventWord = u"onclipevent";
 constexpr StringView ButtonEventWord = u"on";
 constexpr StringView KeyPress = u"keypress";
-/// Key codes have seven bits.
-constexpr Long LargestKeyCode = 127;
+/// The key of a button's condition has seven bits; that of a clip's event has a byte.
+constexpr Long LargestButtonKey = 127;
 
 struct ButtonEvent {
     StringView Name;
@@ -140,7 +140,8 @@ private:
         pos_ = SkipBlanks(script_, pos_);
         Long end = pos_;
         block_.KeyCode = GetKeyCode(script_, end);
-        if (block_.KeyCode == 0) return Fail(u"キー定義が正しくありません。");
+        const bool fits = kind_ == EventScript::Clip || block_.KeyCode <= LargestButtonKey;
+        if (block_.KeyCode == 0 || !fits) return Fail(u"キー定義が正しくありません。");
         pos_ = end;
         return true;
     }
@@ -187,7 +188,7 @@ Long CodeOfName(StringView name) {
 
 Long CodeOfCharacter(char16_t character) {
     const Bytes code = EncodeAnsi(StringView(&character, 1));
-    return code.size() == 1 && code[0] <= LargestKeyCode ? code[0] : 0;
+    return code.size() == 1 ? code[0] : 0;
 }
 
 }  // namespace

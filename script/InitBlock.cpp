@@ -1,7 +1,8 @@
 #include "script/InitBlock.h"
 
-#include <limits>
+#include <algorithm>
 
+#include "platform/RuntimeError.h"
 #include "platform/text.h"
 #include "script/ScriptScanner.h"
 
@@ -26,18 +27,13 @@ Long NextLine(StringView script, Long pos) {
     return static_cast<Long>(end) + (both ? 3 : 2);
 }
 
-/// The whole number that a text is, -1 when it is none or does not fit.
+/// The number that a text is, -1 when it is none, does not fit, or is negative.
 Long OrderOf(StringView text) {
-    constexpr Long Most = std::numeric_limits<Long>::max();
-    if (text.empty()) return -1;
-    Long order = 0;
-    for (const char16_t c : text) {
-        if (c < u'0' || c > u'9') return -1;
-        const Long digit = c - u'0';
-        if (order > (Most - digit) / 10) return -1;
-        order = order * 10 + digit;
+    try {
+        return IsNumeric(text) ? std::max(ToLong(text), -1) : -1;
+    } catch (const RuntimeError&) {
+        return -1;
     }
-    return order;
 }
 
 bool IsStart(StringView script, Long pos) {

@@ -49,8 +49,8 @@ bool EndsWord(char16_t c) {
     return IsBlank(c) || IsPunctuation(c) || IsQuote(c) || c == u'/' || c == u'*';
 }
 
-bool IsAbsolute(StringView cell) {
-    return Like(FoldCase(cell), u"[a-z]:\\*") || (PathSeparator == u'/' && cell.starts_with(u'\\'));
+bool HasDrive(StringView cell) {
+    return Like(FoldCase(cell), u"[a-z]:\\*");
 }
 
 }  // namespace
@@ -205,10 +205,10 @@ private:
     bool FindFile(StringView name, String& path) const {
         const String cell = ReplaceAll(name, u"/", u"\\");
         const String own = PathFromCell(cell);
-        if (IsAbsolute(cell)) {
-            path = own;
-            return FileExists(path);
-        }
+        // Without drives a path from the root looks like one from a folder of the search.
+        path = own;
+        if ((HasDrive(cell) || own.starts_with(u'/')) && FileExists(path)) return true;
+        if (HasDrive(cell)) return false;
         const String program = ProgramFolder();
         for (const String& folder :
              {baseDir_, settings_.ProjectFolder, JoinPath(program, u"include"), program}) {

@@ -39,6 +39,8 @@ class Authoring {
 public:
     Authoring(const MovieRequest& request, clsSWFAdmin& movie) : request_(request), movie_(movie) {}
 
+    /// Notes which exported sprites belong to which class.
+    void CollectClassLinks();
     void PreDefineFrameOne(clsSWFAdmin& admin);
     void DefineExports(clsSWFAdmin& admin, Long mode);
     void WriteTimeline(const Timeline& timeline);

@@ -25,10 +25,9 @@ namespace {
 constexpr Long TwipsPerPixel = 20;
 constexpr Long BitmapExportVersion = 8;
 
-/// Kinds whose characters get a linkage name; a link brings its own.
-bool CanExport(Long kind) {
-    return kind == KindBitmap || kind == KindText || kind == KindVector || kind == KindSprite ||
-           kind == KindClass || kind == KindLink;
+/// Kinds whose exports are not generated yet.
+bool LacksExport(Long kind) {
+    return kind == KindSound || kind == KindMovieEmp;
 }
 
 TimelineOrigin OriginOf(const clsPropertySprite& sprite) {
@@ -39,6 +38,12 @@ TimelineOrigin OriginOf(const clsPropertySprite& sprite) {
 
 void Authoring::ShowProgress(Long done, Long total) const {
     if (request_.blProgress) CurrentUserInterface().Progress(u"", done, total);
+}
+
+void Authoring::CollectClassLinks() {
+    for (const auto& symbol : *request_.Library)
+        if (symbol->eType() == KindSprite && symbol->blExportEx() && !symbol->LinkClassName.empty())
+            Scripts.colClassLinks[symbol->LinkClassName].push_back(symbol->ExportName());
 }
 
 void Authoring::PreDefineFrameOne(clsSWFAdmin& admin) {
@@ -60,8 +65,6 @@ void Authoring::DefineExports(clsSWFAdmin& admin, Long mode) {
     std::vector<std::shared_ptr<clsSymbolData>> classes;
     for (const auto& symbol : *request_.Library) {
         if (!symbol->blExportEx() || symbol->eType() == KindBackGround) continue;
-        if (symbol->eType() == KindSprite && !symbol->LinkClassName.empty())
-            Scripts.colClassLinks[symbol->LinkClassName].push_back(symbol->ExportName());
         if (symbol->eTypeEx() == KindClass)
             classes.push_back(symbol);
         else
@@ -71,7 +74,7 @@ void Authoring::DefineExports(clsSWFAdmin& admin, Long mode) {
 }
 
 void Authoring::DefineExport(clsSWFAdmin& admin, clsSymbolData& symbol, Long lateFrame) {
-    if (!CanExport(symbol.eType())) {
+    if (LacksExport(symbol.eType())) {
         ShowMessage(u"「" + symbol.ExportName() +
                     u"」は書き出せません。\r\nこの種類のシンボルの生成には対応していません。");
         return;

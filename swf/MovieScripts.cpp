@@ -16,9 +16,14 @@ namespace {
 
 constexpr Long InitClipVersion = 6;
 constexpr Long ClipActionVersion = 5;
+constexpr StringView FaultTitle = u"スクリプトエラー";
 
 String ClipPlace(const clsLayer& layer) {
     return u"クリップアクション（" + layer.LayerNameView() + u"）";
+}
+
+String FramePlace(Long frame) {
+    return u"フレームアクション（フレーム " + ToText(frame) + u"）";
 }
 
 /// The place and what the check of the script tells, in one line.
@@ -39,12 +44,33 @@ bool MovieScripts::Expand(String& script) const {
     return preprocessor.PreprocessScript(script, {}) == 0;
 }
 
-void MovieScripts::Tell(const String& script, ScriptKind kind, const String& where) const {
-    if (kind == ScriptKind::Clip && !blMessages) return;
+/// False when the check finds nothing to tell.
+bool MovieScripts::TellFault(const String& script, ScriptKind kind, const String& where) const {
     const ScriptCheckResult check =
         CheckScript(script, kind, mdlSWFTag::swfVersion(), ProjectFolder);
     if (!check.Ok) CurrentUserInterface().Status(FaultLine(where, check.Message));
-    ShowMessage(u"文法に誤りがあります。\r\n" + where, u"スクリプトエラー", MessageIcon::Error);
+    return !check.Ok;
+}
+
+void MovieScripts::Tell(const String& script, ScriptKind kind, const String& where) const {
+    if (kind == ScriptKind::Clip && !blMessages) return;
+    TellFault(script, kind, where);
+    TellBox(where);
+}
+
+void MovieScripts::TellClass(const String& body, const clsPropertyClass& record) const {
+    const String where = u"クラス（" + record.className + u"）";
+    if (!TellFault(body, ScriptKind::Frame, where)) {
+        String expanded = body;
+        // What the body cannot show lies in the text made of it, whose lines are its own.
+        if (Expand(expanded))
+            TellFault(ClassScript(expanded, record), ScriptKind::Frame, where + u"の生成コード");
+    }
+    TellBox(FramePlace(1));
+}
+
+void MovieScripts::TellBox(const String& where) {
+    ShowMessage(u"文法に誤りがあります。\r\n" + where, FaultTitle, MessageIcon::Error);
 }
 
 bool MovieScripts::CompileInitClip(clsSWFAdmin& timeline, bool isMovie, String& script) {
@@ -66,8 +92,11 @@ void MovieScripts::CompileFrameAction(clsSWFAdmin& timeline, bool isMovie, Long 
         ok = CompileInitClip(timeline, isMovie, script);
     }
     if (ok) timeline.AddTag(frame, timeline.GetNewDoAction(script, ok), false);
-    if (!ok)
-        Tell(source, ScriptKind::Frame, u"フレームアクション（フレーム " + ToText(frame) + u"）");
+    if (ok) return;
+    if (inClass != nullptr)
+        TellClass(source, *inClass);
+    else
+        Tell(source, ScriptKind::Frame, FramePlace(frame));
 }
 
 String MovieScripts::ClassBody(const clsPropertyClass& record) const {
@@ -130,9 +159,10 @@ std::vector<SwfEventActions> MovieScripts::ClipActions(const clsLayer& layer) {
     if (script.empty()) return actions;
     if (version < ClipActionVersion) {
         allValid_ = false;
-        ShowMessage(u"クリップアクションはSWF" + ToText(version) + u"では使用できません。\r\n" +
-                        ClipPlace(layer),
-                    ProgramTitle, MessageIcon::Warning);
+        if (blMessages)
+            ShowMessage(u"クリップアクションはSWF" + ToText(version) + u"では使用できません。\r\n" +
+                            ClipPlace(layer),
+                        FaultTitle, MessageIcon::Warning);
         return actions;
     }
     if (CompileEvents(actions, script, EventScript::Clip)) return actions;

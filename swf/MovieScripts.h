@@ -48,7 +48,10 @@ private:
     bool CompileInitClip(clsSWFAdmin& timeline, bool isMovie, String& script);
     bool CompileEvents(std::vector<SwfEventActions>& actions, const String& script,
                        EventScript kind);
+    bool TellFault(const String& script, ScriptKind kind, const String& where) const;
     void Tell(const String& script, ScriptKind kind, const String& where) const;
+    void TellClass(const String& body, const clsPropertyClass& record) const;
+    static void TellBox(const String& where);
     String ClassBody(const clsPropertyClass& record) const;
     String ClassScript(StringView body, const clsPropertyClass& record) const;
 

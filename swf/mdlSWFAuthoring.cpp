@@ -61,6 +61,7 @@ bool BuildMovie(const MovieRequest& request) {
     authoring.Scripts.ProjectFolder = request.ProjectFolder;
     authoring.Scripts.blMessages = request.blScriptMessages;
     authoring.Scripts.blTopToBottom = request.blTopToBottom;
+    authoring.CollectClassLinks();
     authoring.PreDefineFrameOne(admin);
     if (request.blExports)
         authoring.DefineExports(admin, request.blExportsInFrameTwo ? 2 : admin.FrameCount());

@@ -59,6 +59,7 @@ INSTANTIATE_TEST_SUITE_P(
                   EventScript::Button,
                   {{512, 'a', u""}, {512, '"', u""}, {512, '<', u""}}},
         EventCase{u"on(keyPress \"<PGUP>\"){}", EventScript::Clip, {{131072, 16, u""}}},
+        EventCase{u"on(keyPress \"\uFF71\"){}", EventScript::Clip, {{131072, 0xB1, u""}}},
         // Braces in strings count, as ever; those in comments don't.
         EventCase{u"on(press){a='}'; // }\r\nb;}",
                   EventScript::Button,
@@ -90,6 +91,10 @@ INSTANTIATE_TEST_SUITE_P(
                   EventScript::Button,
                   {{-1, 13, u"キー定義が正しくありません。"}}},
         EventCase{u"on(keyPress \"\u3042\"){}",
+                  EventScript::Button,
+                  {{-1, 13, u"キー定義が正しくありません。"}}},
+        // A button's key has seven bits.
+        EventCase{u"on(keyPress \"\uFF71\"){}",
                   EventScript::Button,
                   {{-1, 13, u"キー定義が正しくありません。"}}},
         EventCase{u"on(press)stop();", EventScript::Button, {{-1, 10, u"{ が必要です。"}}},

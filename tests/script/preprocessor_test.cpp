@@ -84,6 +84,7 @@ TEST_F(Includes, are_looked_for_beside_the_file_then_in_the_project_then_in_the_
     EXPECT_EQ(Expand(u"#include \"inner.as\""), u"project");
     EXPECT_EQ(Expand(u"#include \"only.as\" #include \"beside.as\""), u"only beside");
     EXPECT_EQ(Expand(u"#include \"" + folder_ + u"/sub/inner.as\""), u"sub");
+    EXPECT_EQ(Expand(u"#include \"/sub/inner.as\""), u"sub");
 }
 
 TEST_F(Includes, are_read_in_the_encoding_that_is_told_or_detected) {

@@ -37,6 +37,7 @@ TEST(InitBlocks, have_the_order_that_stands_in_their_first_line) {
         {u" 0", 0},           {u"\t12 // 13", 12}, {u" /* 1 */ 2", 2},
         {u" -5", -1},         {u" 5x", -1},        {u" 2147483647", 2147483647},
         {u" 2147483648", -1}, {u" // 3", -1},      {u"\r\n4", -1},
+        {u" 5.0", 5},
     };
     for (const auto& item : cases) {
         String script = u"#initclip" + String(item.Word) + u"\r\nx\r\n#endinitclip";
@@ -89,6 +90,13 @@ TEST(ClassScripts, put_constructor_methods_and_values_in_this_order) {
               u"v1.n=1;\r\n"
               u"v1.k = {a:1};\r\n"
               u"}\r\n#endinitclip");
+}
+
+TEST(ClassScripts, pass_over_a_variable_without_a_name) {
+    EXPECT_EQ(GenerateClassScript(u"var ; var x=1; ; y=2; var", {u"C", u"", {}}),
+              u"#initclip\r\nif(!C){\r\n_global.C=function(){};\r\n"
+              u"var v1=_global.C.prototype;\r\nASSetPropFlags(v1,null,1);\r\n"
+              u"v1.x=1;\r\nv1.y=2;\r\n}\r\n#endinitclip");
 }
 
 TEST(ClassScripts, have_a_constructor_of_their_own_making) {

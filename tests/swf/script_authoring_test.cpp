@@ -193,6 +193,42 @@ TEST_F(ScriptAuthoring, a_class_is_an_exported_sprite_behind_all_other_exports) 
     EXPECT_TRUE(Build(5).Bodies(TagCode::DoInitAction).empty());
 }
 
+TEST_F(ScriptAuthoring, a_class_of_another_movie_gets_its_sprites_wherever_it_is_first_needed) {
+    auto symbol = AddSymbol(std::make_shared<clsSymbolData>(KindLink));
+    auto& link = *symbol->Property<clsPropertyLinkSymbol>();
+    link.eSymbolType(KindClass);
+    link.SymbolName = u"__Packages.a.B";
+    link.URL = u"b.swf";
+    const auto sprite = AddSprite();
+    sprite->blExport = true;
+    sprite->ObjectName = u"link";
+    sprite->LinkClassName = u"a.B";
+    symbol->blExport = true;
+    const Bytes exported = Build().Bodies(TagCode::DoAction).at(0);
+    AddKeyFrame(*AddLayer(symbol), 1, 1);
+    EXPECT_EQ(Build().Bodies(TagCode::DoAction), (std::vector<Bytes>{exported}));
+}
+
+TEST_F(ScriptAuthoring, an_exported_koma_is_no_fault) {
+    AddSymbol(std::make_shared<clsSymbolData>(KindKoma))->blExport = true;
+    AddSymbol(std::make_shared<clsSymbolData>(KindSymbolFolder))->blExport = true;
+    EXPECT_EQ(Build().Codes(), (std::vector<Long>{9, 1, 0}));
+    EXPECT_EQ(Texts(), std::vector<String>{});
+}
+
+TEST_F(ScriptAuthoring, a_faulty_class_is_told_by_its_name) {
+    AddClass(u"a.B", u"var n = ;");
+    AddClass(u"a.C", u"function f() { return \"}\"; }");
+    Build();
+    ASSERT_EQ(interface.StatusLines.size(), 2u);
+    EXPECT_TRUE(
+        interface.StatusLines[0].starts_with(u"クラス（a.B）：文法に誤りがあります。（行番号：1）"))
+        << ToNarrow(interface.StatusLines[0]);
+    EXPECT_TRUE(interface.StatusLines[1].starts_with(u"クラス（a.C）の生成コード：文法に誤り"))
+        << ToNarrow(interface.StatusLines[1]);
+    EXPECT_EQ(Texts().size(), 2u);
+}
+
 TEST_F(ScriptAuthoring, imports_name_the_other_movie) {
     auto symbol = AddSymbol(std::make_shared<clsSymbolData>(KindLink));
     auto& link = *symbol->Property<clsPropertyLinkSymbol>();
