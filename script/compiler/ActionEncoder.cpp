@@ -5,6 +5,8 @@
 #include <charconv>
 #include <cmath>
 
+#include "script/compiler/Vocabulary.h"
+
 namespace tamber {
 
 namespace {
@@ -345,9 +347,20 @@ void ActionEncoder::WriteUrl(const ActionCode::UrlRecord& record) {
     Chars(record.Target->Text);
 }
 
+/// Whether the script has a variable of the timeline of that name, as the version compares names.
+bool ActionEncoder::IsOwn(const Symbol& name) {
+    if (name.IsOwn || version_ >= FirstCaseVersion) return name.IsOwn;
+    if (!ownNames_) {
+        ownNames_.emplace();
+        for (const Symbol& symbol : symbols_.All())
+            if (symbol.IsOwn) ownNames_->insert(Lower(symbol.Text));
+    }
+    return ownNames_->contains(Lower(name.Text));
+}
+
 /// Version 7 checks what it casts; before, the value stays as it is.
 void ActionEncoder::WriteCastOrCall(const Symbol& name) {
-    if (name.IsOwn) {
+    if (IsOwn(name)) {
         WriteNumber(1);
         WriteText(name);
         ClosePush();

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <optional>
+#include <string>
+#include <unordered_set>
+
 #include "script/compiler/ActionCode.h"
 #include "script/compiler/Diagnostics.h"
 #include "script/compiler/SymbolTable.h"
@@ -40,6 +44,7 @@ private:
     void ClosePush();
     void WriteJump(Opcode opcode, ActionCode::Label label);
     void WriteFunction(const ActionCode& code, const ActionCode::FunctionRecord& function);
+    bool IsOwn(const Symbol& name);
     void WriteCastOrCall(const Symbol& name);
     void WriteTry(const ActionCode::TryRecord& record);
     void WriteUrl(const ActionCode::UrlRecord& record);
@@ -74,6 +79,8 @@ private:
     std::vector<OpenBlock> blocks_;
     std::vector<OpenJump> jumps_;
     std::vector<std::size_t> labels_;
+    /// The script's own variables in lower case, once they are asked for.
+    std::optional<std::unordered_set<std::string>> ownNames_;
 };
 
 }  // namespace tamber

@@ -26,13 +26,6 @@ bool IsWhole(const Node& node, double low, double high) {
            node.Value == static_cast<double>(static_cast<std::int64_t>(node.Value));
 }
 
-std::string Lower(std::string_view text) {
-    std::string lower(text);
-    for (char& letter : lower)
-        if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
-    return lower;
-}
-
 }  // namespace
 
 bool CodeGenerator::Call(const Node& node) {

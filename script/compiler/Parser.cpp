@@ -267,7 +267,11 @@ void Parser::WarnOfUnreachable(const Node* last) {
     if (last == nullptr || Is(TokenKind::Function) || Is(TokenKind::Semicolon)) return;
     if (last->Kind == NodeKind::Return || last->Kind == NodeKind::Break ||
         last->Kind == NodeKind::Continue || last->Kind == NodeKind::Throw)
-        diagnostics_.Warn(token_.Line, token_.Text, u"この文は実行されません。");
+        WarnUnreachable();
+}
+
+void Parser::WarnUnreachable() {
+    diagnostics_.Warn(token_.Line, token_.Text, u"この文は実行されません。");
 }
 
 Node* Parser::VarStatement() {

@@ -63,6 +63,7 @@ private:
     Node* GuardedBlock(Node* statement, Node* (Parser::*read)());
     void NoteEscape(NodeKind kind);
     void WarnOfUnreachable(const Node* last);
+    void WarnUnreachable();
     void EndStatement();
     Node* VarStatement();
     Node* Variable();
@@ -83,6 +84,10 @@ private:
     Node* TellTargetStatement();
     Node* IfFrameLoadedStatement();
     Node* TryStatement();
+    Node* Handlers();
+    Node* Handler(Node& statement);
+    Node* TypeTest(Symbol& variable, Node* type, std::uint32_t line);
+    Node* NameNodeOf(Symbol* name, std::uint32_t line);
     Node* ThrowStatement();
     Node* FunctionStatement();
     Node* ImportStatement();

@@ -278,13 +278,6 @@ struct Meaning {
     Byte NeededVersion = 0;
 };
 
-std::string Lower(std::string_view text) {
-    std::string lower(text);
-    for (char& letter : lower)
-        if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
-    return lower;
-}
-
 using Dictionary = std::unordered_map<std::string, Meaning>;
 
 Dictionary MakeDictionary(std::string (*form)(std::string_view)) {
@@ -312,6 +305,13 @@ const Dictionary& DictionaryOf(bool withCase) {
 constexpr std::size_t LongestWord = 24;
 
 }  // namespace
+
+std::string Lower(std::string_view text) {
+    std::string lower(text);
+    for (char& letter : lower)
+        if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
+    return lower;
+}
 
 void Classify(Symbol& symbol, Long version) {
     symbol.IsClassified = true;

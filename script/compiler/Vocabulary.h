@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "script/compiler/Builtin.h"
 #include "script/compiler/Symbol.h"
 
@@ -7,6 +9,9 @@ namespace tamber {
 
 /// First version in which upper and lower case are told apart.
 inline constexpr Long FirstCaseVersion = 7;
+
+/// The text with its Latin letters small, as names are compared below that version.
+std::string Lower(std::string_view text);
 
 /// Looks up what a name means in a version: keyword, property, built-in function. Below version 7
 /// without regard to case.

@@ -12,3 +12,7 @@ function F() { return "F"; }
 function f() { return "f"; }
 trace(F());      //=-6 f
                  //=7+ F
+// A function of its own hides a class of the player, as far as the names are one.
+function sound(x) { return "own " + x; }
+trace(Sound("s"));          //=-6 own s
+                            //=7+ null

@@ -93,3 +93,40 @@ for (k in {a: 1, b: 1}) { try { tellTarget("clip") { throw _name; } } catch (e) 
                                   //= clip/
 try { try { null.x.y(); throw "rethrown"; } finally { trace("first"); } } catch (e) { trace(e); } //= first
                                   //= rethrown
+// A handler that tells a type takes only that; what none takes goes on.
+function Own(text) { this.text = text; }
+Own.prototype = new Error();
+function Far() {}
+function sorts(thrown) {
+  try { throw thrown; }
+  catch (o:Own) { return "own " + o.text; }
+  catch (e:Error) { return "error " + e.message; }
+  catch (s:String) { return "text " + s.length; }
+  catch (n:Number) { return "number " + (n + 1); }
+  catch (b:Boolean) { return "boolean " + !b; }
+  catch (rest) { return "rest " + typeof rest; }
+}
+trace(sorts(new Own("mine")));    //= own mine
+trace(sorts(new Error("bad")));   //= error bad
+trace(sorts("abc"));              //= text 3
+trace(sorts(41));                 //= number 42
+trace(sorts(false));              //= boolean true
+trace(sorts(new Far()));          //= rest object
+function passes(thrown) {
+  try { throw thrown; } catch (e:Error) { trace("taken"); } finally { trace("last"); }
+  return "behind";
+}
+trace(passes(new Own("x")));      //= taken
+                                  //= last
+                                  //= behind
+try { passes("unknown"); } catch (o:Far) { trace("never"); } catch (any:Object) { trace("any " + any); } //= last
+                                  //= any unknown
+seen = "";
+for (i = 0; i < 4; i++) {
+  try { if (i == 0) throw new Own("a"); if (i == 1) throw "b"; throw i; }
+  catch (o:Own) { seen += o.text; continue; }
+  catch (s:String) { seen += s; }
+  catch (n:Number) { seen += n; break; }
+  seen += "|";
+}
+trace(seen + i);                  //= ab|22
