@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "swf/ButtonDefinition.h"
-#include "swf/LayerPlacement.h"
+#include "swf/LayerCharacter.h"
 #include "swf/MovieScripts.h"
 #include "swf/clsSWFAdmin.h"
 #include "swf/mdlSWFAuthoring.h"

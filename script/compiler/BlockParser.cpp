@@ -106,81 +106,60 @@ Node* Parser::TryStatement() {
     NeedVersion(7, token_.Text, token_.Line);
     Advance();
     node->A = GuardedBlock(node, &Parser::Block);
-    if (Is(TokenKind::Catch)) node->B = GuardedBlock(node, &Parser::Handlers);
+    const bool isCaught = Is(TokenKind::Catch);
+    if (isCaught) node->B = GuardedBlock(node, &Parser::Handlers);
     if (Accept(TokenKind::Finally)) node->C = Block();
-    if (node->B == nullptr && node->C == nullptr) Fail(u"catch または finally が必要です。");
+    if (!isCaught && node->C == nullptr) Fail(u"catch または finally が必要です。");
     return node;
 }
 
-/// The handlers of a try as one, in which the exception has the name of the first: each that tells
-/// a type asks whether it is meant, and what none takes is thrown again.
 Node* Parser::Handlers() {
-    Node* const statement = guards_.back().Statement;
-    Node* first = nullptr;
-    Node** place = &first;
+    NodeList handlers;
+    bool takesAll = false;
     while (Is(TokenKind::Catch)) {
-        if (place == nullptr) WarnUnreachable();
-        Node* handler = Handler(*statement);
-        if (place == nullptr) continue;
-        *place = handler;
-        place = handler->Kind == NodeKind::If ? &handler->C : nullptr;
+        if (takesAll) WarnUnreachable();
+        Node* handler = GuardedHandler();
+        if (handler == nullptr || takesAll) continue;
+        handlers.Add(handler);
+        takesAll = handler->A == nullptr;
     }
-    if (place != nullptr) {
-        *place = Make(NodeKind::Throw, statement->Line);
-        (*place)->A = NameNodeOf(statement->Name, statement->Line);
-    }
-    return first;
+    return handlers.First;
 }
 
-/// A block, or with a type an If without an else.
-Node* Parser::Handler(Node& statement) {
-    const std::uint32_t line = token_.Line;
+/// Null after an error in the head of a handler; the cursor then stands behind the handler.
+Node* Parser::GuardedHandler() {
+    const State before(*this);
+    try {
+        return Handler();
+    } catch (const SyntaxError&) {
+        before.Restore();
+        if (Is(TokenKind::End)) throw;
+        SkipToStatement();
+    }
+    return nullptr;
+}
+
+Node* Parser::Handler() {
+    Node* handler = Make(NodeKind::Catch, token_.Line);
     Advance();
     Expect(TokenKind::OpenParenthesis, u"(");
-    Symbol* name = TakeName(u"変数名");
-    Declare(name);
-    KeepNamed(name);
-    if (statement.Name == nullptr) statement.Name = name;
-    Node* type = Accept(TokenKind::Colon) ? ClassReference() : nullptr;
+    handler->Name = TakeName(u"変数名");
+    Declare(handler->Name);
+    KeepNamed(handler->Name);
+    if (Accept(TokenKind::Colon)) handler->A = CaughtType();
     Expect(TokenKind::CloseParenthesis, u")");
-    NodeList list;
-    if (name != statement.Name) {
-        Node* own = Make(NodeKind::Var, line);
-        own->Name = name;
-        own->A = NameNodeOf(statement.Name, line);
-        list.Add(own);
-    }
-    list.Add(Block());
-    Node* body = Grouped(list, line);
-    Node* test = type == nullptr ? nullptr : TypeTest(*statement.Name, type, line);
-    if (test == nullptr) return body;
-    Node* handler = Make(NodeKind::If, line);
-    handler->A = test;
-    handler->B = body;
+    handler->B = Block();
     return handler;
 }
 
-/// Whether what a variable holds is of a type; null for one that everything is of. Plain values are
-/// instances of no class, so theirs are asked for by name too.
-Node* Parser::TypeTest(Symbol& variable, Node* type, std::uint32_t line) {
-    const std::string_view name = type->Kind == NodeKind::Name ? type->Name->Text : "";
-    if (name == "Object") return nullptr;
-    Node* test = MakeBinary(Operator::InstanceOf, NameNodeOf(&variable, line), type, line);
-    if (name != "String" && name != "Number" && name != "Boolean") return test;
-    Node* kind = Make(NodeKind::Unary, line);
-    kind->Op = Operator::TypeOf;
-    kind->A = NameNodeOf(&variable, line);
-    Node* plain = Make(NodeKind::Text, line);
-    plain->Name = symbols_.Intern(name == "String"   ? "string"
-                                  : name == "Number" ? "number"
-                                                     : "boolean");
-    return MakeBinary(Operator::Or, MakeBinary(Operator::Equal, kind, plain, line), test, line);
-}
-
-Node* Parser::NameNodeOf(Symbol* name, std::uint32_t line) {
-    Node* node = Make(NodeKind::Name, line);
-    node->Name = name;
-    return node;
+/// Null for the type that everything is of.
+Node* Parser::CaughtType() {
+    const bool isValue = Is(TokenKind::Identifier) && token_.Name->Special != SpecialName::None &&
+                         token_.Name->Special <= SpecialName::Super;
+    if (!Is(TokenKind::Identifier) || isValue) Fail(u"型の名前が必要です。");
+    const bool isObject = token_.Text == "Object";
+    Node* type = MembersOf(Name());
+    return isObject && type->Kind == NodeKind::Name ? nullptr : type;
 }
 
 Node* Parser::ThrowStatement() {

@@ -109,7 +109,10 @@ private:
     void Try(const Node& node);
     void TryCatch(const Node& node);
     void Finally(const Node& node);
-    void GuardBlock(const Node& block, const Node& statement);
+    void Handlers(const Node& first);
+    void TestOfType(const Node& type, Label otherwise);
+    template <class Body>
+    void GuardBlock(const Node& statement, const Body& body);
     void EndGuard(Label end);
     std::uint32_t MarksOf(const Node& statement) const;
     void FollowMarks(std::uint32_t marks, std::uint32_t line);

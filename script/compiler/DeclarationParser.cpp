@@ -127,6 +127,11 @@ void Parser::ChooseRegisters(FunctionNode& function, std::size_t firstUse) {
 Node* Parser::DottedName() {
     Node* node = Make(NodeKind::Name, token_.Line);
     node->Name = TakeName(u"クラス名");
+    return MembersOf(node);
+}
+
+/// The names behind dots that follow one.
+Node* Parser::MembersOf(Node* node) {
     while (Accept(TokenKind::Dot)) {
         Node* member = Make(NodeKind::Member, token_.Line);
         member->A = node;

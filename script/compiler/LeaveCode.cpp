@@ -8,13 +8,29 @@ namespace {
 constexpr Long AtEnd = 0;
 constexpr std::uint32_t EscapesByThrow = 8;
 
+/// Types of plain values, and what `typeof` calls them.
+constexpr std::pair<std::string_view, std::string_view> PlainTypes[] = {
+    {"String", "string"}, {"Number", "number"}, {"Boolean", "boolean"}};
+
 }  // namespace
+
+/// A block that the player runs by itself: what leaves it goes to its end first. Where that may be,
+/// each way there puts a value on the stack, which a return or throw has, and a mark.
+template <class Body>
+void CodeGenerator::GuardBlock(const Node& statement, const Body& body) {
+    const Label end = code_->NewLabel(statement.Line);
+    const bool isMarked = MarksOf(statement) != 0;
+    scopes_.push_back({ScopeKind::Guard, end, end, &statement});
+    body();
+    scopes_.pop_back();
+    if (isMarked) EndGuard(end);
+}
 
 void CodeGenerator::With(const Node& node) {
     Expression(*node.A);
     code_->BeginWith(node.Line);
     ++function_.Withs;
-    GuardBlock(*node.B, node);
+    GuardBlock(node, [&] { Statement(*node.B); });
     --function_.Withs;
     code_->EndWith();
     FollowMarks(MarksOf(node), node.Line);
@@ -30,17 +46,6 @@ bool CodeGenerator::IsBeforeLast() const {
     for (std::size_t i = function_.FirstScope; i < scopes_.size(); ++i)
         if (scopes_[i].HasLast) return true;
     return false;
-}
-
-/// A block that the player runs by itself: what leaves it goes to its end first. Where that may be,
-/// each way there puts a value on the stack, which a return or throw has, and a mark.
-void CodeGenerator::GuardBlock(const Node& block, const Node& statement) {
-    const Label end = code_->NewLabel(statement.Line);
-    const bool isMarked = MarksOf(statement) != 0;
-    scopes_.push_back({ScopeKind::Guard, end, end, &statement});
-    Statement(block);
-    scopes_.pop_back();
-    if (isMarked) EndGuard(end);
 }
 
 void CodeGenerator::EndGuard(Label end) {
@@ -156,13 +161,59 @@ void CodeGenerator::Try(const Node& node) {
     node.C == nullptr ? TryCatch(node) : Finally(node);
 }
 
+/// Without handlers, the body alone.
 void CodeGenerator::TryCatch(const Node& node) {
-    code_->BeginTry({node.Name, node.Line});
-    GuardBlock(*node.A, node);
+    if (node.B == nullptr) return Statement(*node.A);
+    const bool takesAll = node.B->A == nullptr;
+    code_->BeginTry({takesAll ? node.B->Name : nullptr, node.Line});
+    GuardBlock(node, [&] { Statement(*node.A); });
     code_->EndTryBlock(ItemKind::TryBodyEnd);
-    GuardBlock(*node.B, node);
+    GuardBlock(node, [&] { takesAll ? Statement(*node.B->B) : Handlers(*node.B); });
     code_->EndTryBlock(ItemKind::TryEnd);
     FollowMarks(MarksOf(node), node.Line);
+}
+
+/// Handlers of which the first tells a type: each is asked whether it is meant, and what none takes
+/// is thrown again. The exception lies in register 0.
+void CodeGenerator::Handlers(const Node& first) {
+    const Label end = code_->NewLabel(first.Line);
+    bool takesAll = false;
+    for (const Node* handler = &first; handler != nullptr; handler = handler->Next) {
+        const Label next = code_->NewLabel(handler->Line);
+        takesAll = handler->A == nullptr;
+        if (!takesAll) TestOfType(*handler->A, next);
+        code_->PushText(handler->Name);
+        code_->PushRegister(0);
+        code_->Emit(Opcode::DefineLocal);
+        Statement(*handler->B);
+        code_->Jump(end);
+        code_->Place(next);
+    }
+    if (!takesAll) {
+        code_->PushRegister(0);
+        Throw();
+    }
+    code_->Place(end);
+}
+
+/// Jumps when the exception is not of a type. Plain values are instances of no class, so theirs are
+/// known by their names.
+void CodeGenerator::TestOfType(const Node& type, Label otherwise) {
+    const Label taken = code_->NewLabel(type.Line);
+    for (const auto& [name, kind] : PlainTypes) {
+        if (type.Kind != NodeKind::Name || type.Name->Text != name) continue;
+        code_->PushRegister(0);
+        code_->Emit(Opcode::TypeOf);
+        Text(kind);
+        code_->Emit(Opcode::Equals2);
+        code_->JumpIf(taken);
+    }
+    code_->PushRegister(0);
+    Expression(type);
+    code_->Emit(Opcode::InstanceOf);
+    code_->Emit(Opcode::Not);
+    code_->JumpIf(otherwise);
+    code_->Place(taken);
 }
 
 /// The player has an action for it, out of whose last block no jump can lead: so that block stands
@@ -171,7 +222,7 @@ void CodeGenerator::Finally(const Node& node) {
     const Label end = code_->NewLabel(node.Line);
     code_->BeginTry({nullptr, node.Line});
     scopes_.push_back({ScopeKind::Guard, end, end, &node, true});
-    node.B == nullptr ? Statement(*node.A) : TryCatch(node);
+    TryCatch(node);
     scopes_.pop_back();
     EndGuard(end);
     code_->EndTryBlock(ItemKind::TryBodyEnd);

@@ -50,6 +50,7 @@ enum class NodeKind : Byte {
     TellTarget,
     IfFrameLoaded,
     Try,
+    Catch,
     Throw,
     Class,
 };
@@ -117,9 +118,9 @@ enum class Operator : Byte {
 /// | ForIn | target (a Var or an expression), object, body | |
 /// | Switch | value, first case | |
 /// | Case | value (null: default), first statement | |
-/// | With, TellTarget, IfFrameLoaded | object or frame, body | With: Count, the jumps that leave it
-/// | | Try | body, handler, last | Name of the exception; Count: the jumps that leave body or
-/// handler |
+/// | With, TellTarget, IfFrameLoaded | object or frame, body | With: Count, the jumps out of it |
+/// | Try | body, first handler, last | Count: the jumps out of body and handlers |
+/// | Catch | type (null: all), body | Name of the exception |
 struct Node {
     /// Jumps that leave a With or Try, in its Count.
     static constexpr std::uint32_t EscapesByBreak = 1;

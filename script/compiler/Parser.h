@@ -85,9 +85,9 @@ private:
     Node* IfFrameLoadedStatement();
     Node* TryStatement();
     Node* Handlers();
-    Node* Handler(Node& statement);
-    Node* TypeTest(Symbol& variable, Node* type, std::uint32_t line);
-    Node* NameNodeOf(Symbol* name, std::uint32_t line);
+    Node* GuardedHandler();
+    Node* Handler();
+    Node* CaughtType();
     Node* ThrowStatement();
     Node* FunctionStatement();
     Node* ImportStatement();
@@ -135,6 +135,7 @@ private:
     Node* ClassStatement();
     void CloseFunction(FunctionNode& function, std::size_t firstUse);
     Node* DottedName();
+    Node* MembersOf(Node* node);
     Node* ClassReference();
     void ClassMembers(ClassNode& node);
     void ClassMember(ClassNode& node);

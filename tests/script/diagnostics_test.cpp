@@ -99,6 +99,8 @@ TEST(Diagnostics, AreNotRepeatedForOneFault) {
         "switch (a) {\ncase 1 { b(); }\ncase 2: c(); break;\n}",
         "switch (a) {\ncase : b();\ndefault: c(); break;\n}",
         "switch (a) {\ncase 1: b();\n",
+        "try { a(); }\ncatch () { b(); }\ncatch (f:F) { c(); }\nfinally { d(); }",
+        "try { a(); } catch (e:true) { b(); } catch (f) { c(); }",
         "class A {\nvar 5;\nvar b;\nfunction c() { }\n}",
         "class A {\nfunction 5() { a(); }\nfunction b() { }\n}",
         "class A {\npublic x() { a(); }\npublic function b() { }\n}",

@@ -130,3 +130,24 @@ for (i = 0; i < 4; i++) {
   seen += "|";
 }
 trace(seen + i);                  //= ab|22
+function outer(T) {
+  var U = Far;
+  function inner(thrown) {
+    try { throw thrown; } catch (e:U) { return "far"; } catch (e:T) { return "taken " + e.text; }
+  }
+  return inner(new Own("x")) + inner(new Far());
+}
+trace(outer(Own));                //= taken xfar
+function keeps(e) {
+  try { try { throw "s"; } catch (e:Number) { } } catch (z) { }
+  try { throw "s"; } catch (e:Number) { } catch (s:String) { return e + s; }
+}
+trace(keeps("p"));                //= ps
+try { throw new Error("own name"); } catch (Error:Error) { trace(Error.message); } //= own name
+delete Error;
+_global.box = {};
+_global.box.Own = Own;
+try { throw new Own("dotted"); } catch (e:_global.box.Far) { trace("never"); } catch (e:box.Own) { trace(e.text); } //= dotted
+import box.Own;
+try { throw new Own("imported"); } catch (e:Own) { trace(e.text); } //= imported
+trace(found(this));               //= nothing
