@@ -25,6 +25,8 @@ public:
 
     virtual void DispDataTbl() {}
     virtual void DispEditTimeLine() {}
+    /// The selected key frame or what it shows is another; a window shows its values and the
+    /// canvas, by `ShowEditSWFBitmap`.
     virtual void ShowEditFrame() {}
     /// Shows the snapshot movie of a path, which stands still; nothing for an empty path. The
     /// colour behind it has red in the low byte.
@@ -326,7 +328,9 @@ private:
     void SetCanvasSize();
     /// What lies behind the main timeline, red in the low byte; white for a sprite's.
     Long CanvasColor() const;
-    bool WriteSnapshot(StringView path, Long frame);
+    /// Where the snapshot lies when the program's folder takes no files; empty for nowhere.
+    String SpareMoviePath() const;
+    bool WriteSnapshot(StringView folder, Long frame);
     /// The selected row, where its key frames can be edited; else null. A class keeps one for each
     /// row, folders have one.
     std::shared_ptr<clsLayer> FrameLayer() const;

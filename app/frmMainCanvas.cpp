@@ -17,11 +17,7 @@ namespace {
 
 constexpr StringView SnapshotName = u"_edit.swf";
 constexpr Long White = 0xFFFFFF;
-
-Long ToTwips(Long pixels) {
-    constexpr double TwipsPerPixel = 20;
-    return mdlSWFTag::ToField(pixels * TwipsPerPixel);
-}
+constexpr double TwipsPerPixel = 20;
 
 }  // namespace
 
@@ -36,7 +32,8 @@ Long frmMain::CanvasHeight() const {
 }
 
 void frmMain::SetCanvasSize() {
-    snapshot_.SetDimension(0, ToTwips(CanvasWidth()), 0, ToTwips(CanvasHeight()), 0);
+    snapshot_.SetDimension(0, mdlSWFTag::ToField(CanvasWidth() * TwipsPerPixel), 0,
+                           mdlSWFTag::ToField(CanvasHeight() * TwipsPerPixel), 0);
     view_->SetCanvasSize(CanvasWidth(), CanvasHeight());
 }
 
@@ -67,19 +64,23 @@ bool frmMain::ShowEditSWFBitmap(Long frame) {
     const auto object = layer ? layer->SelectObject() : nullptr;
     const bool atCursor = !object || mdlPrivateProfile::flgCursorFrameDisp();
     if (frame < 1) frame = atCursor ? SelFrame1 : object->StartFrame();
+    if (!WriteSnapshot(TempMoviePath(), frame) && !WriteSnapshot(SpareMoviePath(), frame))
+        return false;
     nPrevFrame = frame;
-    const String path = JoinPath(TempMoviePath(), SnapshotName);
-    // A program's folder that takes no files has the user's own in its place.
-    const bool written = WriteSnapshot(path, frame) ||
-                         (TempMoviePath() == ProgramFolder() && MakeFolders(UserFolder()) &&
-                          WriteSnapshot(JoinPath(UserFolder(), SnapshotName), frame));
-    if (written) view_->ReloadSnapshot(snapshotPath_, CanvasColor());
-    return written;
+    view_->ReloadSnapshot(snapshotPath_, CanvasColor());
+    return true;
 }
 
-bool frmMain::WriteSnapshot(StringView path, Long frame) {
+String frmMain::SpareMoviePath() const {
+    return TempMoviePath() == ProgramFolder() && MakeFolders(UserFolder()) ? UserFolder()
+                                                                           : String();
+}
+
+bool frmMain::WriteSnapshot(StringView folder, Long frame) {
+    if (folder.empty()) return false;
+    const String path = JoinPath(folder, SnapshotName);
     const bool isTaken =
-        std::any_of(colSymbol()->begin(), colSymbol()->end(), [path](const auto& symbol) {
+        std::any_of(colSymbol()->begin(), colSymbol()->end(), [&path](const auto& symbol) {
             return symbol->FilePathName.ends_with(SnapshotName) &&
                    SameFile(symbol->FilePathName, path);
         });

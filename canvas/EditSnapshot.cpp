@@ -14,8 +14,12 @@ bool WriteEditSnapshot(clsSWFAdmin& admin, const Collection<clsSymbolData>& libr
     for (const auto& symbol : library) symbol->InitDefineID();
     admin.InitSWF();
     admin.BackGroundColor = backColor;
-    placed = mdlSWFAuthoring::WriteFrameSnapshot(admin, snapshot);
-    return admin.DefineID <= MaxIdentifiers && admin.Save(path);
+    PlacedTags tags = mdlSWFAuthoring::WriteFrameSnapshot(admin, snapshot);
+    const bool written = admin.DefineID <= MaxIdentifiers && admin.Save(path);
+    // The pictures in it are not kept until the next redraw.
+    admin.InitSWF();
+    if (written) placed = std::move(tags);
+    return written;
 }
 
 }  // namespace tamber

@@ -28,8 +28,6 @@ struct Timeline {
     TimelineOrigin Origin;
     /// Frame of the movie that a sprite's definitions go into; 0 for the movie's own timeline.
     Long SpriteFrame = 0;
-    /// The one frame that is walked, on frame 1; 0 for all of them.
-    Long OnlyFrame = 0;
 
     bool IsMain() const { return SpriteFrame == 0; }
 };
@@ -80,8 +78,10 @@ private:
 
     /// Frame for what need not be defined in the first one.
     Long LateFrame() const { return snapshot_ == nullptr ? 2 : 1; }
-    /// The row has something for this walk, at a depth that there is.
-    bool IsWalked(const Timeline& timeline, Long index, Long depth) const;
+    /// Frame of a timeline that a snapshot shows: of sprites the first.
+    Long SnapshotFrame(const Timeline& timeline) const;
+    /// A row with so many depths from `depth` on has something for the walk.
+    bool IsWalked(const Timeline& timeline, Long index, Long depth, Long depths) const;
     void WriteLayer(const Timeline& timeline, Long index, Long& depth);
     void WriteUnplaced(const Timeline& timeline, const clsLayer& layer);
     void WriteBackground(const Timeline& timeline, const clsLayer& layer);

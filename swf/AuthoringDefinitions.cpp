@@ -55,8 +55,9 @@ void Authoring::PreDefineFrameOne(clsSWFAdmin& admin) {
             EnsureDefined(admin, layer.get(), symbol, 1);
             continue;
         }
-        const auto& komas = *symbol.Property<clsPropertyKoma>()->colKomas;
-        if (!komas.Empty()) EnsureDefined(admin, nullptr, *komas(1), 1);
+        // The first that is anything to see, which others may come before.
+        for (const auto& koma : *symbol.Property<clsPropertyKoma>()->colKomas)
+            if (EnsureDefined(admin, nullptr, *koma, 1) != 0) break;
     }
 }
 
@@ -214,7 +215,7 @@ Long Authoring::GetNewSprite(clsSWFAdmin& admin, const clsPropertySprite& sprite
 
 Long Authoring::GetNewSpriteEdit(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long frame) {
     const auto inner = NewInner(admin, sprite.Width, sprite.height, 1);
-    WriteTimeline({*inner, *sprite.colLayer, OriginOf(sprite), frame, 1});
+    WriteTimeline({*inner, *sprite.colLayer, OriginOf(sprite), frame});
     return AddSprite(admin, inner, frame);
 }
 

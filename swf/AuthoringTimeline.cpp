@@ -64,18 +64,22 @@ void Authoring::WriteTimeline(const Timeline& timeline) {
 PlacedTags Authoring::WriteFrameSnapshot(clsSWFAdmin& admin, const SnapshotRequest& snapshot) {
     snapshot_ = &snapshot;
     admin.FrameCount(1);
-    WriteTimeline({admin, *snapshot.Layers, {}, 0, snapshot.Frame});
+    WriteTimeline({admin, *snapshot.Layers, {}});
     snapshot_ = nullptr;
     return std::exchange(placed_, {});
 }
 
-bool Authoring::IsWalked(const Timeline& timeline, Long index, Long depth) const {
-    if (timeline.OnlyFrame == 0) return true;
+Long Authoring::SnapshotFrame(const Timeline& timeline) const {
+    return timeline.IsMain() ? snapshot_->Frame : 1;
+}
+
+bool Authoring::IsWalked(const Timeline& timeline, Long index, Long depth, Long depths) const {
+    if (snapshot_ == nullptr) return true;
     // Of a movie that is refused for its many rows, the canvas shows those that fit.
-    if (depth < 1 || depth >= BottomDepth + MaxDepths) return false;
+    if (depth < 1 || depth + depths > BottomDepth + MaxDepths) return false;
     if (timeline.IsMain() && (index < snapshot_->FirstRow || index > snapshot_->LastRow))
         return false;
-    return !FramePlacement(*timeline.Layers(index), timeline.OnlyFrame).Empty();
+    return !FramePlacement(*timeline.Layers(index), SnapshotFrame(timeline)).Empty();
 }
 
 bool Authoring::IsGated(const clsLayer& layer) const {
@@ -118,13 +122,13 @@ void Authoring::WriteLayer(const Timeline& timeline, Long index, Long& depth) {
     const clsLayer& layer = *timeline.Layers(index);
     const Long kind = layer.SymbolData()->eType();
     if (IsGated(layer)) return;
-    if (timeline.OnlyFrame == 0) WriteUnplaced(timeline, layer);
+    if (snapshot_ == nullptr) WriteUnplaced(timeline, layer);
     const Long depths = IsPlaced(kind) ? layer.DepthCnt(true) : 0;
     if (depths == 0) return;
     if (request_.blTopToBottom) depth -= depths - 1;
     if (!CanPlace(kind))
         LeaveOut(layer);
-    else if (IsWalked(timeline, index, depth))
+    else if (IsWalked(timeline, index, depth, depths))
         PlaceLayer(timeline, index, depth);
     depth += request_.blTopToBottom ? -1 : depths;
 }
@@ -198,11 +202,11 @@ void Authoring::PlaceLayer(const Timeline& timeline, Long index, Long depth) {
 
 void Authoring::Place(const Timeline& timeline, Long index, const LayerCharacter& character) {
     const clsLayer& layer = *timeline.Layers(index);
-    if (timeline.OnlyFrame == 0) {
+    if (snapshot_ == nullptr) {
         LayerPlacement(timeline.Admin, layer, character).Run();
         return;
     }
-    auto tag = FramePlacement(layer, timeline.OnlyFrame).Place(timeline.Admin, character);
+    auto tag = FramePlacement(layer, SnapshotFrame(timeline)).Place(timeline.Admin, character);
     tag->LayerIndex = index;
     if (timeline.IsMain()) placed_.push_back(std::move(tag));
 }

@@ -6,8 +6,6 @@ namespace tamber {
 
 namespace {
 
-constexpr Long FullRatio = 65535;
-
 /// The last key frame that has begun by a frame, 0 when there is none.
 Long LastBegun(const clsLayer& layer, Long frame) {
     const auto after =
@@ -32,7 +30,7 @@ bool FramePlacement::ContinuesFrom(Long index) const {
     const clsLayerObject& object = *layer_.Object(index);
     return object.blVisible && object.Placement() != nullptr &&
            (OpensTween(layer_, index) ||
-            object.endFrame() + 1 >= layer_.Object(index + 1)->StartFrame());
+            object.endFrame() >= layer_.Object(index + 1)->StartFrame() - 1);
 }
 
 /// The key frame, no tween's start, ends one whose character is its own, and goes on showing that.
@@ -58,11 +56,10 @@ void FramePlacement::ChooseCharacter(clsSWFTagPlaceObject& tag,
         tag.PlaceCnt = own.PlaceCount;
     };
     if (EndsSpecialTween(index_, character)) {
-        take(character.Deform(*layer_.Object(index_ - 1), &Object()));
+        take(DeformedAt(layer_, index_ - 1, character));
         tag.Ratio(FullRatio);
     } else if (IsDeformed(layer_, index_, character)) {
-        const bool opens = OpensTween(layer_, index_);
-        take(character.Deform(Object(), opens ? layer_.Object(index_ + 1).get() : nullptr));
+        take(DeformedAt(layer_, index_, character));
     } else if (TweenOf(layer_, Object(), character).blMorph && MorphEnded(character)) {
         tag.Ratio(FullRatio);
     }
@@ -75,7 +72,7 @@ Long FramePlacement::KomaCharacter(KomaTable& koma) const {
     koma.Rewind();
     for (Long index = first; index < index_; ++index)
         koma.AdvanceSpan(layer_.Object(index)->DispCount());
-    return koma.AdvanceSpan(std::min(frame_ - Object().StartFrame() + 1, Object().DispCount()));
+    return koma.AdvanceSpan(std::min(frame_ - Object().StartFrame(), Object().DispCount() - 1) + 1);
 }
 
 std::shared_ptr<clsSWFTagPlaceObject> FramePlacement::Place(clsSWFAdmin& admin,
@@ -96,8 +93,8 @@ std::shared_ptr<clsSWFTagPlaceObject> FramePlacement::Place(clsSWFAdmin& admin,
     Tween tween = TweenOf(layer_, Object(), character);
     tween.StartTag = tag;
     tween.EndTag = NewPlaceObject(0, character.Depth, *end.Placement(), character.Origin, &element);
-    const Long last = tween.Frame + tween.Span - 1;
-    AddTween(admin, tween, PathOf(Object(), end, character.Origin), std::min(frame_, last));
+    const Long shown = std::min(frame_ - tween.Frame, tween.Span - 1);
+    AddTween(admin, tween, PathOf(Object(), end, character.Origin), tween.Frame + shown);
     return tag;
 }
 

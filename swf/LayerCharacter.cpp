@@ -21,6 +21,11 @@ bool IsDeformed(const clsLayer& layer, Long index, const LayerCharacter& charact
            (deformed(index) || (OpensTween(layer, index) && deformed(index + 1)));
 }
 
+DeformedCharacter DeformedAt(const clsLayer& layer, Long index, const LayerCharacter& character) {
+    const clsLayerObject* end = OpensTween(layer, index) ? layer.Object(index + 1).get() : nullptr;
+    return character.Deform(*layer.Object(index), end);
+}
+
 Tween TweenOf(const clsLayer& layer, const clsLayerObject& start, const LayerCharacter& character) {
     Tween tween;
     tween.Frame = start.StartFrame();

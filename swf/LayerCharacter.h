@@ -39,6 +39,9 @@ bool OpensTween(const clsLayer& layer, Long index);
 /// ends so.
 bool IsDeformed(const clsLayer& layer, Long index, const LayerCharacter& character);
 
+/// Defines that character.
+DeformedCharacter DeformedAt(const clsLayer& layer, Long index, const LayerCharacter& character);
+
 /// The tween of a layer's character that begins at a key frame.
 Tween TweenOf(const clsLayer& layer, const clsLayerObject& start, const LayerCharacter& character);
 

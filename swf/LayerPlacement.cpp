@@ -5,11 +5,9 @@
 namespace tamber {
 
 namespace {
-constexpr Long BlendVersion = 8;
-
 /// What a character that is placed anew has to say of its blend mode.
 void TakeBlend(clsSWFTagPlaceObject& tag, const clsLayerObjElement& element) {
-    if (mdlSWFTag::swfVersion() >= BlendVersion && element.eBlend != 0) tag.eBlend(element.eBlend);
+    if (mdlSWFTag::swfVersion() >= FilterVersion && element.eBlend != 0) tag.eBlend(element.eBlend);
 }
 
 }  // namespace
@@ -67,11 +65,9 @@ void LayerPlacement::PlaceKeyFrame(Long index) {
 /// and a plain one after them the layer's.
 void LayerPlacement::ChooseCharacter(Long index, bool endsTween) {
     const clsLayerObject& object = *layer_.Object(index);
-    const bool opens = OpensTween(layer_, index);
-    if (special_ && endsTween && !opens) return;
+    if (special_ && endsTween && !OpensTween(layer_, index)) return;
     if (IsDeformed(layer_, index, character_)) {
-        const clsLayerObject* end = opens ? layer_.Object(index + 1).get() : nullptr;
-        ReplaceCharacter(object.StartFrame(), character_.Deform(object, end));
+        ReplaceCharacter(object.StartFrame(), DeformedAt(layer_, index, character_));
         special_ = true;
     } else if (special_) {
         ReplaceCharacter(object.StartFrame(), {character_.Identifier, character_.PlaceCount});

@@ -4,8 +4,6 @@ namespace tamber {
 
 namespace {
 
-constexpr Long FilterVersion = 8;
-
 Long ToTwips(Single pixels, Single origin) {
     return mdlSWFTag::ToField((static_cast<double>(pixels) - origin) * 20.0);
 }

@@ -12,8 +12,6 @@ namespace tamber {
 
 namespace {
 
-constexpr Long FullRatio = 65535;
-constexpr Long FilterVersion = 8;
 constexpr double Pi = 3.14159265358979;
 /// 255 times pi: an easing value of 255 begins twice as fast and ends at rest.
 constexpr double EdgingScale = 801.1061266653965;

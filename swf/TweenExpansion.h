@@ -8,6 +8,9 @@
 
 namespace tamber {
 
+/// Ratio at the end of a tween.
+inline constexpr Long FullRatio = 65535;
+
 /// A tween from one key frame to the next.
 struct Tween {
     Long Frame = 1;  ///< first frame

@@ -48,6 +48,7 @@ void clsSWFAdmin::InitSWF() {
     colInitAction.clear();
     colDefineObj_ = std::make_shared<DefinitionList>();
     frames_.clear();
+    colTailTag_.clear();
     DefineID = 0;
     if (inFontAdmin) ReserveFonts();
     BackGroundColor = -1;

@@ -10,7 +10,6 @@ namespace tamber {
 
 namespace {
 
-constexpr Long FilterVersion = 8;
 constexpr Long WideEventVersion = 6;
 constexpr Long KeyPressEvent = 0x20000;
 

@@ -9,6 +9,9 @@
 
 namespace tamber {
 
+/// First version whose players know filters and blend modes.
+inline constexpr Long FilterVersion = 8;
+
 /// PlaceObject2, or PlaceObject3 with a blend mode or filters from version 8 on. Holds the values
 /// of the editor; the arithmetic is done when it is saved.
 class clsSWFTagPlaceObject : public clsSWFTag {

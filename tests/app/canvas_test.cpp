@@ -1,6 +1,7 @@
 #include "app/mdlPrivateProfile.h"
 #include "document/clsLayerObjElement.h"
 #include "document/clsObjBackGround.h"
+#include "document/clsPropertyText.h"
 #include "platform/files.h"
 #include "tests/support/ControllerTest.h"
 #include "tests/swf/MovieParser.h"
@@ -101,22 +102,49 @@ TEST_F(CanvasTest, a_movie_that_cannot_be_written_leaves_the_old_picture_and_say
     ASSERT_TRUE(MakeFolders(Path(u"x/_edit.swf")));
     main_.ProjectFileName = Path(u"x/y.kvf");
     main_.ProjectDir = Path(u"x");
-    EXPECT_FALSE(main_.ShowEditSWFBitmap());
+    EXPECT_FALSE(main_.ShowEditSWFBitmap(9));
     EXPECT_EQ(view_->Snapshot, before);
     EXPECT_TRUE(FileExists(before));
+    EXPECT_EQ(main_.nPrevFrame, 1);
+    EXPECT_EQ(main_.SnapshotTags().size(), 3u);
     EXPECT_TRUE(interface_.Messages.empty());
 }
 
 TEST_F(CanvasTest, a_symbols_own_file_is_not_written_over) {
-    ASSERT_TRUE(WriteFileBytes(Bytes{1, 2, 3}, Path(u"_edit.swf")));
-    (*main_.colSymbol())(sprite_)->FilePathName = Path(u"_edit.swf");
-    main_.ProjectFileName = Path(u"a.kvf");
-    main_.ProjectDir = folder_;
-    mdlPrivateProfile::flgPrevPrjPath(true);
-    main_.ShowEditSWFBitmap();
+    ASSERT_TRUE(MakeFolders(Path(u"p")));
+    ASSERT_TRUE(WriteFileBytes(Bytes{1, 2, 3}, Path(u"p/_edit.swf")));
+    (*main_.colSymbol())(sprite_)->FilePathName = Path(u"p/_edit.swf");
+    ASSERT_TRUE(main_.mnuSaveNew(Path(u"p/a.kvf")));
+    EXPECT_FALSE(main_.ShowEditSWFBitmap());
+    EXPECT_EQ(view_->Snapshot, u"");
     Bytes bytes;
-    ASSERT_TRUE(ReadFileBytes(Path(u"_edit.swf"), bytes));
+    ASSERT_TRUE(ReadFileBytes(Path(u"p/_edit.swf"), bytes));
     EXPECT_EQ(bytes, (Bytes{1, 2, 3}));
+}
+
+TEST_F(CanvasTest, a_programs_folder_that_takes_no_files_has_the_users_in_its_place) {
+    ProgramFolder(Path(u"none"));
+    EXPECT_EQ(Shown().size(), 3u);
+    EXPECT_EQ(view_->Snapshot, Path(u"config/tamber/_edit.swf"));
+    unsetenv("XDG_CONFIG_HOME");
+    unsetenv("HOME");
+    EXPECT_FALSE(main_.ShowEditSWFBitmap());
+    ProgramFolder(folder_);
+}
+
+TEST_F(CanvasTest, version_order_of_rows_and_fonts_are_those_of_the_movie) {
+    auto text = std::make_shared<clsSymbolData>(KindText);
+    text->Property<clsPropertyText>()->InitialText = u"月";
+    main_.AddSymbol(text);
+    main_.SelectSymbols(main_.colSymbol()->Count(), main_.colSymbol()->Count());
+    main_.AddToLayer(1, false, false);
+    ASSERT_TRUE(main_.mnuPrjProperty(100, 100, 12, 8));
+    mdlPrivateProfile::flgTopToBottom(false);
+    Shown();
+    const test::ParsedMovie movie = test::ParseMovie(view_->Snapshot);
+    EXPECT_EQ(movie.Header[3], 8);
+    EXPECT_EQ(test::Places(movie).front().Depth, 257);
+    EXPECT_EQ(movie.Bodies(48).size(), 1u);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
 
 #include "app/frmMain.h"
@@ -47,6 +48,8 @@ protected:
         std::string folder = (std::filesystem::temp_directory_path() / "commandsXXXXXX").string();
         ASSERT_NE(mkdtemp(folder.data()), nullptr);
         folder_ = FromNarrow(folder);
+        // What the program's folder cannot take goes there.
+        setenv("XDG_CONFIG_HOME", (folder + "/config").c_str(), 1);
         program_ = ProgramFolder();
         ProgramFolder(folder_);
         main_.Form_Load();

@@ -218,6 +218,14 @@ TEST_F(AuthoringTest, a_koma_shows_its_pictures_in_turn) {
     EXPECT_EQ(places[2].Character, 2);
 }
 
+TEST_F(AuthoringTest, a_koma_that_begins_with_nothing_to_see_has_its_first_picture_in_frame_1) {
+    const auto koma = AddSymbol(std::make_shared<clsSymbolData>(KindKoma));
+    for (const auto& picture : {std::make_shared<clsSymbolData>(KindVector), AddBitmap(1, 1)})
+        koma->Property<clsPropertyKoma>()->colKomas->Add(picture);
+    AddKeyFrame(*AddLayer(koma), 1, 2);
+    EXPECT_EQ(Build().Codes(), (std::vector<Long>{9, 36, 2, 28, 26, 1, 28, 26, 1, 0}));
+}
+
 TEST_F(AuthoringTest, a_sprite_has_the_highest_number_and_counts_from_its_base) {
     const auto bitmap = AddBitmap(1, 1);
     const auto sprite = AddSymbol(std::make_shared<clsSymbolData>(KindSprite));

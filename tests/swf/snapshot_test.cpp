@@ -137,6 +137,60 @@ TEST_F(SnapshotTest, every_frame_of_timelines_by_lot_is_what_the_movie_shows) {
     }
 }
 
+TEST_F(SnapshotTest, a_morph_is_at_its_end_until_the_drawing_is_bent) {
+    const auto symbol = AddVector(1);
+    symbol->Property<clsPropertyVector>()->MorphSymbol(AddVector(1));
+    const auto layer = AddLayer(symbol);
+    AddKeyFrame(*layer, 1, 2).blTween = true;
+    for (Long frame = 3; frame <= 6; ++frame) AddKeyFrame(*layer, frame, 1);
+    Bend(*layer->Object(4));
+    ExpectSameFrames(6);
+}
+
+TEST_F(SnapshotTest, spans_of_a_damaged_file_are_no_harm) {
+    const auto layer = AddLayer(AddBitmap(1, 1));
+    AddKeyFrame(*layer, 1, 1).DispCount(2147483647);
+    layer->Object(1)->blTween = true;
+    AddKeyFrame(*layer, 5, 1, 9, 9);
+    EXPECT_EQ(Snapshot(3).Codes(), (std::vector<Long>{36, 2, 26, 1, 0}));
+    const auto koma = AddSymbol(std::make_shared<clsSymbolData>(KindKoma));
+    koma->Property<clsPropertyKoma>()->colKomas->Add(library(1));
+    layers.Clear();
+    const auto row = AddLayer(koma);
+    AddKeyFrame(*row, 2, 1).DispCount(2147483647);
+    AddKeyFrame(*row, 5, 3);
+    for (const Long frame : {-1, 0, 1, 3, 6, 2147483647}) {
+        const bool seen = frame == 3 || frame == 6;
+        EXPECT_EQ(test::Places(Snapshot(frame)).size(), seen ? 1u : 0u) << frame;
+    }
+}
+
+TEST_F(SnapshotTest, of_too_many_rows_those_that_fit_are_shown) {
+    AddBitmap(1, 1);
+    for (int i = 0; i < 16500; ++i) AddKeyFrame(*AddLayer(library(1)), 1, 1);
+    for (const bool order : {true, false}) {
+        blTopToBottom = order;
+        const auto places = test::Places(Snapshot(1, 6, 1, layers.Count()));
+        ASSERT_EQ(places.size(), 16383u);
+        EXPECT_EQ(places.front().Depth, order ? 16383 : 257);
+        EXPECT_EQ(places.back().Depth, order ? 1 : 257 + 16382);
+    }
+}
+
+TEST_F(SnapshotTest, with_more_characters_than_a_file_can_hold_nothing_is_written) {
+    const auto koma = AddSymbol(std::make_shared<clsSymbolData>(KindKoma));
+    for (int i = 0; i < 32768; ++i)
+        koma->Property<clsPropertyKoma>()->colKomas->Add(AddBitmap(1, 1));
+    AddKeyFrame(*AddLayer(koma), 1, 1);
+    clsSWFAdmin admin;
+    SnapshotRequest request;
+    request.Layers = &layers;
+    placed.resize(1);
+    EXPECT_FALSE(WriteEditSnapshot(admin, library, request, -1, FromNarrow(path.string()), placed));
+    EXPECT_FALSE(std::filesystem::exists(path));
+    EXPECT_EQ(placed.size(), 1u);
+}
+
 TEST_F(SnapshotTest, only_what_is_seen_on_the_frame_and_in_the_rows_is_defined) {
     AddKeyFrame(*AddLayer(AddBitmap(1, 1)), 1, 2);
     AddKeyFrame(*AddLayer(AddBitmap(2, 2)), 3, 2);
@@ -148,6 +202,12 @@ TEST_F(SnapshotTest, only_what_is_seen_on_the_frame_and_in_the_rows_is_defined) 
     ASSERT_EQ(places.size(), 1u);
     EXPECT_EQ(places[0].Depth, 16381);
     EXPECT_EQ(places[0].Matrix.TranslateX, 140);
+    // The rows are those of the timeline, not of the sprites in it.
+    const auto sprite = AddSymbol(std::make_shared<clsSymbolData>(KindSprite));
+    sprite->Property<clsPropertySprite>()->colLayer->Add(layers(1));
+    AddKeyFrame(*AddLayer(sprite), 3, 1);
+    EXPECT_EQ(Snapshot(3, 6, 4, 4).Codes(), (std::vector<Long>{36, 2, 39, 26, 1, 0}));
+    EXPECT_EQ(placed.size(), 1u);
 }
 
 TEST_F(SnapshotTest, each_placement_tells_its_row_and_key_frame) {
