@@ -280,6 +280,9 @@ bool Lexer::ReadSlashPath(Token& token, PathForm form) {
     const bool begins = is('/') || is(':') || (is('.') && end_ - at > 1 && at[1] == '.');
     const bool goesOn = Ahead(0) == '/' || Ahead(0) == ':';
     if (!begins && (form == PathForm::Rooted || !goesOn)) return false;
+    if (form == PathForm::WithColon && begin >= noPath_.data() &&
+        begin < noPath_.data() + noPath_.size())
+        return false;
     bool hasSlash = false;
     bool hasColon = false;
     if (!is('/') && !is(':')) skipName();
@@ -291,16 +294,23 @@ bool Lexer::ReadSlashPath(Token& token, PathForm form) {
     if (is(':')) {
         ++at;
         hasColon = skipName();
-        if (!hasColon) return false;
+        if (!hasColon) return NoPath(begin, at);
     }
     const bool isCall = hasSlash && at[-1] != '/' && is('(');
-    if (!begins && !hasColon && (!isCall || form != PathForm::WithColonOrCall)) return false;
+    if (!begins && !hasColon && (!isCall || form != PathForm::WithColonOrCall))
+        return NoPath(begin, at);
     token.Kind = TokenKind::SlashPath;
     token.Text = Between(begin, at);
     CheckLength(token);
     token.Name = symbols_.Intern(token.Text);
     at_ = at;
     return true;
+}
+
+/// Of a long division every operand would else be looked through to its end.
+bool Lexer::NoPath(const char* begin, const char* end) {
+    noPath_ = Between(begin, end);
+    return false;
 }
 
 void Lexer::CheckLength(const Token& token) {

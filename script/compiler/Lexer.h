@@ -32,6 +32,7 @@ public:
 
 private:
     void SkipBlanks(Token& token);
+    bool NoPath(const char* begin, const char* end);
     void CheckLength(const Token& token);
     bool SkipWideBlank();
     void SkipLineComment();
@@ -63,6 +64,8 @@ private:
     SymbolTable& symbols_;
     Diagnostics& diagnostics_;
     std::string scratch_;
+    /// What was found last to be no path with a colon: no path begins within it.
+    std::string_view noPath_;
 };
 
 }  // namespace tamber

@@ -225,6 +225,7 @@ TEST(Diagnostics, AreNotNeededForLongChains) {
         "x = " + Repeated("a + ", Many) + "1;",
         "x = " + Repeated("\"a\" + ", Many) + "b;",
         "x = " + Repeated("a > ", Many) + "1;",
+        "x = a" + Repeated("/a", Many) + ";",
         "if (" + Repeated("a && ", 1000) + "b) play();",
         Repeated("if (a > 9) b(); else ", 500) + "c();",
         "x = [" + Repeated("1, ", Many) + "2];",
