@@ -151,9 +151,9 @@ void ActionCode::EndWith() {
     Emit(ItemKind::WithEnd);
 }
 
-void ActionCode::BeginTry(const TryRecord& record) {
+void ActionCode::BeginTry(std::uint32_t line) {
     Emit(ItemKind::Try, static_cast<std::uint32_t>(Tries.size()));
-    Tries.push_back(record);
+    Tries.push_back(line);
     Block();
 }
 

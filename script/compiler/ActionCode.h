@@ -67,11 +67,6 @@ public:
         Byte RegisterCount = 0;
         std::uint16_t Flags = 0;
     };
-    struct TryRecord {
-        /// Of the variable for what was thrown; null for register 0.
-        const Symbol* Name = nullptr;
-        std::uint32_t Line = 0;
-    };
     struct UrlRecord {
         const Symbol* Url;
         const Symbol* Target;
@@ -109,7 +104,8 @@ public:
     void EndFunction();
     void BeginWith(std::uint32_t line);
     void EndWith();
-    void BeginTry(const TryRecord& record);
+    /// What was thrown comes into register 0.
+    void BeginTry(std::uint32_t line);
     /// Ends the body or the handler.
     void EndTryBlock(ItemKind end);
 
@@ -117,7 +113,8 @@ public:
 
     std::vector<FunctionRecord> Functions;
     std::vector<Parameter> Parameters;
-    std::vector<TryRecord> Tries;
+    /// Lines of the `try` statements.
+    std::vector<std::uint32_t> Tries;
     std::vector<UrlRecord> Urls;
     std::vector<double> Numbers;
     std::vector<std::uint32_t> Lines;

@@ -303,21 +303,18 @@ void ActionEncoder::WriteFunction(const ActionCode& code,
 
 /// Three lengths stand in front of the blocks; each block opens where the one before it ends. The
 /// third, of what always runs, is not used.
-void ActionEncoder::WriteTry(const ActionCode::TryRecord& record) {
-    const bool isInRegister = record.Name == nullptr;
-    const std::size_t nameSize = isInRegister ? 1 : record.Name->Text.size() + 1;
+/// Flags, the lengths of body, handler and last block, and the register of what was thrown.
+void ActionEncoder::WriteTry(std::uint32_t line) {
+    constexpr std::uint32_t Size = 8;
     U8(static_cast<Byte>(Opcode::Try));
-    U16(static_cast<std::uint32_t>(7 + nameSize));
-    U8(HasHandlerFlag | (isInRegister ? InRegisterFlag : 0));
+    U16(Size);
+    U8(HasHandlerFlag | InRegisterFlag);
     const std::size_t lengths = bytes_.size();
     U16(0);
     U16(0);
     U16(0);
-    if (isInRegister)
-        U8(0);
-    else
-        Chars(record.Name->Text);
-    BeginBlock(lengths, record.Line);
+    U8(0);
+    BeginBlock(lengths, line);
 }
 
 void ActionEncoder::BeginBlock(std::size_t lengthAt, std::uint32_t line) {

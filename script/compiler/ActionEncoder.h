@@ -46,7 +46,7 @@ private:
     void WriteFunction(const ActionCode& code, const ActionCode::FunctionRecord& function);
     bool IsOwn(const Symbol& name);
     void WriteCastOrCall(const Symbol& name);
-    void WriteTry(const ActionCode::TryRecord& record);
+    void WriteTry(std::uint32_t line);
     void WriteUrl(const ActionCode::UrlRecord& record);
     void WriteShort(Opcode opcode, std::uint32_t operand, std::size_t size);
     void WriteNamed(Opcode opcode, std::string_view name);

@@ -209,7 +209,8 @@ private:
     void Function(const Node& node);
     void FunctionValue(const Node& node);
     void ChoosePreloads(FunctionState& state, ActionCode::FunctionRecord& record) const;
-    void Bind(const FunctionNode& function, bool isBound);
+    static void Bind(const FunctionNode& function);
+    static void Unbind(const FunctionNode& function);
     void Class(const Node& node);
     void Package(const Node& node);
     void ClassPath(const Node& node);

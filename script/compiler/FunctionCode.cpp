@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <utility>
 
 #include "script/compiler/CodeGenerator.h"
 
@@ -38,10 +39,10 @@ void CodeGenerator::Function(const Node& node) {
     }
     const std::size_t number = code_->BeginFunction(record, parameters_);
     if (record.HasRegisters) function_.Record = number;
-    Bind(function, true);
+    Bind(function);
     Statements(function.Functions.First);
     Statements(function.Body);
-    Bind(function, false);
+    Unbind(function);
     code_->EndFunction();
     function_ = outer;
 }
@@ -76,13 +77,19 @@ void CodeGenerator::ChoosePreloads(FunctionState& state, ActionCode::FunctionRec
     record.Flags = static_cast<std::uint16_t>(flags);
 }
 
-/// Variables lie in their registers, and hide the members of a class, while the function is made.
-void CodeGenerator::Bind(const FunctionNode& function, bool isBound) {
-    for (const NameNode* name = function.Declared; name != nullptr; name = name->Next) {
-        if (name->Register != Symbol::NoRegister)
-            name->Name->Register = isBound ? name->Register : Symbol::NoRegister;
-        name->Name->Declarations =
-            static_cast<std::uint16_t>(name->Name->Declarations + (isBound ? 1 : -1));
+/// While the function is made, variables lie in their registers, or have their names only, whatever
+/// they are in the functions around, and hide the members of a class.
+void CodeGenerator::Bind(const FunctionNode& function) {
+    for (NameNode* name = function.Declared; name != nullptr; name = name->Next) {
+        name->OuterRegister = std::exchange(name->Name->Register, name->Register);
+        ++name->Name->Declarations;
+    }
+}
+
+void CodeGenerator::Unbind(const FunctionNode& function) {
+    for (const NameNode* name = function.LastDeclared; name != nullptr; name = name->Previous) {
+        name->Name->Register = name->OuterRegister;
+        --name->Name->Declarations;
     }
 }
 

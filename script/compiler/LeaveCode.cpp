@@ -164,17 +164,17 @@ void CodeGenerator::Try(const Node& node) {
 /// Without handlers, the body alone.
 void CodeGenerator::TryCatch(const Node& node) {
     if (node.B == nullptr) return Statement(*node.A);
-    const bool takesAll = node.B->A == nullptr;
-    code_->BeginTry({takesAll ? node.B->Name : nullptr, node.Line});
+    code_->BeginTry(node.Line);
     GuardBlock(node, [&] { Statement(*node.A); });
     code_->EndTryBlock(ItemKind::TryBodyEnd);
-    GuardBlock(node, [&] { takesAll ? Statement(*node.B->B) : Handlers(*node.B); });
+    GuardBlock(node, [&] { Handlers(*node.B); });
     code_->EndTryBlock(ItemKind::TryEnd);
     FollowMarks(MarksOf(node), node.Line);
 }
 
-/// Handlers of which the first tells a type: each is asked whether it is meant, and what none takes
-/// is thrown again. The exception lies in register 0.
+/// Each handler that tells a type is asked whether it is meant, and what none takes is thrown
+/// again. The exception lies in register 0: a name that the player gave it could be a variable of
+/// others.
 void CodeGenerator::Handlers(const Node& first) {
     const Label end = code_->NewLabel(first.Line);
     bool takesAll = false;
@@ -220,7 +220,7 @@ void CodeGenerator::TestOfType(const Node& type, Label otherwise) {
 /// behind a try that catches everything, and what was thrown is thrown again behind it.
 void CodeGenerator::Finally(const Node& node) {
     const Label end = code_->NewLabel(node.Line);
-    code_->BeginTry({nullptr, node.Line});
+    code_->BeginTry(node.Line);
     scopes_.push_back({ScopeKind::Guard, end, end, &node, true});
     TryCatch(node);
     scopes_.pop_back();

@@ -163,6 +163,8 @@ struct NameNode {
     Symbol* Name = nullptr;
     /// Register that holds it, or Symbol::NoRegister.
     Byte Register = Symbol::NoRegister;
+    /// The name's register in the function around, while the code of this one is made.
+    Byte OuterRegister = Symbol::NoRegister;
     bool IsParameter = false;
     /// Function around, in which the name was declared before; 0 for none.
     std::uint32_t OuterDeclaration = 0;

@@ -151,3 +151,11 @@ try { throw new Own("dotted"); } catch (e:_global.box.Far) { trace("never"); } c
 import box.Own;
 try { throw new Own("imported"); } catch (e:Own) { trace(e.text); } //= imported
 trace(found(this));               //= nothing
+// What was caught is a variable of the function's own.
+e = "keep";
+function catches() { try { throw 1; } catch (e) { } }
+catches(); trace(e);              //= keep
+function recurs(n) { try { throw n; } catch (ex) { if (n > 0) recurs(n - 1); return ex; } }
+trace(recurs(3));                 //= 3
+function closes(v) { try { throw v; } catch (own) { return function () { return own; }; } }
+one = closes(1); two = closes(2); trace(one() + "," + two()); //= 1,2

@@ -62,3 +62,8 @@ Color = function (c) { return c * 2; };
 trace(Color(4));             //= 8
 function given(Sound) { var Video = function (v) { return v + 1; }; return Sound(5) + Video(6); }
 trace(given(function (s) { return s; })); //= 12
+// Names of an inner function leave those of the outer one as they are.
+function around(s) { var h = function (s) { done = 1; }; h(false); return s; }
+trace(around("yes"));        //= yes
+function counts(n) { var f = function (o) { for (var n in o) { } var s; }; f({a: 1}); return n; }
+trace(counts(5));            //= 5
