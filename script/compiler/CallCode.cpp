@@ -1,5 +1,6 @@
 #include "platform/text.h"
 #include "script/compiler/CodeGenerator.h"
+#include "script/compiler/NumberText.h"
 #include "script/compiler/Vocabulary.h"
 
 namespace tamber {
@@ -16,10 +17,6 @@ constexpr std::uint32_t GotoPlays = 1;
 constexpr std::size_t MaxUrlRecord = 60000;
 constexpr std::string_view VersionPath = "/:$version";
 constexpr std::string_view LevelName = "_level";
-
-std::string NumberText(double value) {
-    return std::to_string(static_cast<std::int64_t>(value));
-}
 
 bool IsWhole(const Node& node, double low, double high) {
     return node.Kind == NodeKind::Number && node.Value >= low && node.Value <= high &&

@@ -53,6 +53,26 @@ TEST(Code, OfVersion4HasTextsForAllValuesAndJumpsForLoops) {
     });
 }
 
+TEST(Code, OfVersion4HasNumbersAsThePlayerPrintsThem) {
+    const CodeCase cases[] = {
+        {4, "x = 100000;", "x = \"100000\";"},
+        {4, "x = 999999999999999;", "x = \"999999999999999\";"},
+        {4, "x = 0.9999999999999999;", "x = \"1\";"},
+        {4, "x = 0.1234567890123456;", "x = \"0.123456789012346\";"},
+        {4, "x = 0.000012;", "x = \"0.000012\";"},
+        {4, "x = 0.0000012;", "x = \"1.2e-6\";"},
+        {4, "x = 12e20;", "x = \"1.2e+21\";"},
+        {4, "x = 1e400;", "x = \"Infinity\";"},
+        {4, "x = -1e400;", "x = \"-Infinity\";"},
+        {4, "x = 0 * -1;", "x = \"0\";"},
+        {4, "x = 1 / 8;", "x = \"0.125\";"},
+    };
+    for (const CodeCase& number : cases)
+        EXPECT_EQ(Compiled(number.Source, number.Version), Compiled(number.Code, number.Version))
+            << number.Source;
+    EXPECT_NE(Compiled("x = 1 / 3;", 4), Compiled("x = \"0.333333333333333\";", 4));
+}
+
 TEST(Code, OfBuiltInFunctionsIsTheirAction) {
     Check({
         {4, "gotoAndPlay(3);", "81 02 00 02 00 06"},

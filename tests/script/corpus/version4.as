@@ -59,6 +59,12 @@ fscommand("TamberTrace", "four"); //! TamberTrace|four
 fscommand("TamberTrace", x); //! TamberTrace|9
 c = 2;
 if (c gt 1 and "b" ge "a" and "a" le "b") trace("ordered"); //= ordered
+trace(100000);       //= 100000
+trace(0.1 + 0.2);    //= 0.3
+trace(1 / 3);        //= 0.333333333333333
+third = 1 / 3; trace(third * 3); //= 1
+trace(0 * -1);       //= 0
+trace(-123456789012345 add "," add 0.00001 add "," add 1e15 add "," add 1 / 1000000); //= -123456789012345,0.00001,1e+15,1e-6
 call("f3");          //= frame 3
 //@ frame 2
 trace("frame 2");    //= frame 2
