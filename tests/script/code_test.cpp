@@ -202,10 +202,16 @@ TEST(Code, UsesOnePairOfRegistersForAllElementsThatChange) {
     EXPECT_EQ(at[RegisterCountAt], 4);
 }
 
-TEST(Code, OfBuiltInsAndKeywordsIsFoundWithoutCaseBelowVersion7) {
+TEST(Code, OfBuiltInsIsFoundWithoutCaseBelowVersion7) {
     EXPECT_EQ(Compiled("GOTOANDPLAY(3);", 6), "81 02 00 02 00 06");
-    EXPECT_EQ(Compiled("IF (a) Play();", 6), Compiled("if (a) play();", 6));
+    EXPECT_EQ(Compiled("if (a) Play();", 6), Compiled("if (a) play();", 6));
     EXPECT_NE(Compiled("GOTOANDPLAY(3);", 7), "81 02 00 02 00 06");
+}
+
+TEST(Code, OfKeywordsIsFoundWithoutCaseInVersion4Only) {
+    EXPECT_EQ(Compiled("IF (a) x = NewLine;", 4), Compiled("if (a) x = newline;", 4));
+    EXPECT_EQ(Compiled("IF (a) play();", 5), "not compiled");
+    EXPECT_NE(Compiled("x = NewLine;", 5), Compiled("x = newline;", 5));
 }
 
 }  // namespace
