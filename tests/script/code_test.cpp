@@ -161,6 +161,28 @@ TEST(Code, IsNotMadeOfWhatHasNoEffectOrCannotBeReached) {
     });
 }
 
+TEST(Code, IsTheSameWithBlanksBeyondAscii) {
+    const CodeCase cases[] = {
+        {5, "x\xA0= 5\xA0;", "x=5;"},
+        {5,
+         "x\x81\x40=\x81\x40"
+         "5\x81\x40;",
+         "x=5;"},
+        // A second byte that looks like one is none.
+        {5, "\x83\xA0 = 5;", "\x83\xA0=5;"},
+        {6,
+         "\xEF\xBB\xBFx\xC2\xA0=\xE3\x80\x80"
+         "5\xC2\xA0;",
+         "x=5;"},
+        {6, "x = /a:b\xC2\xA0;", "x=/a:b;"},
+    };
+    for (const CodeCase& spaced : cases) {
+        EXPECT_NE(Compiled(spaced.Source, spaced.Version), "not compiled");
+        EXPECT_EQ(Compiled(spaced.Source, spaced.Version), Compiled(spaced.Code, spaced.Version))
+            << spaced.Source;
+    }
+}
+
 TEST(Code, OfConstantsIsTheirResult) {
     const CodeCase cases[] = {
         {5, "x = 1 + 2 * 3;", "x = 7;"},   {5, "x = 7 >>> 1 << 2;", "x = 12;"},
