@@ -134,8 +134,11 @@ private:
     void Binary(const Node& node);
     void BinaryRest(const Node& node);
     bool IsReversed(const Node& node) const;
-    bool IsMadeReversed(const Node& node) const;
+    bool IsMadeApart(const Node& node) const;
+    void Apart(const Node& node);
     void Reversed(const Node& node);
+    void TruthValue(const Node& condition);
+    static bool IsLogical(const Node& node);
     void SwapOperands(const Node& node);
     static bool IsNegated(Operator op);
     Opcode ActionOf(Operator op) const;

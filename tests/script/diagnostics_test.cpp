@@ -202,6 +202,8 @@ TEST(Diagnostics, StandForTextsThatNoCodeCanHold) {
     for (const Long version : {4, 6, 7})
         for (const std::string& source : sources)
             EXPECT_FALSE(Compiled(source, version).IsCompiled()) << source.substr(0, 20);
+    // In version 4 each `||` of these stands in the next.
+    EXPECT_FALSE(Compiled("x = " + Repeated("a || b or ", Many) + "1;", 4).IsCompiled());
 }
 
 TEST(Diagnostics, TellOfNamesWithDotsThatMakeTooLongAPath) {
@@ -235,6 +237,7 @@ TEST(Diagnostics, AreNotNeededForLongChains) {
     for (const std::string& source : sources)
         for (const Long version : {5, 8})
             EXPECT_TRUE(Compiled(source, version).IsCompiled()) << source.substr(0, 20);
+    EXPECT_TRUE(Compiled("x = " + Repeated("a && ", 1000) + "b;", 4).IsCompiled());
 }
 
 TEST(Diagnostics, TellOfJumpsAndBlocksThatAreTooLong) {
