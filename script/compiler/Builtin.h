@@ -10,6 +10,8 @@ namespace tamber {
 enum class BuiltinForm : Byte {
     /// The arguments in their order, then the action.
     Action,
+    /// The clip that the argument names, then the action.
+    OfClip,
     GotoAndPlay,
     GotoAndStop,
     GetUrl,

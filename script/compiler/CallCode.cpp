@@ -144,9 +144,13 @@ bool CodeGenerator::BuiltinCall(const Builtin& builtin, const Node& node) {
             break;
         case BuiltinForm::GetProperty:
         case BuiltinForm::SetProperty:
-            Expression(*first);
+            Target(*first);
             PushProperty(*first->Next);
             if (first->Next->Next != nullptr) Expression(*first->Next->Next);
+            code_->Emit(builtin.Action);
+            break;
+        case BuiltinForm::OfClip:
+            Target(*first);
             code_->Emit(builtin.Action);
             break;
         case BuiltinForm::GetVersion:
@@ -158,6 +162,31 @@ bool CodeGenerator::BuiltinCall(const Builtin& builtin, const Node& node) {
             code_->Emit(builtin.Action);
     }
     return builtin.HasValue;
+}
+
+/// The clip that an action is for. Version 4 has no clips as values, so names that can only be
+/// those of clips are their paths.
+void CodeGenerator::Target(const Node& node) {
+    std::string path;
+    if (version_ < 5 && IsClipName(node) && SlashPathOf(node, path))
+        return code_->PushText(PathText(node, path));
+    Expression(node);
+}
+
+bool CodeGenerator::IsClipName(const Node& node) {
+    switch (node.Kind) {
+        case NodeKind::This:
+            return true;
+        case NodeKind::Name:
+            return node.Name->Special == SpecialName::Root ||
+                   node.Name->Special == SpecialName::Parent;
+        case NodeKind::Member:
+            return node.Name->Property == Symbol::NoProperty;
+        case NodeKind::SlashPath:
+            return node.Name->Text.find(':') == std::string_view::npos;
+        default:
+            return false;
+    }
 }
 
 void CodeGenerator::PushArguments(const Node& node) {
@@ -268,7 +297,7 @@ void CodeGenerator::Url(const Node& node, std::uint32_t flags) {
     if (target == nullptr)
         code_->PushText(window);
     else
-        Expression(*target);
+        (flags & LoadTarget) != 0 ? Target(*target) : Expression(*target);
     code_->Emit(ItemKind::GetUrl2, flags);
 }
 
@@ -290,7 +319,7 @@ void CodeGenerator::UrlText(Symbol* url, const Node& target, bool isLevel, std::
     if (isLevel)
         PushLevel(target);
     else
-        Expression(target);
+        Target(target);
     code_->Emit(ItemKind::GetUrl2, flags);
 }
 
@@ -343,7 +372,7 @@ void CodeGenerator::Duplicate(const Node& node) {
     const Node& source = *node.B;
     const Node& name = *source.Next;
     const Node& depth = *name.Next;
-    Expression(source);
+    Target(source);
     Expression(name);
     if (depth.Kind == NodeKind::Number) {
         code_->PushNumber(depth.Value + FirstDepth);
@@ -370,7 +399,7 @@ void CodeGenerator::StartDrag(const Node& node) {
         PushInteger(0);
     else
         Expression(*lock);
-    Expression(target);
+    Target(target);
     code_->Emit(Opcode::StartDrag);
 }
 

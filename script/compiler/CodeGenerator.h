@@ -191,6 +191,8 @@ private:
     void MethodCall(const Node& node);
     bool CallInSlashPath(const Node& node);
     bool CallInTarget(const std::string& path, Symbol* name, const Node& node);
+    void Target(const Node& node);
+    static bool IsClipName(const Node& node);
     void PushArguments(const Node& node);
     void PushArgumentsBackward(const Node* first, std::uint32_t count);
     void New(const Node& node);

@@ -53,6 +53,24 @@ TEST(Code, OfVersion4HasTextsForAllValuesAndJumpsForLoops) {
     });
 }
 
+TEST(Code, OfVersion4NamesClipsByTheirPaths) {
+    const CodeCase cases[] = {
+        {4, "removeMovieClip(_root.c);", "removeMovieClip(\"/c\");"},
+        {4, "removeMovieClip(_parent.c);", "removeMovieClip(\"../c\");"},
+        {4, "startDrag(a.c, true);", "startDrag(\"a/c\", true);"},
+        {4, "loadMovie(\"u\", _root.c);", "loadMovie(\"u\", \"/c\");"},
+        {4, "loadVariables(\"u\", /c, \"POST\");", "loadVariables(\"u\", \"/c\", \"POST\");"},
+        {4, "unloadMovie(_root.c);", "unloadMovie(\"/c\");"},
+        {4, "print(_root, \"bframe\");", "print(\"/\", \"bframe\");"},
+        {4, "duplicateMovieClip(a.c, \"d\", 1);", "duplicateMovieClip(\"a/c\", \"d\", 1);"},
+    };
+    for (const CodeCase& target : cases)
+        EXPECT_EQ(Compiled(target.Source, target.Version), Compiled(target.Code, target.Version))
+            << target.Source;
+    EXPECT_NE(Compiled("getURL(\"u\", a.c);", 4), Compiled("getURL(\"u\", \"a/c\");", 4));
+    EXPECT_NE(Compiled("unloadMovie(/a:c);", 4), Compiled("unloadMovie(\"/a:c\");", 4));
+}
+
 TEST(Code, OfVersion4HasNumbersAsThePlayerPrintsThem) {
     const CodeCase cases[] = {
         {4, "x = 100000;", "x = \"100000\";"},
