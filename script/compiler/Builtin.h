@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "script/compiler/Node.h"
 #include "script/compiler/Opcode.h"
 
 namespace tamber {
@@ -46,5 +47,13 @@ struct Builtin {
     bool HasValue = false;
     Byte MinVersion = 4;
 };
+
+/// Whether it is a call of `eval`, which names a place.
+inline bool IsEvaluation(const Node& node) {
+    if (node.Kind != NodeKind::Call || node.Count != 1 || node.A->Kind != NodeKind::Name)
+        return false;
+    const Builtin* builtin = node.A->Name->BuiltinEntry;
+    return builtin != nullptr && builtin->Form == BuiltinForm::Evaluate;
+}
 
 }  // namespace tamber

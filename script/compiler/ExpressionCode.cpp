@@ -388,8 +388,12 @@ void CodeGenerator::Delete(const Node& target) {
         PushPlace(place);
         return code_->Emit(place.Kind == PlaceKind::Variable ? Opcode::Delete2 : Opcode::Delete);
     }
-    if (target.Kind == NodeKind::Text) {
+    if (target.Kind == NodeKind::Text || target.Kind == NodeKind::SlashPath) {
         code_->PushText(target.Name);
+        return code_->Emit(Opcode::Delete2);
+    }
+    if (IsEvaluation(target)) {
+        PushArguments(target);
         return code_->Emit(Opcode::Delete2);
     }
     Effect(target);

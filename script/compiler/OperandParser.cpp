@@ -170,9 +170,7 @@ void Parser::CheckTarget(const Node& target) {
         case NodeKind::Index:
             return;
         case NodeKind::Call:
-            if (target.A->Kind == NodeKind::Name && target.A->Name->BuiltinEntry != nullptr &&
-                target.A->Name->BuiltinEntry->Form == BuiltinForm::Evaluate)
-                return;
+            if (IsEvaluation(target)) return;
             break;
         default:
             break;

@@ -45,6 +45,8 @@ TEST(Diagnostics, NameTheLineAndTheToken) {
         {6, "break;", 1, "break"},
         {6, "return 1;", 1, "return"},
         {6, "1 = 2;", 1, "="},
+        {6, "eval() = 2;", 1, "="},
+        {6, "delete eval();", 1, "eval"},
         {6, "x = 12abc;", 1, "12abc"},
         {6, "x = 3 @ 4;", 1, "@"},
         {6, "switch (a) { default: default: }", 1, "default"},
