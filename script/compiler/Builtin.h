@@ -46,6 +46,10 @@ struct Builtin {
     /// Whether the code leaves a value on the stack.
     bool HasValue = false;
     Byte MinVersion = 4;
+
+    bool Takes(std::uint32_t arguments) const {
+        return arguments >= MinArguments && arguments <= MaxArguments;
+    }
 };
 
 /// Whether it is a call of `eval`, which names a place.

@@ -48,7 +48,13 @@ bool CodeGenerator::IsCallOfBuiltin(const Node& node) const {
     if (IsOwnMethod(builtin, node)) return false;
     if (builtin.Action == Opcode::ToNumber || builtin.Action == Opcode::ToString)
         return node.Count == 1 && version_ >= builtin.MinVersion;
-    return function_.Withs == 0 || !IsMethodOfClip(builtin);
+    return function_.Withs == 0 || !IsMethodWithin(builtin, node);
+}
+
+/// Whether a call within `with` is one of the object's method: of one that acts on a timeline, or
+/// one that takes other arguments than the function.
+bool CodeGenerator::IsMethodWithin(const Builtin& builtin, const Node& call) const {
+    return IsMethodOfClip(builtin) || (!builtin.Takes(call.Count) && IsClipMember(builtin.Name));
 }
 
 bool CodeGenerator::IsMethodOfClip(const Builtin& builtin) const {
@@ -86,7 +92,7 @@ bool CodeGenerator::CallInTarget(const std::string& path, Symbol* name, const No
 }
 
 bool CodeGenerator::BuiltinCall(const Builtin& builtin, const Node& node) {
-    if (node.Count < builtin.MinArguments || node.Count > builtin.MaxArguments) {
+    if (!builtin.Takes(node.Count)) {
         String text = u"引数の数が正しくありません。（" + ToText(Long{builtin.MinArguments});
         if (builtin.MaxArguments != builtin.MinArguments)
             text += u"～" + ToText(Long{builtin.MaxArguments});

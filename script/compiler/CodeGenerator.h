@@ -208,6 +208,7 @@ private:
     void StartDrag(const Node& node);
     bool PropertyNumber(const Node& node, Byte& number) const;
     void PushProperty(const Node& node);
+    bool IsMethodWithin(const Builtin& builtin, const Node& call) const;
     bool IsMethodOfClip(const Builtin& builtin) const;
 
     // Functions and classes.

@@ -47,6 +47,8 @@ TEST(Diagnostics, NameTheLineAndTheToken) {
         {6, "1 = 2;", 1, "="},
         {6, "eval() = 2;", 1, "="},
         {6, "delete eval();", 1, "eval"},
+        {6, "with (a) { removeMovieClip(); }\nremoveMovieClip();", 2, "removeMovieClip"},
+        {6, "with (a) { trace(); }", 1, "trace"},
         {6, "x = 12abc;", 1, "12abc"},
         {6, "x = 3 @ 4;", 1, "@"},
         {6, "switch (a) { default: default: }", 1, "default"},
