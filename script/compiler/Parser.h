@@ -130,7 +130,9 @@ private:
     Symbol* FunctionName();
     Node* FunctionRest(Symbol* name, std::uint32_t line);
     void Parameters(FunctionNode& function);
-    void Declare(Symbol* name, bool isParameter = false);
+    void Parameter(FunctionNode& function);
+    void Declare(Symbol* name);
+    NameNode* AddDeclared(Symbol* name);
     void ChooseRegisters(FunctionNode& function, std::size_t firstUse);
     Node* ClassStatement();
     void CloseFunction(FunctionNode& function, std::size_t firstUse);

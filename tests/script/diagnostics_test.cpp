@@ -148,6 +148,7 @@ TEST(Diagnostics, WarnOfWhatIsProbablyNotMeant) {
         {6, "function f() {\nreturn 1;\nplay(); }", 3, "play"},
         {5, "_global.x = 1;", 1, "_global"},
         {4, "x = Math;", 1, "Math"},
+        {5, "function f(a,\na) { }", 2, "a"},
         {7, "try { } catch (e) { }\ncatch (f:F) { }", 2, "catch"},
     };
     for (const Fault& fault : faults) {

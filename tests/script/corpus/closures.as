@@ -47,3 +47,10 @@ list = ""; rec(2); trace(list); //= -101
 ASSetPropFlags(o, "hidden", 1);
 trace("x" gt "a");  //= true
 trace("a" le "b");  //= true
+// Of parameters with one name the last counts.
+function twice(b, a, a, c) { return b + "," + a + "," + c; }
+trace(twice(1, 2, 3, 4)); //= 1,3,4
+function missing(a, a) { return typeof(a); }
+trace(missing(1));        //= undefined
+function captures(a, a) { a += 1; return function () { return a; }; }
+trace(captures(1, 5)());  //= 6
