@@ -196,18 +196,26 @@ Node* Parser::ClassStatement() {
     definition->Name = DottedName();
     if (IsSpecial(SpecialName::Extends)) {
         Advance();
-        definition->Base = ClassReference();
+        if (definition->IsInterface)
+            Interfaces(*definition);
+        else
+            definition->Base = ClassReference();
     }
     if (IsSpecial(SpecialName::Implements)) {
         Advance();
-        do definition->Interfaces.Add(ClassReference());
-        while (Accept(TokenKind::Comma));
+        Interfaces(*definition);
     }
     Expect(TokenKind::OpenBrace, u"{");
     inClass_ = true;
     ClassMembers(*definition);
     inClass_ = false;
     return node;
+}
+
+/// Those that a class implements or an interface extends; the player looks through both alike.
+void Parser::Interfaces(ClassNode& node) {
+    do node.Interfaces.Add(ClassReference());
+    while (Accept(TokenKind::Comma));
 }
 
 /// Up to the brace that closes the class, whatever is wrong with a member.

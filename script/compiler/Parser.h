@@ -139,6 +139,7 @@ private:
     Node* DottedName();
     Node* MembersOf(Node* node);
     Node* ClassReference();
+    void Interfaces(ClassNode& node);
     void ClassMembers(ClassNode& node);
     void ClassMember(ClassNode& node);
     void SkipMetadata();

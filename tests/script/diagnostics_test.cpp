@@ -64,6 +64,7 @@ TEST(Diagnostics, NameTheLineAndTheToken) {
         {6, "a();\nelse b();", 2, "else"},
         {6, "a();\n\ncase 1: b();", 3, "case"},
         {7, "a();\ncatch (e) { }", 2, "catch"},
+        {6, "class A extends B, C { }", 1, ","},
         {6, "var\nif = 1;", 2, "if"},
         {6, "f(1;", 1, ";"},
         {6, "x = 2 +;", 1, ";"},
