@@ -227,12 +227,12 @@ void Parser::ClassMembers(ClassNode& node) {
         try {
             ClassMember(node);
         } catch (const SyntaxError&) {
-            before.Restore();
+            const int literals = before.Restore();
             if (Is(TokenKind::End)) throw;
-            SkipToStatement();
+            SkipToStatement(literals);
             if (token_.Text.data() != first) continue;
             Advance();
-            SkipToStatement();
+            SkipToStatement(0);
         }
     }
 }

@@ -209,6 +209,7 @@ Node* Parser::ObjectLiteral() {
     Node* node = Make(NodeKind::Object, token_.Line);
     NeedVersion(5, token_.Text, token_.Line);
     Advance();
+    ++literals_;
     NodeList list;
     while (!Is(TokenKind::CloseBrace)) {
         Node* key = PropertyKey();
@@ -220,6 +221,7 @@ Node* Parser::ObjectLiteral() {
         list.Add(entry);
         if (!Is(TokenKind::CloseBrace)) Expect(TokenKind::Comma, u", または }");
     }
+    --literals_;
     Advance();
     node->A = list.First;
     node->Count = list.Count;

@@ -41,8 +41,7 @@ Node* Parser::GuardedStatement() {
     try {
         return Statement();
     } catch (const SyntaxError&) {
-        before.Restore();
-        Recover();
+        Recover(before.Restore());
         if (token_.Text.data() == first) Advance();
     }
     return nullptr;
@@ -103,23 +102,22 @@ Symbol* Parser::TakeMemberName() {
 }
 
 /// Steps to where a statement may begin. The `else` of an `if` that could not be read is none.
-void Parser::Recover() {
-    SkipToStatement();
+void Parser::Recover(int literals) {
+    SkipToStatement(literals);
     Accept(TokenKind::Else);
 }
 
 /// Behind a semicolon, at a word that begins a line, in a class also at one that begins a member,
-/// or at the brace that closes the block.
-void Parser::SkipToStatement() {
+/// or at the brace that closes the block. The braces of so many object literals close those only.
+void Parser::SkipToStatement(int literals) {
     int braces = 0;
     for (; !Is(TokenKind::End); Advance()) {
+        const bool closes = Is(TokenKind::CloseBrace);
         if (Is(TokenKind::OpenBrace)) ++braces;
-        if (Is(TokenKind::CloseBrace) && --braces < 0) return;
+        if (closes && braces == 0 && literals-- <= 0) return;
+        if (closes && braces > 0 && --braces == 0 && literals <= 0) return Advance();
         if (braces > 0) continue;
-        if (Is(TokenKind::CloseBrace) || Is(TokenKind::Semicolon)) {
-            Advance();
-            return;
-        }
+        if (Is(TokenKind::Semicolon)) return Advance();
         if (token_.StartsLine && (token_.Kind >= TokenKind::Break || (inClass_ && IsModifier())))
             return;
     }

@@ -44,8 +44,8 @@ private:
     void NeedVersion(Long version, std::string_view token, std::uint32_t line);
     Symbol* TakeName(StringView what);
     Symbol* TakeMemberName();
-    void Recover();
-    void SkipToStatement();
+    void Recover(int literals);
+    void SkipToStatement(int literals);
     Node* Make(NodeKind kind, std::uint32_t line);
 
     // Statements.
@@ -175,6 +175,8 @@ private:
     int colonsAwaited_ = 0;
     /// Blocks around the statement, within the function.
     int blocks_ = 0;
+    /// Object literals that are open around the token.
+    int literals_ = 0;
     int loops_ = 0;
     int switches_ = 0;
     bool inClass_ = false;

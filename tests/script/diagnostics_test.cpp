@@ -115,6 +115,15 @@ TEST(Diagnostics, AreNotRepeatedForOneFault) {
         "class A { private }",
         "class A {\nvar b;\n",
         "class A {\nfunction",
+        "x = {a: 1, b 2};\ny();",
+        "f({a: 1, b 2}, 3);\ny();",
+        "x = {a: {b 1}, c: 2};\ny();",
+        "x = {a 1, b: function () { c(); d(); }, e: 1};\ny();",
+        "x = {a: function (5) { c(); d(); }, e: 1};\ny();",
+        "if (f({a 1})) { b(); c(); }\ny();",
+        "function f() { return {a: }; }\ny();",
+        "function f() { x = {a: 1\ny(); }\nz();",
+        "class A { var b = {c 1}; function d() { } }",
     };
     for (const std::string_view source : sources)
         EXPECT_EQ(Compiled(source, 7).Errors.size(), 1U) << source;
