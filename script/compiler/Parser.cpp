@@ -7,6 +7,12 @@
 
 namespace tamber {
 
+namespace {
+
+constexpr Long FirstMetadataVersion = 6;
+
+}  // namespace
+
 Parser::Parser(std::string_view source, Long version, SymbolTable& symbols, Arena& arena,
                Diagnostics& diagnostics)
     : lexer_(source, version, symbols, diagnostics),
@@ -207,12 +213,19 @@ Node* Parser::ExpressionStatement() {
     Node* statement = Make(NodeKind::Expression, token_.Line);
     atStatement_ = true;
     statement->A = Expression();
-    if (IsMetadata(*statement->A) && IsClassAhead()) return Make(NodeKind::Empty, token_.Line);
+    if (IsMetadata(*statement->A) && IsToldOfAhead()) return Make(NodeKind::Empty, token_.Line);
     EndStatement();
     return statement;
 }
 
-/// Whether an expression may be what tools know about the class behind it: lists in brackets.
+/// Whether tools may know something about what is declared next.
+bool Parser::IsToldOfAhead() {
+    const bool isAtTop = function_ == nullptr && blocks_ == 0;
+    const bool isDeclaration = Is(TokenKind::Var) || Is(TokenKind::Function);
+    return IsClassAhead() || (version_ >= FirstMetadataVersion && isAtTop && isDeclaration);
+}
+
+/// Whether an expression may be what tools know about the declaration behind it: lists in brackets.
 bool Parser::IsMetadata(const Node& expression) {
     const Node* node = &expression;
     while (node->Kind == NodeKind::Index) node = node->A;

@@ -54,6 +54,7 @@ private:
     Node* SimpleStatement();
     Node* StrayPart(const String& text);
     Node* ExpressionStatement();
+    bool IsToldOfAhead();
     static bool IsMetadata(const Node& expression);
     Node* Block();
     Node* Grouped(const NodeList& list, std::uint32_t line);

@@ -201,6 +201,22 @@ TEST(Code, IsTheSameWithBlanksBeyondAscii) {
     }
 }
 
+TEST(Code, IsNotMadeOfWhatToolsKnowAboutADeclaration) {
+    const CodeCase cases[] = {
+        {6, "[Inspectable] var x;", "var x;"},
+        {6, "[Inspectable(name=\"X\", defaultValue=5)]\nvar x = 1;", "var x = 1;"},
+        {7, "a();\n[Event(\"e\")]\n[Told] function f() { }", "a(); function f() { }"},
+    };
+    for (const CodeCase& told : cases) {
+        EXPECT_NE(Compiled(told.Source, told.Version), "not compiled") << told.Source;
+        EXPECT_EQ(Compiled(told.Source, told.Version), Compiled(told.Code, told.Version))
+            << told.Source;
+    }
+    EXPECT_EQ(Compiled("[Inspectable] var x;", 5), "not compiled");
+    EXPECT_EQ(Compiled("if (a) { [Inspectable] var x; }", 6), "not compiled");
+    EXPECT_NE(Compiled("[a()]; var x;", 6), Compiled("var x;", 6));
+}
+
 TEST(Code, OfConstantsIsTheirResult) {
     const CodeCase cases[] = {
         {5, "x = 1 + 2 * 3;", "x = 7;"},   {5, "x = 7 >>> 1 << 2;", "x = 12;"},
