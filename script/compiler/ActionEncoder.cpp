@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 
+#include "script/compiler/NumberText.h"
 #include "script/compiler/Vocabulary.h"
 
 namespace tamber {
@@ -211,12 +212,11 @@ void ActionEncoder::WriteNumeric(const Symbol& digits) {
     WriteNumber(value);
 }
 
-/// Version 4 takes numbers as their text; from 5 on an integer, or the shortest form that is exact.
+/// Version 4 takes numbers as their text, which is to be the player's own; from 5 on an integer, or
+/// the shortest form that is exact.
 void ActionEncoder::WriteNumber(double value) {
     if (version_ < FirstPoolVersion) {
-        char text[32];
-        const auto end = std::to_chars(text, text + sizeof text, value).ptr;
-        const std::string_view digits(text, static_cast<std::size_t>(end - text));
+        const std::string digits = NumberText(value);
         OpenPush(digits.size() + 2);
         U8(static_cast<Byte>(PushType::Text));
         return Chars(digits);

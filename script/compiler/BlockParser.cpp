@@ -132,9 +132,9 @@ Node* Parser::GuardedHandler() {
     try {
         return Handler();
     } catch (const SyntaxError&) {
-        before.Restore();
+        const int literals = before.Restore();
         if (Is(TokenKind::End)) throw;
-        SkipToStatement();
+        SkipToStatement(literals);
     }
     return nullptr;
 }

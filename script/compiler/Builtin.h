@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "script/compiler/Node.h"
 #include "script/compiler/Opcode.h"
 
 namespace tamber {
@@ -10,6 +11,8 @@ namespace tamber {
 enum class BuiltinForm : Byte {
     /// The arguments in their order, then the action.
     Action,
+    /// The clip that the argument names, then the action.
+    OfClip,
     GotoAndPlay,
     GotoAndStop,
     GetUrl,
@@ -43,6 +46,18 @@ struct Builtin {
     /// Whether the code leaves a value on the stack.
     bool HasValue = false;
     Byte MinVersion = 4;
+
+    bool Takes(std::uint32_t arguments) const {
+        return arguments >= MinArguments && arguments <= MaxArguments;
+    }
 };
+
+/// Whether it is a call of `eval`, which names a place.
+inline bool IsEvaluation(const Node& node) {
+    if (node.Kind != NodeKind::Call || node.Count != 1 || node.A->Kind != NodeKind::Name)
+        return false;
+    const Builtin* builtin = node.A->Name->BuiltinEntry;
+    return builtin != nullptr && builtin->Form == BuiltinForm::Evaluate;
+}
 
 }  // namespace tamber

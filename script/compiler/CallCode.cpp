@@ -1,5 +1,6 @@
 #include "platform/text.h"
 #include "script/compiler/CodeGenerator.h"
+#include "script/compiler/NumberText.h"
 #include "script/compiler/Vocabulary.h"
 
 namespace tamber {
@@ -16,10 +17,6 @@ constexpr std::uint32_t GotoPlays = 1;
 constexpr std::size_t MaxUrlRecord = 60000;
 constexpr std::string_view VersionPath = "/:$version";
 constexpr std::string_view LevelName = "_level";
-
-std::string NumberText(double value) {
-    return std::to_string(static_cast<std::int64_t>(value));
-}
 
 bool IsWhole(const Node& node, double low, double high) {
     return node.Kind == NodeKind::Number && node.Value >= low && node.Value <= high &&
@@ -51,7 +48,13 @@ bool CodeGenerator::IsCallOfBuiltin(const Node& node) const {
     if (IsOwnMethod(builtin, node)) return false;
     if (builtin.Action == Opcode::ToNumber || builtin.Action == Opcode::ToString)
         return node.Count == 1 && version_ >= builtin.MinVersion;
-    return function_.Withs == 0 || !IsMethodOfClip(builtin);
+    return function_.Withs == 0 || !IsMethodWithin(builtin, node);
+}
+
+/// Whether a call within `with` is one of the object's method: of one that acts on a timeline, or
+/// one that takes other arguments than the function.
+bool CodeGenerator::IsMethodWithin(const Builtin& builtin, const Node& call) const {
+    return IsMethodOfClip(builtin) || (!builtin.Takes(call.Count) && IsClipMember(builtin.Name));
 }
 
 bool CodeGenerator::IsMethodOfClip(const Builtin& builtin) const {
@@ -89,7 +92,7 @@ bool CodeGenerator::CallInTarget(const std::string& path, Symbol* name, const No
 }
 
 bool CodeGenerator::BuiltinCall(const Builtin& builtin, const Node& node) {
-    if (node.Count < builtin.MinArguments || node.Count > builtin.MaxArguments) {
+    if (!builtin.Takes(node.Count)) {
         String text = u"引数の数が正しくありません。（" + ToText(Long{builtin.MinArguments});
         if (builtin.MaxArguments != builtin.MinArguments)
             text += u"～" + ToText(Long{builtin.MaxArguments});
@@ -147,9 +150,13 @@ bool CodeGenerator::BuiltinCall(const Builtin& builtin, const Node& node) {
             break;
         case BuiltinForm::GetProperty:
         case BuiltinForm::SetProperty:
-            Expression(*first);
+            Target(*first);
             PushProperty(*first->Next);
             if (first->Next->Next != nullptr) Expression(*first->Next->Next);
+            code_->Emit(builtin.Action);
+            break;
+        case BuiltinForm::OfClip:
+            Target(*first);
             code_->Emit(builtin.Action);
             break;
         case BuiltinForm::GetVersion:
@@ -161,6 +168,31 @@ bool CodeGenerator::BuiltinCall(const Builtin& builtin, const Node& node) {
             code_->Emit(builtin.Action);
     }
     return builtin.HasValue;
+}
+
+/// The clip that an action is for. Version 4 has no clips as values, so names that can only be
+/// those of clips are their paths.
+void CodeGenerator::Target(const Node& node) {
+    std::string path;
+    if (version_ < 5 && IsClipName(node) && SlashPathOf(node, path))
+        return code_->PushText(PathText(node, path));
+    Expression(node);
+}
+
+bool CodeGenerator::IsClipName(const Node& node) {
+    switch (node.Kind) {
+        case NodeKind::This:
+            return true;
+        case NodeKind::Name:
+            return node.Name->Special == SpecialName::Root ||
+                   node.Name->Special == SpecialName::Parent;
+        case NodeKind::Member:
+            return node.Name->Property == Symbol::NoProperty;
+        case NodeKind::SlashPath:
+            return node.Name->Text.find(':') == std::string_view::npos;
+        default:
+            return false;
+    }
 }
 
 void CodeGenerator::PushArguments(const Node& node) {
@@ -271,7 +303,7 @@ void CodeGenerator::Url(const Node& node, std::uint32_t flags) {
     if (target == nullptr)
         code_->PushText(window);
     else
-        Expression(*target);
+        (flags & LoadTarget) != 0 ? Target(*target) : Expression(*target);
     code_->Emit(ItemKind::GetUrl2, flags);
 }
 
@@ -293,7 +325,7 @@ void CodeGenerator::UrlText(Symbol* url, const Node& target, bool isLevel, std::
     if (isLevel)
         PushLevel(target);
     else
-        Expression(target);
+        Target(target);
     code_->Emit(ItemKind::GetUrl2, flags);
 }
 
@@ -346,7 +378,7 @@ void CodeGenerator::Duplicate(const Node& node) {
     const Node& source = *node.B;
     const Node& name = *source.Next;
     const Node& depth = *name.Next;
-    Expression(source);
+    Target(source);
     Expression(name);
     if (depth.Kind == NodeKind::Number) {
         code_->PushNumber(depth.Value + FirstDepth);
@@ -373,7 +405,7 @@ void CodeGenerator::StartDrag(const Node& node) {
         PushInteger(0);
     else
         Expression(*lock);
-    Expression(target);
+    Target(target);
     code_->Emit(Opcode::StartDrag);
 }
 

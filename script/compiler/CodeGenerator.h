@@ -134,8 +134,11 @@ private:
     void Binary(const Node& node);
     void BinaryRest(const Node& node);
     bool IsReversed(const Node& node) const;
-    bool IsMadeReversed(const Node& node) const;
+    bool IsMadeApart(const Node& node) const;
+    void Apart(const Node& node);
     void Reversed(const Node& node);
+    void TruthValue(const Node& condition);
+    static bool IsLogical(const Node& node);
     void SwapOperands(const Node& node);
     static bool IsNegated(Operator op);
     Opcode ActionOf(Operator op) const;
@@ -188,6 +191,8 @@ private:
     void MethodCall(const Node& node);
     bool CallInSlashPath(const Node& node);
     bool CallInTarget(const std::string& path, Symbol* name, const Node& node);
+    void Target(const Node& node);
+    static bool IsClipName(const Node& node);
     void PushArguments(const Node& node);
     void PushArgumentsBackward(const Node* first, std::uint32_t count);
     void New(const Node& node);
@@ -203,6 +208,7 @@ private:
     void StartDrag(const Node& node);
     bool PropertyNumber(const Node& node, Byte& number) const;
     void PushProperty(const Node& node);
+    bool IsMethodWithin(const Builtin& builtin, const Node& call) const;
     bool IsMethodOfClip(const Builtin& builtin) const;
 
     // Functions and classes.

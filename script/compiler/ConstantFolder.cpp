@@ -3,14 +3,14 @@
 #include <cmath>
 #include <string>
 
+#include "script/compiler/NumberText.h"
+
 namespace tamber {
 
 namespace {
 
 /// Longer results stay sums, so that a chain of a hundred thousand texts costs no square.
 constexpr std::size_t MaxFoldedText = 255;
-/// Integers below it are written without an exponent and exactly.
-constexpr double LargestPlainInteger = 1e15;
 constexpr double TwoTo32 = 4294967296.0;
 constexpr Long FirstTypedVersion = 5;
 constexpr Long FirstEcmaBooleanVersion = 7;
@@ -116,8 +116,13 @@ Node* ConstantFolder::FoldNumbers(Node* node) const {
                               node->Op == Operator::Multiply || node->Op == Operator::Divide;
     if (version_ < FirstTypedVersion && !isOfVersion4) return node;
     if (Calculate(node->Op, node->A->Value, node->B->Value, result))
-        return std::isfinite(result) ? BecomeNumber(node, result) : node;
+        return IsKnown(result) ? BecomeNumber(node, result) : node;
     return version_ < FirstTypedVersion ? node : FoldComparison(node);
+}
+
+/// Whether the code can hold a result. Version 4 holds texts, and would go on with other digits.
+bool ConstantFolder::IsKnown(double result) const {
+    return std::isfinite(result) && (version_ >= FirstTypedVersion || IsExactAsText(result));
 }
 
 Node* ConstantFolder::FoldComparison(Node* node) const {

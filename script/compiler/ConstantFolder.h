@@ -18,6 +18,7 @@ public:
 private:
     Node* FoldUnary(Node* node) const;
     Node* FoldNumbers(Node* node) const;
+    bool IsKnown(double result) const;
     Node* FoldComparison(Node* node) const;
     Node* FoldTexts(Node* node);
     bool TextOf(const Node& node, std::string& text) const;

@@ -86,30 +86,39 @@ void Parser::CloseFunction(FunctionNode& function, std::size_t firstUse) {
 void Parser::Parameters(FunctionNode& function) {
     Expect(TokenKind::OpenParenthesis, u"(");
     if (!Is(TokenKind::CloseParenthesis)) {
-        do {
-            Symbol* name = TakeName(u"引数の名前");
-            const NameNode* last = function.LastDeclared;
-            Declare(name, true);
-            if (function.LastDeclared == last)
-                Complain(token_.Line, name->Text, u"同じ名前の引数があります。");
-            ++function.ParameterCount;
-            SkipType();
-        } while (Accept(TokenKind::Comma));
+        do Parameter(function);
+        while (Accept(TokenKind::Comma));
     }
     Expect(TokenKind::CloseParenthesis, u")");
 }
 
-void Parser::Declare(Symbol* name, bool isParameter) {
+/// Of two with one name the player takes the later, by the name.
+void Parser::Parameter(FunctionNode& function) {
+    const std::uint32_t line = token_.Line;
+    Symbol* name = TakeName(u"引数の名前");
+    if (name->DeclaredIn == function.Number) {
+        diagnostics_.Warn(line, name->Text, u"同じ名前の引数があります。後のものだけが働きます。");
+        KeepNamed(name);
+    }
+    AddDeclared(name)->IsParameter = true;
+    ++function.ParameterCount;
+    SkipType();
+}
+
+void Parser::Declare(Symbol* name) {
     if (function_ == nullptr) name->IsOwn = true;
-    if (function_ == nullptr || name->DeclaredIn == function_->Number) return;
+    if (function_ != nullptr && name->DeclaredIn != function_->Number) AddDeclared(name);
+}
+
+NameNode* Parser::AddDeclared(Symbol* name) {
     NameNode* node = arena_.Make<NameNode>();
     node->Name = name;
-    node->IsParameter = isParameter;
     node->OuterDeclaration = name->DeclaredIn;
     node->Previous = function_->LastDeclared;
     (function_->Declared == nullptr ? function_->Declared : function_->LastDeclared->Next) = node;
     function_->LastDeclared = node;
     name->DeclaredIn = function_->Number;
+    return node;
 }
 
 /// Variables that only the function itself reaches, and none by a name, live in registers behind
@@ -187,18 +196,26 @@ Node* Parser::ClassStatement() {
     definition->Name = DottedName();
     if (IsSpecial(SpecialName::Extends)) {
         Advance();
-        definition->Base = ClassReference();
+        if (definition->IsInterface)
+            Interfaces(*definition);
+        else
+            definition->Base = ClassReference();
     }
     if (IsSpecial(SpecialName::Implements)) {
         Advance();
-        do definition->Interfaces.Add(ClassReference());
-        while (Accept(TokenKind::Comma));
+        Interfaces(*definition);
     }
     Expect(TokenKind::OpenBrace, u"{");
     inClass_ = true;
     ClassMembers(*definition);
     inClass_ = false;
     return node;
+}
+
+/// Those that a class implements or an interface extends; the player looks through both alike.
+void Parser::Interfaces(ClassNode& node) {
+    do node.Interfaces.Add(ClassReference());
+    while (Accept(TokenKind::Comma));
 }
 
 /// Up to the brace that closes the class, whatever is wrong with a member.
@@ -210,12 +227,12 @@ void Parser::ClassMembers(ClassNode& node) {
         try {
             ClassMember(node);
         } catch (const SyntaxError&) {
-            before.Restore();
+            const int literals = before.Restore();
             if (Is(TokenKind::End)) throw;
-            SkipToStatement();
+            SkipToStatement(literals);
             if (token_.Text.data() != first) continue;
             Advance();
-            SkipToStatement();
+            SkipToStatement(0);
         }
     }
 }

@@ -183,6 +183,11 @@ bool CodeGenerator::IsNegated(Operator op) {
     }
 }
 
+/// Whether the right operand is worked out only where the left one does not decide.
+bool CodeGenerator::IsLogical(const Node& node) {
+    return node.Kind == NodeKind::Binary && (node.Op == Operator::And || node.Op == Operator::Or);
+}
+
 /// The action of an operator, apart from a Not behind it.
 Opcode CodeGenerator::ActionOf(Operator op) const {
     switch (op) {
@@ -220,10 +225,8 @@ Opcode CodeGenerator::ActionOf(Operator op) const {
         case Operator::StrictEqual:
         case Operator::StrictNotEqual:
             return Opcode::StrictEquals;
-        case Operator::And:
         case Operator::WordAnd:
             return Opcode::And;
-        case Operator::Or:
         case Operator::WordOr:
             return Opcode::Or;
         case Operator::StringAdd:
@@ -254,12 +257,12 @@ bool CodeGenerator::IsReversed(const Node& node) const {
 void CodeGenerator::Binary(const Node& node) {
     const std::size_t base = spine_.size();
     const Node* left = &node;
-    while (left->Kind == NodeKind::Binary && !(IsReversed(*left) && IsMadeReversed(*left))) {
+    while (left->Kind == NodeKind::Binary && !IsMadeApart(*left)) {
         spine_.push_back(left);
         left = left->A;
     }
     if (left->Kind == NodeKind::Binary)
-        Reversed(*left);
+        Apart(*left);
     else if (TakesNumbers(spine_.back()->Op))
         NumericOperand(*left);
     else
@@ -271,28 +274,49 @@ void CodeGenerator::Binary(const Node& node) {
     }
 }
 
-/// Simple operands change places; texts in version 4 do always, for it has no action to swap them.
-bool CodeGenerator::IsMadeReversed(const Node& node) const {
+/// Whether the left operand does not come first, or is no value. Simple operands change places;
+/// texts in version 4 do always, for it has no action to swap them, nor one to copy what a `&&` has
+/// found on its left.
+bool CodeGenerator::IsMadeApart(const Node& node) const {
+    if (IsLogical(node)) return version_ < 5;
+    if (!IsReversed(node)) return false;
     if (IsSimple(*node.A) && IsSimple(*node.B)) return true;
     const bool isText = node.Op == Operator::StringGreater || node.Op == Operator::StringLessEqual;
     return version_ < 5 && isText;
 }
 
-void CodeGenerator::Reversed(const Node& node) {
-    if (++depth_ > MaxDepth) {
+void CodeGenerator::Apart(const Node& node) {
+    if (++depth_ > MaxDepth)
         Complain(node, u"式が複雑すぎます。変数に分けて下さい。");
-    } else {
-        Expression(*node.B);
-        Expression(*node.A);
-        code_->Emit(ActionOf(node.Op));
-        if (IsNegated(node.Op)) code_->Emit(Opcode::Not);
-    }
+    else if (IsLogical(node))
+        TruthValue(node);
+    else
+        Reversed(node);
     --depth_;
+}
+
+void CodeGenerator::Reversed(const Node& node) {
+    Expression(*node.B);
+    Expression(*node.A);
+    code_->Emit(ActionOf(node.Op));
+    if (IsNegated(node.Op)) code_->Emit(Opcode::Not);
+}
+
+/// 1 or 0 of a condition.
+void CodeGenerator::TruthValue(const Node& condition) {
+    const Label holds = code_->NewLabel(condition.Line);
+    const Label end = code_->NewLabel(condition.Line);
+    Condition(condition, holds, true);
+    PushInteger(0);
+    code_->Jump(end);
+    code_->Place(holds);
+    PushInteger(1);
+    code_->Place(end);
 }
 
 /// The right operand and the action; the left operand lies on the stack.
 void CodeGenerator::BinaryRest(const Node& node) {
-    if (version_ >= 5 && (node.Op == Operator::And || node.Op == Operator::Or)) {
+    if (IsLogical(node)) {
         const Label end = code_->NewLabel(node.Line);
         code_->Emit(Opcode::PushDuplicate);
         if (node.Op == Operator::And) code_->Emit(Opcode::Not);
@@ -364,8 +388,12 @@ void CodeGenerator::Delete(const Node& target) {
         PushPlace(place);
         return code_->Emit(place.Kind == PlaceKind::Variable ? Opcode::Delete2 : Opcode::Delete);
     }
-    if (target.Kind == NodeKind::Text) {
+    if (target.Kind == NodeKind::Text || target.Kind == NodeKind::SlashPath) {
         code_->PushText(target.Name);
+        return code_->Emit(Opcode::Delete2);
+    }
+    if (IsEvaluation(target)) {
+        PushArguments(target);
         return code_->Emit(Opcode::Delete2);
     }
     Effect(target);
@@ -396,8 +424,7 @@ void CodeGenerator::Condition(const Node& first, Label label, bool jumpIf) {
     const int known = folder_.ConditionOf(*node);
     if (known >= 0) {
         if ((known == 1) == jumpIf) code_->Jump(label);
-    } else if (node->Kind == NodeKind::Binary &&
-               (node->Op == Operator::And || node->Op == Operator::Or)) {
+    } else if (IsLogical(*node)) {
         ConditionChain(*node, label, jumpIf);
     } else {
         ConditionValue(*node, label, jumpIf);

@@ -1,5 +1,6 @@
 #include "script/compiler/Lexer.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <limits>
@@ -37,6 +38,11 @@ Byte ClassOf(char letter) {
 bool IsNameCharacter(char letter) {
     return ClassOf(letter) >= LetterClass;
 }
+
+/// U+3000, U+00A0 and U+FEFF.
+constexpr std::string_view Utf8Blanks[] = {"\xE3\x80\x80", "\xC2\xA0", "\xEF\xBB\xBF"};
+/// U+3000 and U+00A0 in code page 932.
+constexpr std::string_view AnsiBlanks[] = {"\x81\x40", "\xA0"};
 
 /// First character that UTF-16 has two halves for.
 constexpr std::uint32_t FirstWide = 0x10000;
@@ -139,9 +145,7 @@ Lexer::Lexer(std::string_view source, Long version, SymbolTable& symbols, Diagno
       version_(version),
       isUtf8_(version >= FirstUtf8Version),
       symbols_(symbols),
-      diagnostics_(diagnostics) {
-    if (isUtf8_ && source.starts_with("\xEF\xBB\xBF")) at_ += 3;
-}
+      diagnostics_(diagnostics) {}
 
 void Lexer::Restore(const Mark& mark) {
     at_ = mark.At;
@@ -179,12 +183,20 @@ void Lexer::Step() {
     at_ += WidthAt(at_);
 }
 
-/// U+3000.
-bool Lexer::SkipWideBlank() {
-    const std::string_view blank = isUtf8_ ? "\xE3\x80\x80" : "\x81\x40";
-    if (!Between(at_, end_).starts_with(blank)) return false;
-    at_ += blank.size();
-    return true;
+/// Bytes of a blank beyond ASCII; 0 for what is none.
+std::size_t Lexer::WideBlankAt(const char* at) const {
+    if (static_cast<Byte>(*at) < 0x80) return 0;
+    const std::string_view rest = Between(at, end_);
+    const auto begins = [&](std::string_view blank) { return rest.starts_with(blank); };
+    const auto size = [&](const auto& blanks) {
+        const auto found = std::find_if(std::begin(blanks), std::end(blanks), begins);
+        return found == std::end(blanks) ? 0 : found->size();
+    };
+    return isUtf8_ ? size(Utf8Blanks) : size(AnsiBlanks);
+}
+
+bool Lexer::IsNameAt(const char* at) const {
+    return at != end_ && IsNameCharacter(*at) && WideBlankAt(at) == 0;
 }
 
 void Lexer::SkipBlanks(Token& token) {
@@ -200,7 +212,9 @@ void Lexer::SkipBlanks(Token& token) {
             SkipLineComment();
         } else if (letter == '/' && Ahead(1) == '*') {
             SkipBlockComment();
-        } else if (static_cast<Byte>(letter) < 0x80 || !SkipWideBlank()) {
+        } else if (const std::size_t width = WideBlankAt(at_)) {
+            at_ += width;
+        } else {
             break;
         }
     }
@@ -247,15 +261,7 @@ bool Lexer::ReadPunctuation(Token& token) {
 
 Token Lexer::ReadName(Token token) {
     const char* begin = at_;
-    if (isUtf8_) {
-        const auto isWide = [&] {
-            return *at_ == '\xE3' && Between(at_, end_).starts_with("\xE3\x80\x80");
-        };
-        while (at_ != end_ && IsNameCharacter(*at_) && !isWide()) ++at_;
-    } else {
-        const auto isWide = [&] { return *at_ == '\x81' && Ahead(1) == '\x40'; };
-        while (at_ != end_ && IsNameCharacter(*at_) && !isWide()) Step();
-    }
+    while (IsNameAt(at_)) Step();
     token.Text = Between(begin, at_);
     CheckLength(token);
     token.Name = symbols_.Intern(token.Text);
@@ -273,7 +279,7 @@ bool Lexer::ReadSlashPath(Token& token, PathForm form) {
         if (end_ - at >= 2 && at[0] == '.' && at[1] == '.') {
             at += 2;
         } else {
-            while (at != end_ && IsNameCharacter(*at)) at += WidthAt(at);
+            while (IsNameAt(at)) at += WidthAt(at);
         }
         return at != first;
     };
@@ -338,8 +344,8 @@ Token Lexer::ReadNumber(Token token) {
             ReadDecimal(token);
     }
     token.Text = Between(begin, at_);
-    if (at_ != end_ && IsNameCharacter(*at_)) {
-        while (at_ != end_ && IsNameCharacter(*at_)) Step();
+    if (IsNameAt(at_)) {
+        while (IsNameAt(at_)) Step();
         diagnostics_.Error(line_, Between(begin, at_), u"数値の書き方が正しくありません。");
     }
     return token;

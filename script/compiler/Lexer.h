@@ -34,7 +34,8 @@ private:
     void SkipBlanks(Token& token);
     bool NoPath(const char* begin, const char* end);
     void CheckLength(const Token& token);
-    bool SkipWideBlank();
+    std::size_t WideBlankAt(const char* at) const;
+    bool IsNameAt(const char* at) const;
     void SkipLineComment();
     void SkipBlockComment();
     /// Steps over one character, which may be of two bytes in code page 932.

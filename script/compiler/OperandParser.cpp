@@ -170,9 +170,7 @@ void Parser::CheckTarget(const Node& target) {
         case NodeKind::Index:
             return;
         case NodeKind::Call:
-            if (target.A->Kind == NodeKind::Name && target.A->Name->BuiltinEntry != nullptr &&
-                target.A->Name->BuiltinEntry->Form == BuiltinForm::Evaluate)
-                return;
+            if (IsEvaluation(target)) return;
             break;
         default:
             break;
@@ -211,6 +209,7 @@ Node* Parser::ObjectLiteral() {
     Node* node = Make(NodeKind::Object, token_.Line);
     NeedVersion(5, token_.Text, token_.Line);
     Advance();
+    ++literals_;
     NodeList list;
     while (!Is(TokenKind::CloseBrace)) {
         Node* key = PropertyKey();
@@ -222,6 +221,7 @@ Node* Parser::ObjectLiteral() {
         list.Add(entry);
         if (!Is(TokenKind::CloseBrace)) Expect(TokenKind::Comma, u", または }");
     }
+    --literals_;
     Advance();
     node->A = list.First;
     node->Count = list.Count;

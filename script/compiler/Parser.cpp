@@ -7,6 +7,12 @@
 
 namespace tamber {
 
+namespace {
+
+constexpr Long FirstMetadataVersion = 6;
+
+}  // namespace
+
 Parser::Parser(std::string_view source, Long version, SymbolTable& symbols, Arena& arena,
                Diagnostics& diagnostics)
     : lexer_(source, version, symbols, diagnostics),
@@ -41,8 +47,7 @@ Node* Parser::GuardedStatement() {
     try {
         return Statement();
     } catch (const SyntaxError&) {
-        before.Restore();
-        Recover();
+        Recover(before.Restore());
         if (token_.Text.data() == first) Advance();
     }
     return nullptr;
@@ -103,23 +108,22 @@ Symbol* Parser::TakeMemberName() {
 }
 
 /// Steps to where a statement may begin. The `else` of an `if` that could not be read is none.
-void Parser::Recover() {
-    SkipToStatement();
+void Parser::Recover(int literals) {
+    SkipToStatement(literals);
     Accept(TokenKind::Else);
 }
 
 /// Behind a semicolon, at a word that begins a line, in a class also at one that begins a member,
-/// or at the brace that closes the block.
-void Parser::SkipToStatement() {
+/// or at the brace that closes the block. The braces of so many object literals close those only.
+void Parser::SkipToStatement(int literals) {
     int braces = 0;
     for (; !Is(TokenKind::End); Advance()) {
+        const bool closes = Is(TokenKind::CloseBrace);
         if (Is(TokenKind::OpenBrace)) ++braces;
-        if (Is(TokenKind::CloseBrace) && --braces < 0) return;
+        if (closes && braces == 0 && literals-- <= 0) return;
+        if (closes && braces > 0 && --braces == 0 && literals <= 0) return Advance();
         if (braces > 0) continue;
-        if (Is(TokenKind::CloseBrace) || Is(TokenKind::Semicolon)) {
-            Advance();
-            return;
-        }
+        if (Is(TokenKind::Semicolon)) return Advance();
         if (token_.StartsLine && (token_.Kind >= TokenKind::Break || (inClass_ && IsModifier())))
             return;
     }
@@ -209,12 +213,19 @@ Node* Parser::ExpressionStatement() {
     Node* statement = Make(NodeKind::Expression, token_.Line);
     atStatement_ = true;
     statement->A = Expression();
-    if (IsMetadata(*statement->A) && IsClassAhead()) return Make(NodeKind::Empty, token_.Line);
+    if (IsMetadata(*statement->A) && IsToldOfAhead()) return Make(NodeKind::Empty, token_.Line);
     EndStatement();
     return statement;
 }
 
-/// Whether an expression may be what tools know about the class behind it: lists in brackets.
+/// Whether tools may know something about what is declared next.
+bool Parser::IsToldOfAhead() {
+    const bool isAtTop = function_ == nullptr && blocks_ == 0;
+    const bool isDeclaration = Is(TokenKind::Var) || Is(TokenKind::Function);
+    return IsClassAhead() || (version_ >= FirstMetadataVersion && isAtTop && isDeclaration);
+}
+
+/// Whether an expression may be what tools know about the declaration behind it: lists in brackets.
 bool Parser::IsMetadata(const Node& expression) {
     const Node* node = &expression;
     while (node->Kind == NodeKind::Index) node = node->A;

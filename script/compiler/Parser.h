@@ -44,8 +44,8 @@ private:
     void NeedVersion(Long version, std::string_view token, std::uint32_t line);
     Symbol* TakeName(StringView what);
     Symbol* TakeMemberName();
-    void Recover();
-    void SkipToStatement();
+    void Recover(int literals);
+    void SkipToStatement(int literals);
     Node* Make(NodeKind kind, std::uint32_t line);
 
     // Statements.
@@ -54,6 +54,7 @@ private:
     Node* SimpleStatement();
     Node* StrayPart(const String& text);
     Node* ExpressionStatement();
+    bool IsToldOfAhead();
     static bool IsMetadata(const Node& expression);
     Node* Block();
     Node* Grouped(const NodeList& list, std::uint32_t line);
@@ -130,13 +131,16 @@ private:
     Symbol* FunctionName();
     Node* FunctionRest(Symbol* name, std::uint32_t line);
     void Parameters(FunctionNode& function);
-    void Declare(Symbol* name, bool isParameter = false);
+    void Parameter(FunctionNode& function);
+    void Declare(Symbol* name);
+    NameNode* AddDeclared(Symbol* name);
     void ChooseRegisters(FunctionNode& function, std::size_t firstUse);
     Node* ClassStatement();
     void CloseFunction(FunctionNode& function, std::size_t firstUse);
     Node* DottedName();
     Node* MembersOf(Node* node);
     Node* ClassReference();
+    void Interfaces(ClassNode& node);
     void ClassMembers(ClassNode& node);
     void ClassMember(ClassNode& node);
     void SkipMetadata();
@@ -172,6 +176,8 @@ private:
     int colonsAwaited_ = 0;
     /// Blocks around the statement, within the function.
     int blocks_ = 0;
+    /// Object literals that are open around the token.
+    int literals_ = 0;
     int loops_ = 0;
     int switches_ = 0;
     bool inClass_ = false;

@@ -13,13 +13,17 @@ public:
           switches_(parser.switches_),
           colonsAwaited_(parser.colonsAwaited_),
           blocks_(parser.blocks_),
+          literals_(parser.literals_),
           inClass_(parser.inClass_),
           function_(parser.function_),
           firstGuard_(parser.firstGuard_),
           guards_(parser.guards_.size()) {}
 
-    /// Ends the run when there are too many errors.
-    void Restore() const {
+    /// The number of object literals that were left open. Ends the run when there are too many
+    /// errors.
+    int Restore() const {
+        const int open = parser_.literals_ - literals_;
+        parser_.literals_ = literals_;
         parser_.loops_ = loops_;
         parser_.switches_ = switches_;
         parser_.colonsAwaited_ = colonsAwaited_;
@@ -29,6 +33,7 @@ public:
         parser_.firstGuard_ = firstGuard_;
         parser_.guards_.resize(guards_);
         if (parser_.diagnostics_.IsFull()) throw HopelessError();
+        return open;
     }
 
 private:
@@ -37,6 +42,7 @@ private:
     int switches_;
     int colonsAwaited_;
     int blocks_;
+    int literals_;
     bool inClass_;
     FunctionNode* function_;
     std::size_t firstGuard_;

@@ -16,6 +16,7 @@ struct Word {
     TokenKind Kind;
 };
 
+/// A word in the place of a name.
 struct Special {
     std::string_view Name;
     SpecialName Meaning;
@@ -61,18 +62,13 @@ constexpr Word Words[] = {
     {"with", TokenKind::With},
 };
 
-constexpr Special Specials[] = {
+constexpr Special SpecialWords[] = {
     {"true", SpecialName::True},
     {"false", SpecialName::False},
     {"null", SpecialName::Null},
     {"undefined", SpecialName::Undefined},
     {"newline", SpecialName::NewLine},
     {"super", SpecialName::Super},
-    {"arguments", SpecialName::Arguments},
-    {"_root", SpecialName::Root},
-    {"_parent", SpecialName::Parent},
-    {"_global", SpecialName::Global},
-    {"eval", SpecialName::Eval},
     {"class", SpecialName::Class},
     {"interface", SpecialName::Interface},
     {"dynamic", SpecialName::Dynamic},
@@ -85,6 +81,12 @@ constexpr Special Specials[] = {
     {"static", SpecialName::Static},
     {"get", SpecialName::Get},
     {"set", SpecialName::Set},
+};
+
+constexpr Special SpecialVariables[] = {
+    {"arguments", SpecialName::Arguments}, {"_root", SpecialName::Root},
+    {"_parent", SpecialName::Parent},      {"_global", SpecialName::Global},
+    {"eval", SpecialName::Eval},
 };
 
 constexpr std::string_view Properties[] = {
@@ -105,7 +107,7 @@ constexpr Builtin Builtins[] = {
     {"stopDrag", Form::Action, 0, 0, Opcode::EndDrag},
     {"trace", Form::Action, 1, 1, Opcode::Trace},
     {"call", Form::Action, 1, 1, Opcode::Call},
-    {"removeMovieClip", Form::Action, 1, 1, Opcode::RemoveSprite},
+    {"removeMovieClip", Form::OfClip, 1, 1, Opcode::RemoveSprite},
     {"getTimer", Form::Action, 0, 0, Opcode::GetTime, true},
     {"random", Form::Action, 1, 1, Opcode::RandomNumber, true},
     {"int", Form::Action, 1, 1, Opcode::ToInteger, true},
@@ -117,7 +119,7 @@ constexpr Builtin Builtins[] = {
     {"mbsubstring", Form::Action, 3, 3, Opcode::MBStringExtract, true},
     {"length", Form::Action, 1, 1, Opcode::StringLength, true},
     {"substring", Form::Action, 3, 3, Opcode::StringExtract, true},
-    {"targetPath", Form::Action, 1, 1, Opcode::TargetPath, true, 5},
+    {"targetPath", Form::OfClip, 1, 1, Opcode::TargetPath, true, 5},
     {"Number", Form::Action, 1, 1, Opcode::ToNumber, true, 5},
     {"String", Form::Action, 1, 1, Opcode::ToString, true, 5},
     {"eval", Form::Evaluate, 1, 1, Opcode::GetVariable, true},
@@ -270,38 +272,58 @@ constexpr std::string_view ClipMembers[] = {
 };
 static_assert(std::is_sorted(std::begin(ClipMembers), std::end(ClipMembers)));
 
-struct Meaning {
+struct WordMeaning {
     TokenKind Kind = TokenKind::Identifier;
+    SpecialName Name = SpecialName::None;
+};
+
+struct NameMeaning {
     SpecialName Name = SpecialName::None;
     Byte Property = Symbol::NoProperty;
     const Builtin* Function = nullptr;
     Byte NeededVersion = 0;
 };
 
+template <class Meaning>
 using Dictionary = std::unordered_map<std::string, Meaning>;
+using Spelling = std::string (*)(std::string_view);
 
-Dictionary MakeDictionary(std::string (*form)(std::string_view)) {
-    Dictionary words;
+Dictionary<WordMeaning> MakeWords(Spelling form) {
+    Dictionary<WordMeaning> words;
     for (const Word& word : Words) words[form(word.Name)].Kind = word.Kind;
-    for (const Special& special : Specials) words[form(special.Name)].Name = special.Meaning;
-    for (const Builtin& builtin : Builtins) words[form(builtin.Name)].Function = &builtin;
-    for (const LaterName& later : LaterNames) words[form(later.Name)].NeededVersion = later.Version;
-    for (std::size_t i = 0; i < std::size(Properties); ++i)
-        words[form(Properties[i])].Property = static_cast<Byte>(i);
+    for (const Special& special : SpecialWords) words[form(special.Name)].Name = special.Meaning;
     return words;
+}
+
+Dictionary<NameMeaning> MakeNames(Spelling form) {
+    Dictionary<NameMeaning> names;
+    for (const Special& special : SpecialVariables)
+        names[form(special.Name)].Name = special.Meaning;
+    for (const Builtin& builtin : Builtins) names[form(builtin.Name)].Function = &builtin;
+    for (const LaterName& later : LaterNames) names[form(later.Name)].NeededVersion = later.Version;
+    for (std::size_t i = 0; i < std::size(Properties); ++i)
+        names[form(Properties[i])].Property = static_cast<Byte>(i);
+    return names;
 }
 
 std::string AsItStands(std::string_view text) {
     return std::string(text);
 }
 
-const Dictionary& DictionaryOf(bool withCase) {
-    static const Dictionary exact = MakeDictionary(AsItStands);
-    static const Dictionary lower = MakeDictionary(Lower);
-    return withCase ? exact : lower;
+/// What a text means, with or without regard to case; nothing for a text without a meaning.
+template <class Meaning, Dictionary<Meaning> (*Make)(Spelling)>
+Meaning Find(std::string_view text, bool withCase) {
+    static const Dictionary<Meaning> exact = Make(AsItStands);
+    static const Dictionary<Meaning> lower = Make(Lower);
+    const Dictionary<Meaning>& words = withCase ? exact : lower;
+    const auto found = words.find(withCase ? std::string(text) : Lower(text));
+    return found == words.end() ? Meaning() : found->second;
 }
 
-/// No word of the dictionary is longer.
+/// First version in which keywords and the names of values are told by their case, too. Those of
+/// variables are from FirstCaseVersion on.
+constexpr Long FirstWordCaseVersion = 5;
+/// No word of the dictionaries is longer.
 constexpr std::size_t LongestWord = 24;
 
 }  // namespace
@@ -316,15 +338,13 @@ std::string Lower(std::string_view text) {
 void Classify(Symbol& symbol, Long version) {
     symbol.IsClassified = true;
     if (symbol.Text.size() > LongestWord) return;
-    const bool withCase = version >= FirstCaseVersion;
-    const Dictionary& words = DictionaryOf(withCase);
-    const auto found = words.find(withCase ? std::string(symbol.Text) : Lower(symbol.Text));
-    if (found == words.end()) return;
-    symbol.Kind = found->second.Kind;
-    symbol.Special = found->second.Name;
-    symbol.Property = found->second.Property;
-    symbol.NeededVersion = found->second.NeededVersion;
-    symbol.BuiltinEntry = found->second.Function;
+    const auto word = Find<WordMeaning, MakeWords>(symbol.Text, version >= FirstWordCaseVersion);
+    const auto name = Find<NameMeaning, MakeNames>(symbol.Text, version >= FirstCaseVersion);
+    symbol.Kind = word.Kind;
+    symbol.Special = word.Name == SpecialName::None ? name.Name : word.Name;
+    symbol.Property = name.Property;
+    symbol.NeededVersion = name.NeededVersion;
+    symbol.BuiltinEntry = name.Function;
 }
 
 std::string_view PropertyName(std::size_t number) {

@@ -7,14 +7,14 @@
 
 namespace tamber {
 
-/// First version in which upper and lower case are told apart.
+/// First version in which names are told apart by their case.
 inline constexpr Long FirstCaseVersion = 7;
 
 /// The text with its Latin letters small, as names are compared below that version.
 std::string Lower(std::string_view text);
 
 /// Looks up what a name means in a version: keyword, property, built-in function. Below version 7
-/// without regard to case.
+/// properties and functions are found without regard to case, keywords in version 4 only.
 void Classify(Symbol& symbol, Long version);
 
 /// Name of a property of a movie clip; empty for a number that none has.

@@ -53,6 +53,44 @@ TEST(Code, OfVersion4HasTextsForAllValuesAndJumpsForLoops) {
     });
 }
 
+TEST(Code, OfVersion4NamesClipsByTheirPaths) {
+    const CodeCase cases[] = {
+        {4, "removeMovieClip(_root.c);", "removeMovieClip(\"/c\");"},
+        {4, "removeMovieClip(_parent.c);", "removeMovieClip(\"../c\");"},
+        {4, "startDrag(a.c, true);", "startDrag(\"a/c\", true);"},
+        {4, "loadMovie(\"u\", _root.c);", "loadMovie(\"u\", \"/c\");"},
+        {4, "loadVariables(\"u\", /c, \"POST\");", "loadVariables(\"u\", \"/c\", \"POST\");"},
+        {4, "unloadMovie(_root.c);", "unloadMovie(\"/c\");"},
+        {4, "print(_root, \"bframe\");", "print(\"/\", \"bframe\");"},
+        {4, "duplicateMovieClip(a.c, \"d\", 1);", "duplicateMovieClip(\"a/c\", \"d\", 1);"},
+    };
+    for (const CodeCase& target : cases)
+        EXPECT_EQ(Compiled(target.Source, target.Version), Compiled(target.Code, target.Version))
+            << target.Source;
+    EXPECT_NE(Compiled("getURL(\"u\", a.c);", 4), Compiled("getURL(\"u\", \"a/c\");", 4));
+    EXPECT_NE(Compiled("unloadMovie(/a:c);", 4), Compiled("unloadMovie(\"/a:c\");", 4));
+}
+
+TEST(Code, OfVersion4HasNumbersAsThePlayerPrintsThem) {
+    const CodeCase cases[] = {
+        {4, "x = 100000;", "x = \"100000\";"},
+        {4, "x = 999999999999999;", "x = \"999999999999999\";"},
+        {4, "x = 0.9999999999999999;", "x = \"1\";"},
+        {4, "x = 0.1234567890123456;", "x = \"0.123456789012346\";"},
+        {4, "x = 0.000012;", "x = \"0.000012\";"},
+        {4, "x = 0.0000012;", "x = \"1.2e-6\";"},
+        {4, "x = 12e20;", "x = \"1.2e+21\";"},
+        {4, "x = 1e400;", "x = \"Infinity\";"},
+        {4, "x = -1e400;", "x = \"-Infinity\";"},
+        {4, "x = 0 * -1;", "x = \"0\";"},
+        {4, "x = 1 / 8;", "x = \"0.125\";"},
+    };
+    for (const CodeCase& number : cases)
+        EXPECT_EQ(Compiled(number.Source, number.Version), Compiled(number.Code, number.Version))
+            << number.Source;
+    EXPECT_NE(Compiled("x = 1 / 3;", 4), Compiled("x = \"0.333333333333333\";", 4));
+}
+
 TEST(Code, OfBuiltInFunctionsIsTheirAction) {
     Check({
         {4, "gotoAndPlay(3);", "81 02 00 02 00 06"},
@@ -142,6 +180,44 @@ TEST(Code, IsNotMadeOfWhatHasNoEffectOrCannotBeReached) {
     });
 }
 
+TEST(Code, IsTheSameWithBlanksBeyondAscii) {
+    const CodeCase cases[] = {
+        {5, "x\xA0= 5\xA0;", "x=5;"},
+        {5,
+         "x\x81\x40=\x81\x40"
+         "5\x81\x40;",
+         "x=5;"},
+        // A second byte that looks like one is none.
+        {5, "\x83\xA0 = 5;", "\x83\xA0=5;"},
+        {6,
+         "\xEF\xBB\xBFx\xC2\xA0=\xE3\x80\x80"
+         "5\xC2\xA0;",
+         "x=5;"},
+        {6, "x = /a:b\xC2\xA0;", "x=/a:b;"},
+    };
+    for (const CodeCase& spaced : cases) {
+        EXPECT_NE(Compiled(spaced.Source, spaced.Version), "not compiled");
+        EXPECT_EQ(Compiled(spaced.Source, spaced.Version), Compiled(spaced.Code, spaced.Version))
+            << spaced.Source;
+    }
+}
+
+TEST(Code, IsNotMadeOfWhatToolsKnowAboutADeclaration) {
+    const CodeCase cases[] = {
+        {6, "[Inspectable] var x;", "var x;"},
+        {6, "[Inspectable(name=\"X\", defaultValue=5)]\nvar x = 1;", "var x = 1;"},
+        {7, "a();\n[Event(\"e\")]\n[Told] function f() { }", "a(); function f() { }"},
+    };
+    for (const CodeCase& told : cases) {
+        EXPECT_NE(Compiled(told.Source, told.Version), "not compiled") << told.Source;
+        EXPECT_EQ(Compiled(told.Source, told.Version), Compiled(told.Code, told.Version))
+            << told.Source;
+    }
+    EXPECT_EQ(Compiled("[Inspectable] var x;", 5), "not compiled");
+    EXPECT_EQ(Compiled("if (a) { [Inspectable] var x; }", 6), "not compiled");
+    EXPECT_NE(Compiled("[a()]; var x;", 6), Compiled("var x;", 6));
+}
+
 TEST(Code, OfConstantsIsTheirResult) {
     const CodeCase cases[] = {
         {5, "x = 1 + 2 * 3;", "x = 7;"},   {5, "x = 7 >>> 1 << 2;", "x = 12;"},
@@ -183,10 +259,16 @@ TEST(Code, UsesOnePairOfRegistersForAllElementsThatChange) {
     EXPECT_EQ(at[RegisterCountAt], 4);
 }
 
-TEST(Code, OfBuiltInsAndKeywordsIsFoundWithoutCaseBelowVersion7) {
+TEST(Code, OfBuiltInsIsFoundWithoutCaseBelowVersion7) {
     EXPECT_EQ(Compiled("GOTOANDPLAY(3);", 6), "81 02 00 02 00 06");
-    EXPECT_EQ(Compiled("IF (a) Play();", 6), Compiled("if (a) play();", 6));
+    EXPECT_EQ(Compiled("if (a) Play();", 6), Compiled("if (a) play();", 6));
     EXPECT_NE(Compiled("GOTOANDPLAY(3);", 7), "81 02 00 02 00 06");
+}
+
+TEST(Code, OfKeywordsIsFoundWithoutCaseInVersion4Only) {
+    EXPECT_EQ(Compiled("IF (a) x = NewLine;", 4), Compiled("if (a) x = newline;", 4));
+    EXPECT_EQ(Compiled("IF (a) play();", 5), "not compiled");
+    EXPECT_NE(Compiled("x = NewLine;", 5), Compiled("x = newline;", 5));
 }
 
 }  // namespace

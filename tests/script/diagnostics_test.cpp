@@ -45,6 +45,10 @@ TEST(Diagnostics, NameTheLineAndTheToken) {
         {6, "break;", 1, "break"},
         {6, "return 1;", 1, "return"},
         {6, "1 = 2;", 1, "="},
+        {6, "eval() = 2;", 1, "="},
+        {6, "delete eval();", 1, "eval"},
+        {6, "with (a) { removeMovieClip(); }\nremoveMovieClip();", 2, "removeMovieClip"},
+        {6, "with (a) { trace(); }", 1, "trace"},
         {6, "x = 12abc;", 1, "12abc"},
         {6, "x = 3 @ 4;", 1, "@"},
         {6, "switch (a) { default: default: }", 1, "default"},
@@ -60,6 +64,7 @@ TEST(Diagnostics, NameTheLineAndTheToken) {
         {6, "a();\nelse b();", 2, "else"},
         {6, "a();\n\ncase 1: b();", 3, "case"},
         {7, "a();\ncatch (e) { }", 2, "catch"},
+        {6, "class A extends B, C { }", 1, ","},
         {6, "var\nif = 1;", 2, "if"},
         {6, "f(1;", 1, ";"},
         {6, "x = 2 +;", 1, ";"},
@@ -110,6 +115,15 @@ TEST(Diagnostics, AreNotRepeatedForOneFault) {
         "class A { private }",
         "class A {\nvar b;\n",
         "class A {\nfunction",
+        "x = {a: 1, b 2};\ny();",
+        "f({a: 1, b 2}, 3);\ny();",
+        "x = {a: {b 1}, c: 2};\ny();",
+        "x = {a 1, b: function () { c(); d(); }, e: 1};\ny();",
+        "x = {a: function (5) { c(); d(); }, e: 1};\ny();",
+        "if (f({a 1})) { b(); c(); }\ny();",
+        "function f() { return {a: }; }\ny();",
+        "function f() { x = {a: 1\ny(); }\nz();",
+        "class A { var b = {c 1}; function d() { } }",
     };
     for (const std::string_view source : sources)
         EXPECT_EQ(Compiled(source, 7).Errors.size(), 1U) << source;
@@ -144,6 +158,7 @@ TEST(Diagnostics, WarnOfWhatIsProbablyNotMeant) {
         {6, "function f() {\nreturn 1;\nplay(); }", 3, "play"},
         {5, "_global.x = 1;", 1, "_global"},
         {4, "x = Math;", 1, "Math"},
+        {5, "function f(a,\na) { }", 2, "a"},
         {7, "try { } catch (e) { }\ncatch (f:F) { }", 2, "catch"},
     };
     for (const Fault& fault : faults) {
@@ -202,6 +217,8 @@ TEST(Diagnostics, StandForTextsThatNoCodeCanHold) {
     for (const Long version : {4, 6, 7})
         for (const std::string& source : sources)
             EXPECT_FALSE(Compiled(source, version).IsCompiled()) << source.substr(0, 20);
+    // In version 4 each `||` of these stands in the next.
+    EXPECT_FALSE(Compiled("x = " + Repeated("a || b or ", Many) + "1;", 4).IsCompiled());
 }
 
 TEST(Diagnostics, TellOfNamesWithDotsThatMakeTooLongAPath) {
@@ -235,6 +252,7 @@ TEST(Diagnostics, AreNotNeededForLongChains) {
     for (const std::string& source : sources)
         for (const Long version : {5, 8})
             EXPECT_TRUE(Compiled(source, version).IsCompiled()) << source.substr(0, 20);
+    EXPECT_TRUE(Compiled("x = " + Repeated("a && ", 1000) + "b;", 4).IsCompiled());
 }
 
 TEST(Diagnostics, TellOfJumpsAndBlocksThatAreTooLong) {

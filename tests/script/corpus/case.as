@@ -16,3 +16,14 @@ trace(F());      //=-6 f
 function sound(x) { return "own " + x; }
 trace(Sound("s"));          //=-6 own s
                             //=7+ null
+// Keywords and the names of values have one case from version 5 on; other names may look like them.
+function Add(a, b) { return a + b; }
+Default = 5; newLine = 6; Not = 7; With = 8; Null = 9;
+trace(Add(Default, newLine) + Not + With + Null); //= 35
+trace(Function == undefined); //=5-5 true
+                              //=6+ false
+Function.prototype.told = "told";
+trace(Add.told);            //=5-5 undefined
+                            //=6+ told
+trace(Length("abc"));       //=-6 3
+                            //=7+ undefined

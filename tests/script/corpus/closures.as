@@ -47,3 +47,24 @@ list = ""; rec(2); trace(list); //= -101
 ASSetPropFlags(o, "hidden", 1);
 trace("x" gt "a");  //= true
 trace("a" le "b");  //= true
+// Of parameters with one name the last counts.
+function twice(b, a, a, c) { return b + "," + a + "," + c; }
+trace(twice(1, 2, 3, 4)); //= 1,3,4
+function missing(a, a) { return typeof(a); }
+trace(missing(1));        //= undefined
+function captures(a, a) { a += 1; return function () { return a; }; }
+trace(captures(1, 5)());  //= 6
+// An interface may extend more than one.
+interface One { function one(); }
+interface Two { function two(); }
+interface Three { function three(); }
+interface All extends One, Two, Three { function all(); }
+class Does implements All { function one() { return 1; } }
+does = new Does();
+trace(does.one());           //= 1
+trace(does instanceof All);  //=6-6 false
+                             //=7+ true
+trace(does instanceof One);  //=6-6 false
+                             //=7+ true
+trace((does instanceof Two) + "," + (does instanceof Three)); //=6-6 false,false
+                             //=7+ true,true

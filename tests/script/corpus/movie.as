@@ -8,6 +8,12 @@ tellTarget("clip") { gotoAndStop(5); }
 trace(clip._currentframe);   //= 5
 tellTarget("/clip") { prevFrame(); trace(_currentframe); } //= 4
 with (clip) { gotoAndStop(1); trace(_currentframe); } //= 1
+with (clip) { duplicateMovieClip("within", 41); duplicateMovieClip("clip", "named", 42); }
+trace(within._name + named._name); //= withinnamed
+with (within) { startDrag(); stopDrag(); removeMovieClip(); }
+trace(typeof(within)); //= undefined
+with (named) { unloadMovie(); }
+trace(named._totalframes); //= 0
 trace(getProperty("clip", _totalframes)); //= 5
 setProperty("clip", _x, 40);
 trace(clip._x);              //= 40

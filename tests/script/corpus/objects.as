@@ -72,3 +72,10 @@ set("made" + 1, 7); trace(made1); //= 7
 set(viaSet, 1);
 eval("made1") = 8; trace(made1);  //= 8
 trace(o.in2["deep"].length); //= 3
+y = 1; trace(delete eval("y")); //= true
+trace(y);                       //= undefined
+clip.gone = 1; trace(delete /clip:gone); //= true
+trace(clip.gone);               //= undefined
+function forgets(name) { var kept = 1; delete eval(name); return kept; }
+y = 2; trace(forgets("y"));     //= 1
+trace(y);                       //= undefined

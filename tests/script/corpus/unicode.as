@@ -14,3 +14,4 @@ trace("\uD83D\uDE00" == "😀");    //= true
 trace("\uD83D\uDE00".charCodeAt(0) + " " + "\uD83D\uDE00".charCodeAt(1)); //= 55357 56832
 trace("\uD842\uDFB7野家");        //= 𠮷野家
 trace("𠮷".length);               //= 2
+間= 5 ; trace(間 +　1　+﻿1 ); //= 7

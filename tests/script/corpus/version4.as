@@ -59,6 +59,23 @@ fscommand("TamberTrace", "four"); //! TamberTrace|four
 fscommand("TamberTrace", x); //! TamberTrace|9
 c = 2;
 if (c gt 1 and "b" ge "a" and "a" le "b") trace("ordered"); //= ordered
+trace(100000);       //= 100000
+trace(0.1 + 0.2);    //= 0.3
+trace(1 / 3);        //= 0.333333333333333
+third = 1 / 3; trace(third * 3); //= 1
+trace(0 * -1);       //= 0
+trace(-123456789012345 add "," add 0.00001 add "," add 1e15 add "," add 1 / 1000000); //= -123456789012345,0.00001,1e+15,1e-6
+w = 0; n = 3;
+x = 0 && (w = 1); y = n && (w = 2); trace(x && 1); //= 0
+trace(w);            //= 2
+trace((n == 3 || (w = 4)) add "," add w); //=4-4 1,2
+                     //=5+ true,2
+trace(n > 5 && (w = 5) || n < 2 && (w = 6) || n == 3 && w == 2); //=4-4 1
+                     //=5+ true
+n == 3 && (w = 7); n == 3 || (w = 8); trace(w); //= 7
+0 and (w = 9); trace(w); //= 9
+trace(1 + (n && w) * 2); //=4-4 3
+                     //=5+ 19
 call("f3");          //= frame 3
 //@ frame 2
 trace("frame 2");    //= frame 2

@@ -14,3 +14,13 @@ _root.clip.nextFrame(); trace(clip._currentframe); //= 4
 this.t = 3; trace(t);   //= 3
 clip.v++; trace(clip.v); //= 6
 trace(clip.v--);        //= 6
+trace(getProperty(_root.clip, _currentframe)); //= 4
+trace(getProperty(/clip, _currentframe)); //= 4
+trace(getProperty(this, _totalframes) add getProperty(_root, _totalframes)); //= 44
+setProperty(_root.clip, _x, 21); trace(clip._x); //= 21
+duplicateMovieClip(_root.clip, "second", 3);
+trace(getProperty("second", _name)); //= second
+holder = "/second"; trace(getProperty(holder, _name)); //= second
+setProperty(clip._target, _x, 22); trace(clip._x); //= 22
+removeMovieClip(_root.second); trace(length(getProperty("/second", _name))); //=-6 0
+                        //=7+ 9
