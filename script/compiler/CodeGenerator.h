@@ -42,6 +42,9 @@ private:
     static constexpr std::size_t NoRecord = SIZE_MAX;
     /// Expressions in each other that are made by recursion on the left.
     static constexpr int MaxDepth = 2000;
+    /// Pieces of code at most, some 250 MB with their lines: places that are worked out twice
+    /// within each other double it each time.
+    static constexpr std::size_t MostItems = 32'000'000;
 
     struct FunctionState {
         const FunctionNode* Node = nullptr;
@@ -176,6 +179,9 @@ private:
     void ApplyChange(const Node* value, Operator op);
     void Increment(const Node& node, bool isWanted);
     void IncrementAfter(const Place& place, Operator op);
+    void IncrementMemberAfter(const Place& place, Operator op);
+    void IncrementIndexAfter(const Place& place, Operator op);
+    void PushKeptPlace(const Place& place);
     bool IsSimplePlace(const Place& place) const;
     void ChooseKeyRegisters();
     Symbol* PathText(const Node& node, std::string_view path);
@@ -237,6 +243,7 @@ private:
 
     Symbol* Known(std::string_view text) { return symbols_.Intern(text); }
     void Complain(const Node& node, String text);
+    void TooLong(const Node& node);
     void NeedVersion5(const Node& node);
 
     SymbolTable& symbols_;
@@ -257,6 +264,7 @@ private:
     /// The names of the classes, which outlive their statements.
     std::deque<Node> classNames_;
     int depth_ = 0;
+    bool isTooLong_ = false;
 };
 
 }  // namespace tamber

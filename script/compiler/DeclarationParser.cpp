@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include <utility>
 
 #include "script/compiler/Parser.h"
@@ -207,9 +209,23 @@ Node* Parser::ClassStatement() {
     }
     Expect(TokenKind::OpenBrace, u"{");
     inClass_ = true;
-    ClassMembers(*definition);
+    ClassBody(*definition);
     inClass_ = false;
     return node;
+}
+
+/// Within its braces a class in a package is known by its short name too, as if it were imported.
+void Parser::ClassBody(ClassNode& node) {
+    if (node.Name->Kind != NodeKind::Member) return ClassMembers(node);
+    std::vector<Symbol*> path;
+    for (const Node* part = node.Name; part != nullptr; part = part->A) path.push_back(part->Name);
+    std::reverse(path.begin(), path.end());
+    const Symbol* own = path.back();
+    auto imported = imports_.extract(own);
+    imports_[own] = std::move(path);
+    ClassMembers(node);
+    imports_.erase(own);
+    imports_.insert(std::move(imported));
 }
 
 /// Those that a class implements or an interface extends; the player looks through both alike.

@@ -6,6 +6,7 @@
 namespace tamber {
 
 void CodeGenerator::Expression(const Node& node) {
+    if (code_->Items.size() > MostItems) return TooLong(node);
     switch (node.Kind) {
         case NodeKind::Number:
         case NodeKind::Text:

@@ -141,6 +141,7 @@ private:
     Node* MembersOf(Node* node);
     Node* ClassReference();
     void Interfaces(ClassNode& node);
+    void ClassBody(ClassNode& node);
     void ClassMembers(ClassNode& node);
     void ClassMember(ClassNode& node);
     void SkipMetadata();

@@ -227,17 +227,22 @@ void CodeGenerator::ChangeComplex(const Place& place, const Node* value, Operato
         code_->Emit(Opcode::StackSwap);
         return StoreWanted(place, isWanted);
     }
+    PushKeptPlace(place);
+    code_->PushRegister(function_.Object);
+    code_->PushRegister(function_.Key);
+    Load(place);
+    ApplyChange(value, op);
+    StoreWanted(place, isWanted);
+}
+
+/// An object and its key, on the stack and in their registers.
+void CodeGenerator::PushKeptPlace(const Place& place) {
     ChooseKeyRegisters();
     PushPlace(place);
     code_->Emit(ItemKind::StoreRegister, function_.Key);
     code_->Emit(Opcode::StackSwap);
     code_->Emit(ItemKind::StoreRegister, function_.Object);
     code_->Emit(Opcode::StackSwap);
-    code_->PushRegister(function_.Object);
-    code_->PushRegister(function_.Key);
-    Load(place);
-    ApplyChange(value, op);
-    StoreWanted(place, isWanted);
 }
 
 /// What Store needs below the value that lies on the stack.
@@ -291,7 +296,7 @@ void CodeGenerator::Increment(const Node& node, bool isWanted) {
         IncrementAfter(place, node.Op);
 }
 
-/// The value before; where that would have to pass below others, it is worked out from the new one.
+/// The value before. Version 4 has nowhere to keep it and works it out from the new one.
 void CodeGenerator::IncrementAfter(const Place& place, Operator op) {
     if (place.Kind == PlaceKind::Register) {
         Load(place);
@@ -308,8 +313,36 @@ void CodeGenerator::IncrementAfter(const Place& place, Operator op) {
         code_->Emit(Opcode::StackSwap);
         return Store(place);
     }
+    if (place.Kind == PlaceKind::Member) return IncrementMemberAfter(place, op);
+    if (place.Kind == PlaceKind::Index) return IncrementIndexAfter(place, op);
     Change(place, nullptr, op, true);
     ApplyChange(nullptr, op == Operator::Add ? Operator::Subtract : Operator::Add);
+}
+
+void CodeGenerator::IncrementMemberAfter(const Place& place, Operator op) {
+    place.Object == nullptr ? This() : Expression(*place.Object);
+    code_->Emit(Opcode::PushDuplicate);
+    code_->PushText(place.Name);
+    Load(place);
+    code_->Emit(Opcode::ToNumber);
+    code_->Emit(ItemKind::StoreRegister, 0);
+    code_->Emit(Opcode::StackSwap);
+    code_->PushText(place.Name);
+    code_->PushRegister(0);
+    ApplyChange(nullptr, op);
+    Store(place);
+}
+
+void CodeGenerator::IncrementIndexAfter(const Place& place, Operator op) {
+    PushKeptPlace(place);
+    Load(place);
+    code_->Emit(Opcode::ToNumber);
+    code_->Emit(ItemKind::StoreRegister, 0);
+    code_->PushRegister(function_.Object);
+    code_->PushRegister(function_.Key);
+    code_->PushRegister(0);
+    ApplyChange(nullptr, op);
+    Store(place);
 }
 
 }  // namespace tamber

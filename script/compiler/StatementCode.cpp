@@ -31,6 +31,11 @@ void CodeGenerator::Complain(const Node& node, String text) {
     diagnostics_.Error(node.Line, {}, std::move(text));
 }
 
+void CodeGenerator::TooLong(const Node& node) {
+    if (!isTooLong_) Complain(node, u"コードが長すぎます。式を変数に分けて下さい。");
+    isTooLong_ = true;
+}
+
 void CodeGenerator::Statements(const Node* first) {
     for (const Node* node = first; node != nullptr; node = node->Next) Statement(*node);
 }

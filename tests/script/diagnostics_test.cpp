@@ -236,6 +236,13 @@ TEST(Diagnostics, TellOfNamesWithDotsThatMakeTooLongAPath) {
     EXPECT_TRUE(Compiled("for (k in " + path + ") x();", 6).IsCompiled());
 }
 
+TEST(Diagnostics, EndCodeThatDoublesWithEachLevel) {
+    const std::string places = Repeated("eval(", 30) + "\"x\"" + Repeated(")++", 30) + ";";
+    const CompiledScript script = Compiled(places, 4);
+    ASSERT_EQ(script.Errors.size(), 1U);
+    EXPECT_EQ(script.Errors[0].Line, 1);
+}
+
 TEST(Diagnostics, AreNotNeededForLongChains) {
     constexpr std::size_t Many = 100000;
     const std::string sources[] = {

@@ -73,3 +73,12 @@ trace(typeof Unknown);     //= undefined
 trace(new Box().label + new Box().size + Box.kind()); //= plain2box
 trace(new Box().call(1));  //= member 1
 trace(MovieClip(this) == this); //= true
+// A class in a package knows itself by its short name.
+class com.foo.Mgr {
+  private static var inst:Mgr;
+  static var count = 0;
+  var v = 3;
+  static function getInstance():Mgr { if (inst == null) inst = new Mgr(); Mgr.count++; return inst; }
+}
+trace(com.foo.Mgr.getInstance().v + com.foo.Mgr.getInstance().v + com.foo.Mgr.count); //= 8
+trace(typeof Mgr);               //= undefined

@@ -79,3 +79,12 @@ trace(clip.gone);               //= undefined
 function forgets(name) { var kept = 1; delete eval(name); return kept; }
 y = 2; trace(forgets("y"));     //= 1
 trace(y);                       //= undefined
+// The value before an increment is exactly that.
+small = {x: 0.1, y: 1e-20, n: "5", list: [0.1]};
+trace((small.x++) == 0.1);         //= true
+trace(small.y++);                  //= 1e-20
+trace(small.list[0]-- == 0.1);     //= true
+trace(small.list[0]);              //= -0.9
+trace(typeof small["n"]++ + small.n); //= number6
+function postfix(o) { var k = "x"; return o[k]++ + o.x--; }
+trace(postfix({x: 2}));            //= 5
