@@ -49,6 +49,7 @@ Node* Parser::FunctionRest(Symbol* name, std::uint32_t line) {
     node->Function = function;
     function->Name = name;
     const bool inMethod = function_ != nullptr && function_->IsMethod;
+    const bool isDerived = std::exchange(isDerivedNext_, false);
     function->IsMethod = std::exchange(isMethodNext_, false) || inMethod;
     function->Line = line;
     function->Number = ++functionCount_;
@@ -66,6 +67,7 @@ Node* Parser::FunctionRest(Symbol* name, std::uint32_t line) {
     NodeList body;
     StatementsUntilBrace(body);
     function->Body = body.First;
+    if (isDerived && !function->CallsSuper) CallBaseFirst(*function);
     loops_ = loops;
     switches_ = switches;
     blocks_ = blocks;
@@ -75,6 +77,16 @@ Node* Parser::FunctionRest(Symbol* name, std::uint32_t line) {
     if (outer != nullptr && function->NeedsNames) outer->NeedsNames = true;
     CloseFunction(*function, firstUse);
     return node;
+}
+
+/// A constructor that does not say how its base's is called calls it without arguments.
+void Parser::CallBaseFirst(FunctionNode& function) {
+    Node* statement = Make(NodeKind::Expression, function.Line);
+    statement->A = Make(NodeKind::Call, function.Line);
+    statement->A->A = Make(NodeKind::Super, function.Line);
+    statement->Next = function.Body;
+    function.Body = statement;
+    function.UsesSuper = true;
 }
 
 void Parser::CloseFunction(FunctionNode& function, std::size_t firstUse) {
@@ -327,6 +339,7 @@ void Parser::Method(ClassNode& node, bool isStatic) {
         return EndStatement();
     }
     isMethodNext_ = !isStatic;
+    isDerivedNext_ = isConstructor && node.Base != nullptr;
     member.Value = FunctionRest(nullptr, member.Line);
     if (!isConstructor) return AddMember(node, member);
     if (node.Constructor != nullptr)

@@ -242,6 +242,7 @@ Node* Parser::PostfixOf(Node* node) {
             node = index;
         } else if (Is(TokenKind::OpenParenthesis)) {
             Node* call = Make(NodeKind::Call, line);
+            if (node->Kind == NodeKind::Super && function_ != nullptr) function_->CallsSuper = true;
             call->A = node;
             if (node->Kind == NodeKind::Name) NoteCall(node->Name);
             Arguments(call);

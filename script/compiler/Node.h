@@ -190,6 +190,7 @@ struct FunctionNode {
     Node* Body = nullptr;
     bool UsesThis = false;
     bool UsesSuper = false;
+    bool CallsSuper = false;
     bool UsesArguments = false;
     bool UsesRoot = false;
     bool UsesParent = false;

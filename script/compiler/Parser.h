@@ -136,6 +136,7 @@ private:
     NameNode* AddDeclared(Symbol* name);
     void ChooseRegisters(FunctionNode& function, std::size_t firstUse);
     Node* ClassStatement();
+    void CallBaseFirst(FunctionNode& function);
     void CloseFunction(FunctionNode& function, std::size_t firstUse);
     Node* DottedName();
     Node* MembersOf(Node* node);
@@ -182,7 +183,9 @@ private:
     int loops_ = 0;
     int switches_ = 0;
     bool inClass_ = false;
+    /// Of the function that is read next.
     bool isMethodNext_ = false;
+    bool isDerivedNext_ = false;
     FunctionNode* function_ = nullptr;
     std::uint32_t functionCount_ = 0;
     /// The `with` and `try` statements around, within the function.

@@ -82,3 +82,10 @@ class com.foo.Mgr {
 }
 trace(com.foo.Mgr.getInstance().v + com.foo.Mgr.getInstance().v + com.foo.Mgr.count); //= 8
 trace(typeof Mgr);               //= undefined
+// A constructor that does not call its base's has it called first.
+class Listed { var list; function Listed() { list = [1]; } function size() { return list.length; } }
+class Filled extends Listed { var z; function Filled(n) { z = n; list.push(z); } }
+class Told extends Listed { function Told() { trace("told " + super.size()); } }
+trace(new Filled(2).list.join("|")); //= 1|2
+trace(new Filled(3).list.join("|")); //= 1|3
+t = new Told();                  //= told 1
