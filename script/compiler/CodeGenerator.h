@@ -168,6 +168,8 @@ private:
     Place PlaceOf(const Node& node);
     Place PlaceOfVersion4(const Node& node);
     void PushPlace(const Place& place);
+    void PushObject(const Place& place);
+    bool HasSharedRegisters() const;
     void PushPlaceUnderValue(const Place& place);
     void Load(const Place& place);
     void Store(const Place& place);

@@ -5,6 +5,7 @@ namespace tamber {
 namespace {
 
 constexpr Long FirstObjectVersion = 5;
+constexpr Long FirstRegisterVersion = 7;
 /// Registers of a timeline's code for an object and its key; register 0 holds values.
 constexpr Byte ObjectRegister = 1;
 constexpr Byte KeyRegister = 2;
@@ -104,10 +105,7 @@ void CodeGenerator::PushPlace(const Place& place) {
             code_->PushText(place.Name);
             return PushInteger(place.Property);
         case PlaceKind::Member:
-            if (place.Object == nullptr)
-                This();
-            else
-                Expression(*place.Object);
+            PushObject(place);
             return code_->PushText(place.Name);
         case PlaceKind::Index:
             Expression(*place.Object);
@@ -115,6 +113,11 @@ void CodeGenerator::PushPlace(const Place& place) {
         default:
             return Expression(*place.Object);
     }
+}
+
+/// The object that has a member.
+void CodeGenerator::PushObject(const Place& place) {
+    place.Object == nullptr ? This() : Expression(*place.Object);
 }
 
 void CodeGenerator::Load(const Place& place) {
@@ -164,11 +167,24 @@ void CodeGenerator::AssignPlain(const Place& place, const Node& value, bool isWa
         PushPlace(place);
         code_->Emit(Opcode::StackSwap);
         Store(place);
+    } else if (place.Kind == PlaceKind::Member && isWanted && HasSharedRegisters()) {
+        PushObject(place);
+        Expression(value);
+        code_->Emit(ItemKind::StoreRegister, 0);
+        code_->Emit(Opcode::StackSwap);
+        code_->PushText(place.Name);
+        code_->PushRegister(0);
+        Store(place);
     } else {
         PushPlace(place);
         Expression(value);
         StoreWanted(place, isWanted);
     }
+}
+
+/// Functions have no registers of their own: one that a member calls to be set may use these too.
+bool CodeGenerator::HasSharedRegisters() const {
+    return version_ >= FirstObjectVersion && version_ < FirstRegisterVersion;
 }
 
 /// The place and the value lie on the stack. Version 4 reads what it has stored.
@@ -320,7 +336,7 @@ void CodeGenerator::IncrementAfter(const Place& place, Operator op) {
 }
 
 void CodeGenerator::IncrementMemberAfter(const Place& place, Operator op) {
-    place.Object == nullptr ? This() : Expression(*place.Object);
+    PushObject(place);
     code_->Emit(Opcode::PushDuplicate);
     code_->PushText(place.Name);
     Load(place);

@@ -88,3 +88,11 @@ trace(small.list[0]);              //= -0.9
 trace(typeof small["n"]++ + small.n); //= number6
 function postfix(o) { var k = "x"; return o[k]++ + o.x--; }
 trace(postfix({x: 2}));            //= 5
+// What an assignment gives is what was assigned, whatever else happens on the way.
+watched = {};
+watched.addProperty("p", function () { return 1; }, function (v) { var q = {}; q.z = q.y = 8; });
+first = second = watched.p = 3;
+trace(first + second);             //= 6
+function assigned() { return watched.p = 7; }
+trace(assigned());                 //= 7
+if ((watched.p = 0) == 0) trace("none"); //= none
