@@ -244,8 +244,8 @@ bool CodeGenerator::IsMemberOfClip(const Symbol* name) const {
 /// has, or one of clips that acts on a timeline or takes other arguments than the function.
 bool CodeGenerator::IsOwnMethod(const Builtin& builtin, const Node& call) const {
     const MemberFound found = FindMember(call.A->Name);
-    const bool fits = call.Count >= builtin.MinArguments && call.Count <= builtin.MaxArguments;
-    return found.IsFound && (!found.IsOfClip || IsMethodOfClip(builtin) || !fits);
+    return found.IsFound &&
+           (!found.IsOfClip || IsMethodOfClip(builtin) || !builtin.Takes(call.Count));
 }
 
 }  // namespace tamber

@@ -114,7 +114,7 @@ void Parser::Parameter(FunctionNode& function) {
         diagnostics_.Warn(line, name->Text, u"同じ名前の引数があります。後のものだけが働きます。");
         KeepNamed(name);
     }
-    AddDeclared(name)->IsParameter = true;
+    AddDeclared(name);
     ++function.ParameterCount;
     SkipType();
 }
@@ -124,7 +124,7 @@ void Parser::Declare(Symbol* name) {
     if (function_ != nullptr && name->DeclaredIn != function_->Number) AddDeclared(name);
 }
 
-NameNode* Parser::AddDeclared(Symbol* name) {
+void Parser::AddDeclared(Symbol* name) {
     NameNode* node = arena_.Make<NameNode>();
     node->Name = name;
     node->OuterDeclaration = name->DeclaredIn;
@@ -132,7 +132,6 @@ NameNode* Parser::AddDeclared(Symbol* name) {
     (function_->Declared == nullptr ? function_->Declared : function_->LastDeclared->Next) = node;
     function_->LastDeclared = node;
     name->DeclaredIn = function_->Number;
-    return node;
 }
 
 /// Variables that only the function itself reaches, and none by a name, live in registers behind

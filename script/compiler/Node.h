@@ -165,7 +165,6 @@ struct NameNode {
     Byte Register = Symbol::NoRegister;
     /// The name's register in the function around, while the code of this one is made.
     Byte OuterRegister = Symbol::NoRegister;
-    bool IsParameter = false;
     /// Function around, in which the name was declared before; 0 for none.
     std::uint32_t OuterDeclaration = 0;
     NameNode* Previous = nullptr;

@@ -133,7 +133,7 @@ private:
     void Parameters(FunctionNode& function);
     void Parameter(FunctionNode& function);
     void Declare(Symbol* name);
-    NameNode* AddDeclared(Symbol* name);
+    void AddDeclared(Symbol* name);
     void ChooseRegisters(FunctionNode& function, std::size_t firstUse);
     Node* ClassStatement();
     void CallBaseFirst(FunctionNode& function);
