@@ -76,9 +76,9 @@ void ActionCode::CastOrCall(Symbol* name) {
     Emit(ItemKind::CastOrCall, name->Index);
 }
 
-ActionCode::Label ActionCode::NewLabel(std::uint32_t line) {
+ActionCode::Label ActionCode::NewLabel(Spot spot) {
     labelUses_.push_back(0);
-    LabelLines.push_back(line);
+    LabelSpots.push_back(spot);
     return static_cast<Label>(labelUses_.size() - 1);
 }
 
@@ -139,9 +139,9 @@ void ActionCode::EndFunction() {
     Emit(ItemKind::FunctionEnd);
 }
 
-void ActionCode::BeginWith(std::uint32_t line) {
-    Emit(ItemKind::With, static_cast<std::uint32_t>(Lines.size()));
-    Lines.push_back(line);
+void ActionCode::BeginWith(Spot spot) {
+    Emit(ItemKind::With, static_cast<std::uint32_t>(Withs.size()));
+    Withs.push_back(spot);
     Block();
 }
 
@@ -151,9 +151,9 @@ void ActionCode::EndWith() {
     Emit(ItemKind::WithEnd);
 }
 
-void ActionCode::BeginTry(std::uint32_t line) {
+void ActionCode::BeginTry(Spot spot) {
     Emit(ItemKind::Try, static_cast<std::uint32_t>(Tries.size()));
-    Tries.push_back(line);
+    Tries.push_back(spot);
     Block();
 }
 

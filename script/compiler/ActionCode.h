@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "script/compiler/Opcode.h"
+#include "script/compiler/Spot.h"
 #include "script/compiler/Symbol.h"
 
 namespace tamber {
@@ -59,7 +60,7 @@ public:
     struct FunctionRecord {
         /// Null for one without a name.
         const Symbol* Name = nullptr;
-        std::uint32_t Line = 0;
+        Spot At;
         std::uint32_t FirstParameter = 0;
         std::uint32_t ParameterCount = 0;
         /// Written as DefineFunction2.
@@ -88,7 +89,7 @@ public:
     void GetUrl(const Symbol* url, const Symbol* target);
     void CastOrCall(Symbol* name);
 
-    Label NewLabel(std::uint32_t line);
+    Label NewLabel(Spot spot);
     /// The place that jumps made before lead to.
     void Place(Label label);
     /// A place that jumps made later lead back to. What stands before it need not reach it when
@@ -102,29 +103,34 @@ public:
     /// The number of the record, whose RegisterCount may be changed until the end.
     std::size_t BeginFunction(const FunctionRecord& record, const std::vector<Parameter>& names);
     void EndFunction();
-    void BeginWith(std::uint32_t line);
+    void BeginWith(Spot spot);
     void EndWith();
     /// What was thrown comes into register 0.
-    void BeginTry(std::uint32_t line);
+    void BeginTry(Spot spot);
     /// Ends the body or the handler.
     void EndTryBlock(ItemKind end);
 
     bool IsReachable() const { return isReachable_; }
+    /// Whether there is more of it than operands can count.
+    bool IsFull() const { return Items.size() > Most || labelUses_.size() > Most; }
 
     std::vector<FunctionRecord> Functions;
     std::vector<Parameter> Parameters;
-    /// Lines of the `try` statements.
-    std::vector<std::uint32_t> Tries;
+    /// Where the `try` and `with` statements stand.
+    std::vector<Spot> Tries;
+    std::vector<Spot> Withs;
     std::vector<UrlRecord> Urls;
     std::vector<double> Numbers;
-    std::vector<std::uint32_t> Lines;
     std::vector<std::uint32_t> Items;
-    /// Of each label, the line of what it belongs to.
-    std::vector<std::uint32_t> LabelLines;
+    /// Of each label, where that stands which it belongs to.
+    std::vector<Spot> LabelSpots;
 
     static constexpr std::uint32_t MaxOperand = (1U << 24) - 1;
 
 private:
+    /// What one expression or statement makes before it is asked again fits above.
+    static constexpr std::size_t Most = MaxOperand - 100'000;
+
     void Block();
     void Deduplicate();
 

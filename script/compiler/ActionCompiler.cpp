@@ -18,23 +18,30 @@ constexpr Long LastVersion = 8;
 ActionCompiler::ActionCompiler(Long version)
     : version_(std::clamp(version, FirstVersion, LastVersion)) {}
 
-/// Each statement becomes code as soon as it is read, so that the nodes of one only are held.
+/// Each statement becomes code as soon as it is read, so that the nodes of one only are held. One
+/// that was not read whole is no statement to make code of; of the others the generator may have
+/// something to say.
 CompiledScript ActionCompiler::Compile(std::string_view source) const {
     SymbolTable symbols;
     Arena arena;
     Diagnostics diagnostics;
     Parser parser(source, version_, symbols, arena, diagnostics);
-    CodeGenerator generator(symbols, version_, diagnostics);
-    while (const Node* statement = parser.NextStatement()) {
-        if (!diagnostics.HasErrors()) generator.Generate(*statement);
+    FaultReport faults(source, version_);
+    CodeGenerator generator(symbols, version_, faults);
+    for (;;) {
+        const std::size_t errors = diagnostics.Errors().size();
+        const Node* statement = parser.NextStatement();
+        if (statement == nullptr) break;
+        const bool isSound = !diagnostics.IsFull() && diagnostics.Errors().size() == errors;
+        if (isSound) generator.Generate(*statement);
         arena.Reset();
     }
     CompiledScript result;
-    if (!diagnostics.HasErrors()) {
-        ActionEncoder encoder(symbols, version_, diagnostics);
+    if (!diagnostics.HasErrors() && !faults.Found().HasErrors()) {
+        ActionEncoder encoder(symbols, version_, faults);
         result.Actions = encoder.Encode(generator.Functions(), generator.Main());
     }
-    diagnostics.Sort();
+    diagnostics.Merge(faults.Found());
     result.Errors = diagnostics.Errors();
     result.Warnings = diagnostics.Warnings();
     if (!result.IsCompiled()) result.Actions.clear();

@@ -82,7 +82,7 @@ void ActionEncoder::WritePool() {
 }
 
 void ActionEncoder::Write(const ActionCode& code) {
-    labels_.assign(code.LabelLines.size(), 0);
+    labels_.assign(code.LabelSpots.size(), 0);
     for (const std::uint32_t item : code.Items)
         WriteItem(code, static_cast<ItemKind>(item >> 24), item & ActionCode::MaxOperand);
     ClosePush();
@@ -110,7 +110,7 @@ void ActionEncoder::WriteItem(const ActionCode& code, ItemKind kind, std::uint32
             U8(static_cast<Byte>(Opcode::With));
             U16(2);
             U16(0);
-            return BeginBlock(bytes_.size() - 2, code.Lines[operand]);
+            return BeginBlock(bytes_.size() - 2, code.Withs[operand]);
         case ItemKind::Try:
             return WriteTry(code.Tries[operand]);
         case ItemKind::FunctionEnd:
@@ -267,7 +267,7 @@ void ActionEncoder::LinkJumps(const ActionCode& code) {
         const auto from = static_cast<std::int64_t>(jump.OffsetAt) + 2;
         const std::int64_t offset = static_cast<std::int64_t>(labels_[jump.Label]) - from;
         if (offset < INT16_MIN || offset > INT16_MAX) {
-            diagnostics_.Error(code.LabelLines[jump.Label], {},
+            faults_.Error(code.LabelSpots[jump.Label],
                                u"文が長すぎます。32KB を超えて飛ぶことはできません。"
                                u"中身を関数に分けて下さい。");
             break;
@@ -296,15 +296,15 @@ void ActionEncoder::WriteFunction(const ActionCode& code,
     U16(0);
     const std::size_t length = bytes_.size() - begin - RecordHeader;
     if (length > MaxRecord)
-        diagnostics_.Error(function.Line, {}, u"関数の名前と引数が長すぎます。");
+        faults_.Error(function.At, u"関数の名前と引数が長すぎます。");
     PatchU16(begin + 1, length);
-    BeginBlock(bytes_.size() - 2, function.Line);
+    BeginBlock(bytes_.size() - 2, function.At);
 }
 
 /// Three lengths stand in front of the blocks; each block opens where the one before it ends. The
 /// third, of what always runs, is not used.
 /// Flags, the lengths of body, handler and last block, and the register of what was thrown.
-void ActionEncoder::WriteTry(std::uint32_t line) {
+void ActionEncoder::WriteTry(Spot spot) {
     constexpr std::uint32_t Size = 8;
     U8(static_cast<Byte>(Opcode::Try));
     U16(Size);
@@ -314,11 +314,11 @@ void ActionEncoder::WriteTry(std::uint32_t line) {
     U16(0);
     U16(0);
     U8(0);
-    BeginBlock(lengths, line);
+    BeginBlock(lengths, spot);
 }
 
-void ActionEncoder::BeginBlock(std::size_t lengthAt, std::uint32_t line) {
-    blocks_.push_back({lengthAt, bytes_.size(), line});
+void ActionEncoder::BeginBlock(std::size_t lengthAt, Spot spot) {
+    blocks_.push_back({lengthAt, bytes_.size(), spot});
 }
 
 /// Ends a block; when it is not the last of its record, the next begins here.
@@ -326,7 +326,7 @@ void ActionEncoder::EndBlock(bool isEnd) {
     OpenBlock& block = blocks_.back();
     const std::size_t length = bytes_.size() - block.Begin;
     if (length > MaxRecord)
-        diagnostics_.Error(block.Line, {},
+        faults_.Error(block.At,
                            u"ブロックが長すぎます。64KB までです。中身を関数に分けて下さい。");
     PatchU16(block.LengthAt, length);
     if (isEnd) {

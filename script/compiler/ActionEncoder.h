@@ -5,7 +5,7 @@
 #include <unordered_set>
 
 #include "script/compiler/ActionCode.h"
-#include "script/compiler/Diagnostics.h"
+#include "script/compiler/FaultReport.h"
 #include "script/compiler/SymbolTable.h"
 
 namespace tamber {
@@ -14,8 +14,8 @@ namespace tamber {
 /// and jumps.
 class ActionEncoder {
 public:
-    ActionEncoder(SymbolTable& symbols, Long version, Diagnostics& diagnostics)
-        : symbols_(symbols), version_(version), diagnostics_(diagnostics) {}
+    ActionEncoder(SymbolTable& symbols, Long version, FaultReport& faults)
+        : symbols_(symbols), version_(version), faults_(faults) {}
 
     /// The constant pool that both codes share, then the one code, then the other.
     Bytes Encode(const ActionCode& first, const ActionCode& second);
@@ -25,7 +25,7 @@ private:
     struct OpenBlock {
         std::size_t LengthAt;
         std::size_t Begin;
-        std::uint32_t Line;
+        Spot At;
     };
     struct OpenJump {
         std::size_t OffsetAt;
@@ -46,11 +46,11 @@ private:
     void WriteFunction(const ActionCode& code, const ActionCode::FunctionRecord& function);
     bool IsOwn(const Symbol& name);
     void WriteCastOrCall(const Symbol& name);
-    void WriteTry(std::uint32_t line);
+    void WriteTry(Spot spot);
     void WriteUrl(const ActionCode::UrlRecord& record);
     void WriteShort(Opcode opcode, std::uint32_t operand, std::size_t size);
     void WriteNamed(Opcode opcode, std::string_view name);
-    void BeginBlock(std::size_t lengthAt, std::uint32_t line);
+    void BeginBlock(std::size_t lengthAt, Spot spot);
     void EndBlock(bool isEnd);
     void LinkJumps(const ActionCode& code);
 
@@ -71,7 +71,7 @@ private:
 
     SymbolTable& symbols_;
     Long version_;
-    Diagnostics& diagnostics_;
+    FaultReport& faults_;
     Bytes bytes_;
     /// Where the open push record begins; 0 for none.
     std::size_t push_ = 0;

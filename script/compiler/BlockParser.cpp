@@ -1,10 +1,30 @@
+#include <utility>
+
 #include "script/compiler/Parser.h"
 #include "script/compiler/ParserState.h"
 
 namespace tamber {
 
+namespace {
+
+/// While the block of a handler is read, the name of what it catches is declared.
+class CaughtName {
+public:
+    CaughtName(Symbol& name, std::uint32_t function)
+        : name_(name), outer_(std::exchange(name.DeclaredIn, function)) {}
+    CaughtName(const CaughtName&) = delete;
+    CaughtName& operator=(const CaughtName&) = delete;
+    ~CaughtName() { name_.DeclaredIn = outer_; }
+
+private:
+    Symbol& name_;
+    std::uint32_t outer_;
+};
+
+}  // namespace
+
 Node* Parser::SwitchStatement() {
-    Node* node = Make(NodeKind::Switch, token_.Line);
+    Node* node = Make(NodeKind::Switch, token_.At);
     Advance();
     node->A = Condition();
     Expect(TokenKind::OpenBrace, u"{");
@@ -13,7 +33,7 @@ Node* Parser::SwitchStatement() {
     ++switches_;
     while (!Accept(TokenKind::CloseBrace)) {
         if (Is(TokenKind::Default)) {
-            if (hasDefault) Complain(token_.Line, token_.Text, u"default は一つだけです。");
+            if (hasDefault) Complain(token_.At, token_.Text, u"default は一つだけです。");
             hasDefault = true;
         }
         if (Node* clause = GuardedClause()) cases.Add(clause);
@@ -49,7 +69,7 @@ void Parser::SkipToClause() {
 }
 
 Node* Parser::CaseClause() {
-    Node* node = Make(NodeKind::Case, token_.Line);
+    Node* node = Make(NodeKind::Case, token_.At);
     if (Accept(TokenKind::Case)) {
         ++colonsAwaited_;
         node->A = Expression();
@@ -66,14 +86,14 @@ Node* Parser::CaseClause() {
         if (Node* statement = GuardedStatement()) list.Add(statement);
     }
     --blocks_;
-    node->B = list.First;
+    node->B = FunctionsFirst(list);
     node->Count = list.Count;
     return node;
 }
 
 Node* Parser::WithStatement() {
-    Node* node = Make(NodeKind::With, token_.Line);
-    NeedVersion(5, token_.Text, token_.Line);
+    Node* node = Make(NodeKind::With, token_.At);
+    NeedVersion(5, token_.Text, token_.At);
     Advance();
     node->A = Condition();
     if (function_ != nullptr) function_->NeedsNames = true;
@@ -81,17 +101,25 @@ Node* Parser::WithStatement() {
     return node;
 }
 
+/// A target within the one around leads back to it.
+void Parser::NoteTarget() {
+    if (target_ != nullptr) target_->Flag = true;
+}
+
 Node* Parser::TellTargetStatement() {
-    Node* node = Make(NodeKind::TellTarget, token_.Line);
+    Node* node = Make(NodeKind::TellTarget, token_.At);
     Advance();
     node->A = Condition();
+    NoteTarget();
+    Node* const outer = std::exchange(target_, node);
     node->B = Body();
+    target_ = outer;
     return node;
 }
 
 /// With two arguments the first is a scene; frames are counted, and labels known, over all of them.
 Node* Parser::IfFrameLoadedStatement() {
-    Node* node = Make(NodeKind::IfFrameLoaded, token_.Line);
+    Node* node = Make(NodeKind::IfFrameLoaded, token_.At);
     Advance();
     Expect(TokenKind::OpenParenthesis, u"(");
     node->A = Assignment();
@@ -102,8 +130,8 @@ Node* Parser::IfFrameLoadedStatement() {
 }
 
 Node* Parser::TryStatement() {
-    Node* node = Make(NodeKind::Try, token_.Line);
-    NeedVersion(7, token_.Text, token_.Line);
+    Node* node = Make(NodeKind::Try, token_.At);
+    NeedVersion(7, token_.Text, token_.At);
     Advance();
     node->A = GuardedBlock(node, &Parser::Block);
     const bool isCaught = Is(TokenKind::Catch);
@@ -140,14 +168,14 @@ Node* Parser::GuardedHandler() {
 }
 
 Node* Parser::Handler() {
-    Node* handler = Make(NodeKind::Catch, token_.Line);
+    Node* handler = Make(NodeKind::Catch, token_.At);
     Advance();
     Expect(TokenKind::OpenParenthesis, u"(");
     handler->Name = TakeName(u"変数名");
-    Declare(handler->Name);
-    KeepNamed(handler->Name);
+    if (function_ == nullptr) handler->Name->IsOwn = true;
     if (Accept(TokenKind::Colon)) handler->A = CaughtType();
     Expect(TokenKind::CloseParenthesis, u")");
+    const CaughtName caught(*handler->Name, function_ == nullptr ? 0 : function_->Number);
     handler->B = Block();
     return handler;
 }
@@ -163,8 +191,8 @@ Node* Parser::CaughtType() {
 }
 
 Node* Parser::ThrowStatement() {
-    Node* node = Make(NodeKind::Throw, token_.Line);
-    NeedVersion(7, token_.Text, token_.Line);
+    Node* node = Make(NodeKind::Throw, token_.At);
+    NeedVersion(7, token_.Text, token_.At);
     Advance();
     node->A = Expression();
     EndStatement();

@@ -96,7 +96,7 @@ bool CodeGenerator::BuiltinCall(const Builtin& builtin, const Node& node) {
         String text = u"引数の数が正しくありません。（" + ToText(Long{builtin.MinArguments});
         if (builtin.MaxArguments != builtin.MinArguments)
             text += u"～" + ToText(Long{builtin.MaxArguments});
-        diagnostics_.Error(node.Line, builtin.Name, text + u"個）");
+        Complain(node, text + u"個）");
         return builtin.HasValue;
     }
     if (version_ < builtin.MinVersion) NeedVersion5(node);
@@ -262,7 +262,7 @@ void CodeGenerator::New(const Node& node) {
 void CodeGenerator::Goto(const Node& node, bool isPlay) {
     const Node& frame = node.Count == 2 ? *node.B->Next : *node.B;
     if (node.Count == 2)
-        diagnostics_.Warn(node.Line, {},
+        faults_.Warn(node.At,
                           u"シーンはありません。フレームはムービーの先頭から数えます。");
     if (IsWhole(frame, 1, 65535)) {
         code_->Emit(ItemKind::GotoFrame, static_cast<std::uint32_t>(frame.Value) - 1);
@@ -422,7 +422,7 @@ void CodeGenerator::PushProperty(const Node& node) {
     Byte number = 0;
     if (PropertyNumber(node, number)) return PushInteger(number);
     if (node.Kind == NodeKind::Text)
-        return diagnostics_.Error(node.Line, node.Name->Text,
+        return Complain(node,
                                   u"この名前のプロパティはありません。");
     Expression(node);
 }

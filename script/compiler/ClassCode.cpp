@@ -21,7 +21,7 @@ void CodeGenerator::Class(const Node& node) {
     for (const MemberNode* member = definition.FirstMember; member; member = member->Next)
         record.Members[member->Name] = member->IsStatic;
     if (definition.IsIntrinsic) return;
-    const Label end = code_->NewLabel(node.Line);
+    const Label end = code_->NewLabel(node.At);
     ClassPath(*definition.Name);
     code_->JumpIf(end);
     if (definition.Name->Kind == NodeKind::Member) Package(*definition.Name->A);
@@ -57,7 +57,7 @@ std::string CodeGenerator::DottedPath(const Node& node) const {
 /// if (!_global.a.b) _global.a.b = new Object();, from the outermost on.
 void CodeGenerator::Package(const Node& node) {
     if (node.Kind == NodeKind::Member) Package(*node.A);
-    const Label end = code_->NewLabel(node.Line);
+    const Label end = code_->NewLabel(node.At);
     ClassPath(node);
     code_->JumpIf(end);
     ClassOwner(node);
@@ -102,7 +102,7 @@ void CodeGenerator::Constructor(const ClassNode& node) {
         call.Kind = NodeKind::Call;
         call.A = &super;
         FunctionNode function;
-        function.Line = node.Line;
+        function.At = node.At;
         function.RegisterCount = 2;
         if (node.Base != nullptr) {
             function.UsesSuper = true;

@@ -7,7 +7,7 @@
 
 #include "script/compiler/ActionCode.h"
 #include "script/compiler/ConstantFolder.h"
-#include "script/compiler/Diagnostics.h"
+#include "script/compiler/FaultReport.h"
 #include "script/compiler/Node.h"
 
 namespace tamber {
@@ -18,7 +18,7 @@ struct Builtin;
 /// own, which runs first.
 class CodeGenerator {
 public:
-    CodeGenerator(SymbolTable& symbols, Long version, Diagnostics& diagnostics);
+    CodeGenerator(SymbolTable& symbols, Long version, FaultReport& faults);
 
     /// One statement at the top.
     void Generate(const Node& statement);
@@ -29,7 +29,7 @@ private:
     using Label = ActionCode::Label;
 
     // What surrounds the code being made.
-    enum class ScopeKind : Byte { Loop, ForIn, Switch, TellTarget, Guard, Last };
+    enum class ScopeKind : Byte { Loop, ForIn, Switch, KnownTarget, TellTarget, Guard, Last };
     struct Scope {
         ScopeKind Kind;
         /// Where break and continue lead; of a guard, the end of its block.
@@ -42,9 +42,6 @@ private:
     static constexpr std::size_t NoRecord = SIZE_MAX;
     /// Expressions in each other that are made by recursion on the left.
     static constexpr int MaxDepth = 2000;
-    /// Pieces of code at most, some 250 MB with their lines: places that are worked out twice
-    /// within each other double it each time.
-    static constexpr std::size_t MostItems = 32'000'000;
 
     struct FunctionState {
         const FunctionNode* Node = nullptr;
@@ -68,10 +65,13 @@ private:
         PlaceKind Kind = PlaceKind::Variable;
         Byte Register = 0;
         Byte Property = 0;
-        /// The variable, the member, or in version 4 the path of the clip with the property.
+        /// The variable, the member, in version 4 the path of the clip with the property, or the
+        /// variable that keeps the name.
         Symbol* Name = nullptr;
         const Node* Object = nullptr;
         const Node* Key = nullptr;
+        /// Of a member of the class, whether an object of a `with` may have one of that name.
+        bool IsWithin = false;
     };
     struct ClassRecord {
         const Node* Name = nullptr;
@@ -96,7 +96,7 @@ private:
     void While(const Node& node);
     void DoWhile(const Node& node);
     void For(const Node& node);
-    void Loop(const Node* condition, const Node& body, const Node* step, std::uint32_t line);
+    void Loop(const Node* condition, const Node& body, const Node* step, Spot spot);
     void ForIn(const Node& node);
     void EnumerateObject(const Node& node);
     void AssignEnumerated(const Node& target);
@@ -106,19 +106,24 @@ private:
     void TestOfCase(const Node& value);
     void With(const Node& node);
     void TellTarget(const Node& node);
-    void SetTarget(const Node& target);
+    bool SetKnownTarget(const Node& target);
+    bool KeepsTargetsApart() const;
+    void PushKeptTarget(std::size_t scope);
+    void LeaveTarget(std::size_t scope);
+    void SetKeptTarget(std::size_t scope);
     void RestoreTarget(std::size_t scopes);
     void IfFrameLoaded(const Node& node);
     void Try(const Node& node);
     void TryCatch(const Node& node);
     void Finally(const Node& node);
     void Handlers(const Node& first);
+    void Handler(const Node& node);
     void TestOfType(const Node& type, Label otherwise);
     template <class Body>
     void GuardBlock(const Node& statement, const Body& body);
     void EndGuard(Label end);
     std::uint32_t MarksOf(const Node& statement) const;
-    void FollowMarks(std::uint32_t marks, std::uint32_t line);
+    void FollowMarks(std::uint32_t marks, Spot spot);
     void FollowMark(std::uint32_t mark);
     void Leave(NodeKind kind);
     void LeaveGuard(const Scope& scope, std::uint32_t mark);
@@ -146,6 +151,7 @@ private:
     static bool IsNegated(Operator op);
     Opcode ActionOf(Operator op) const;
     void Unary(const Node& node);
+    void MakeNumber();
     void Delete(const Node& target);
     void Conditional(const Node& node);
     void ObjectLiteral(const Node& node);
@@ -171,18 +177,22 @@ private:
     void PushObject(const Place& place);
     bool HasSharedRegisters() const;
     void PushPlaceUnderValue(const Place& place);
+    void PushOwner(const Place& place);
+    void LoadWithOwner(const Place& place);
+    void LoadPlace(const Place& place);
     void Load(const Place& place);
     void Store(const Place& place);
     void Assign(const Node& node, bool isWanted);
     void AssignPlain(const Place& place, const Node& value, bool isWanted);
-    void StoreWanted(const Place& place, bool isWanted);
+    void StoreKeeping(const Place& place, Operator step = Operator::None);
+    void TakeIndex();
+    void PushIndex();
+    Place NamedOnce(const Place& place, bool isNeededAgain);
     void Change(const Place& place, const Node* value, Operator op, bool isWanted);
     void ChangeComplex(const Place& place, const Node* value, Operator op, bool isWanted);
     void ApplyChange(const Node* value, Operator op);
     void Increment(const Node& node, bool isWanted);
     void IncrementAfter(const Place& place, Operator op);
-    void IncrementMemberAfter(const Place& place, Operator op);
-    void IncrementIndexAfter(const Place& place, Operator op);
     void PushKeptPlace(const Place& place);
     bool IsSimplePlace(const Place& place) const;
     void ChooseKeyRegisters();
@@ -250,7 +260,7 @@ private:
 
     SymbolTable& symbols_;
     Long version_;
-    Diagnostics& diagnostics_;
+    FaultReport& faults_;
     ConstantFolder folder_;
     ActionCode functions_;
     ActionCode main_;
@@ -266,6 +276,8 @@ private:
     /// The names of the classes, which outlive their statements.
     std::deque<Node> classNames_;
     int depth_ = 0;
+    /// Assignments and increments in each other.
+    int changes_ = 0;
     bool isTooLong_ = false;
 };
 

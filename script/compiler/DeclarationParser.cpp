@@ -23,13 +23,13 @@ int PreloadedCount(const FunctionNode& function) {
 }  // namespace
 
 Node* Parser::FunctionStatement() {
-    const std::uint32_t line = token_.Line;
+    const Spot spot = token_.At;
     Advance();
-    Node* node = FunctionRest(FunctionName(), line);
+    Node* node = FunctionRest(FunctionName(), spot);
     node->Flag = true;
     if (function_ == nullptr || blocks_ > 0) return node;
     function_->Functions.Add(node);
-    return Make(NodeKind::Empty, line);
+    return Make(NodeKind::Empty, spot);
 }
 
 /// A function with a name becomes a variable of that name.
@@ -41,20 +41,21 @@ Symbol* Parser::FunctionName() {
 }
 
 /// What stands behind the name: parameters, the type of the result, the body.
-Node* Parser::FunctionRest(Symbol* name, std::uint32_t line) {
+Node* Parser::FunctionRest(Symbol* name, Spot spot) {
     const Level level(*this);
-    NeedVersion(5, "function", line);
-    Node* node = Make(NodeKind::Function, line);
+    NeedVersion(5, "function", spot);
+    Node* node = Make(NodeKind::Function, spot);
     FunctionNode* function = arena_.Make<FunctionNode>();
     node->Function = function;
     function->Name = name;
     const bool inMethod = function_ != nullptr && function_->IsMethod;
     const bool isDerived = std::exchange(isDerivedNext_, false);
     function->IsMethod = std::exchange(isMethodNext_, false) || inMethod;
-    function->Line = line;
+    function->At = spot;
     function->Number = ++functionCount_;
     function->Depth = function_ == nullptr ? 1 : function_->Depth + 1;
     FunctionNode* const outer = std::exchange(function_, function);
+    Node* const target = std::exchange(target_, nullptr);
     const int loops = std::exchange(loops_, 0);
     const int switches = std::exchange(switches_, 0);
     const int blocks = std::exchange(blocks_, 0);
@@ -74,6 +75,7 @@ Node* Parser::FunctionRest(Symbol* name, std::uint32_t line) {
     colonsAwaited_ = colons;
     firstGuard_ = firstGuard;
     function_ = outer;
+    target_ = target;
     if (outer != nullptr && function->NeedsNames) outer->NeedsNames = true;
     CloseFunction(*function, firstUse);
     return node;
@@ -81,9 +83,9 @@ Node* Parser::FunctionRest(Symbol* name, std::uint32_t line) {
 
 /// A constructor that does not say how its base's is called calls it without arguments.
 void Parser::CallBaseFirst(FunctionNode& function) {
-    Node* statement = Make(NodeKind::Expression, function.Line);
-    statement->A = Make(NodeKind::Call, function.Line);
-    statement->A->A = Make(NodeKind::Super, function.Line);
+    Node* statement = Make(NodeKind::Expression, function.At);
+    statement->A = Make(NodeKind::Call, function.At);
+    statement->A->A = Make(NodeKind::Super, function.At);
     statement->Next = function.Body;
     function.Body = statement;
     function.UsesSuper = true;
@@ -108,10 +110,10 @@ void Parser::Parameters(FunctionNode& function) {
 
 /// Of two with one name the player takes the later, by the name.
 void Parser::Parameter(FunctionNode& function) {
-    const std::uint32_t line = token_.Line;
+    const Spot spot = token_.At;
     Symbol* name = TakeName(u"引数の名前");
     if (name->DeclaredIn == function.Number) {
-        diagnostics_.Warn(line, name->Text, u"同じ名前の引数があります。後のものだけが働きます。");
+        diagnostics_.Warn(spot, name->Text, u"同じ名前の引数があります。後のものだけが働きます。");
         KeepNamed(name);
     }
     AddDeclared(name);
@@ -147,7 +149,7 @@ void Parser::ChooseRegisters(FunctionNode& function, std::size_t firstUse) {
 }
 
 Node* Parser::DottedName() {
-    Node* node = Make(NodeKind::Name, token_.Line);
+    Node* node = Make(NodeKind::Name, token_.At);
     node->Name = TakeName(u"クラス名");
     return MembersOf(node);
 }
@@ -155,7 +157,7 @@ Node* Parser::DottedName() {
 /// The names behind dots that follow one.
 Node* Parser::MembersOf(Node* node) {
     while (Accept(TokenKind::Dot)) {
-        Node* member = Make(NodeKind::Member, token_.Line);
+        Node* member = Make(NodeKind::Member, token_.At);
         member->A = node;
         member->Name = TakeMemberName();
         if ((member->Count = node->Count + 1) > MaxDepth) Fail(u"名前が長すぎます。");
@@ -166,15 +168,15 @@ Node* Parser::MembersOf(Node* node) {
 
 /// `import a.b.C;` lets C stand for a.b.C. The classes of `import a.b.*;` are not known.
 Node* Parser::ImportStatement() {
-    const std::uint32_t line = token_.Line;
-    NeedVersion(6, token_.Text, line);
+    const Spot spot = token_.At;
+    NeedVersion(6, token_.Text, spot);
     Advance();
     std::vector<Symbol*> path{TakeName(u"クラス名")};
     while (Accept(TokenKind::Dot)) {
         if (Accept(TokenKind::Star)) {
-            diagnostics_.Warn(line, "*", u"クラスの名前を一つずつ書いて下さい。");
+            diagnostics_.Warn(spot, "*", u"クラスの名前を一つずつ書いて下さい。");
             EndStatement();
-            return Make(NodeKind::Empty, line);
+            return Make(NodeKind::Empty, spot);
         }
         path.push_back(TakeMemberName());
         if (path.size() > MaxDepth) Fail(u"名前が長すぎます。");
@@ -182,7 +184,7 @@ Node* Parser::ImportStatement() {
     const Symbol* name = path.back();
     if (path.size() > 1) imports_[name] = std::move(path);
     EndStatement();
-    return Make(NodeKind::Empty, line);
+    return Make(NodeKind::Empty, spot);
 }
 
 bool Parser::IsClassAhead() {
@@ -193,8 +195,8 @@ bool Parser::IsClassAhead() {
 }
 
 Node* Parser::ClassStatement() {
-    Node* node = Make(NodeKind::Class, token_.Line);
-    NeedVersion(6, token_.Text, token_.Line);
+    Node* node = Make(NodeKind::Class, token_.At);
+    NeedVersion(6, token_.Text, token_.At);
     if (function_ != nullptr || inClass_) Fail(u"クラスは関数の外に書いて下さい。");
     ClassNode* definition = arena_.Make<ClassNode>();
     node->Class = definition;
@@ -202,7 +204,7 @@ Node* Parser::ClassStatement() {
         definition->IsIntrinsic = definition->IsIntrinsic || IsSpecial(SpecialName::Intrinsic);
         Advance();
     }
-    definition->Line = token_.Line;
+    definition->At = token_.At;
     definition->IsInterface = IsSpecial(SpecialName::Interface);
     if (!definition->IsInterface && !IsSpecial(SpecialName::Class)) Fail(u"class が必要です。");
     Advance();
@@ -269,7 +271,7 @@ Node* Parser::ClassReference() {
     const Token first = token_;
     Node* name = DottedName();
     if (name->Kind != NodeKind::Name) return name;
-    Node* imported = Imported(name->Name, first.Line);
+    Node* imported = Imported(name->Name, first.At);
     return imported != nullptr ? imported : name;
 }
 
@@ -309,7 +311,7 @@ void Parser::Field(ClassNode& node, bool isStatic) {
         Advance();
         MemberNode member;
         member.IsStatic = isStatic;
-        member.Line = token_.Line;
+        member.At = token_.At;
         member.Name = TakeName(u"変数名");
         SkipType();
         if (Accept(TokenKind::Assign)) member.Value = Assignment();
@@ -322,7 +324,7 @@ void Parser::Method(ClassNode& node, bool isStatic) {
     MemberNode member;
     member.Kind = MemberKind::Method;
     member.IsStatic = isStatic;
-    member.Line = token_.Line;
+    member.At = token_.At;
     Advance();
     if ((IsSpecial(SpecialName::Get) || IsSpecial(SpecialName::Set)) &&
         Peek().Kind != TokenKind::OpenParenthesis) {
@@ -339,10 +341,10 @@ void Parser::Method(ClassNode& node, bool isStatic) {
     }
     isMethodNext_ = !isStatic;
     isDerivedNext_ = isConstructor && node.Base != nullptr;
-    member.Value = FunctionRest(nullptr, member.Line);
+    member.Value = FunctionRest(nullptr, member.At);
     if (!isConstructor) return AddMember(node, member);
     if (node.Constructor != nullptr)
-        Complain(member.Line, member.Name->Text, u"コンストラクタは一つだけです。");
+        Complain(member.At, member.Name->Text, u"コンストラクタは一つだけです。");
     node.Constructor = member.Value;
 }
 

@@ -18,6 +18,14 @@ bool ComesBefore(const Diagnostic& a, const Diagnostic& b) {
     return a.Line < b.Line;
 }
 
+/// As many as are kept, in the order of their lines.
+void MergeLists(std::vector<Diagnostic>& list, const std::vector<Diagnostic>& others,
+                std::size_t limit) {
+    list.insert(list.end(), others.begin(), others.end());
+    std::stable_sort(list.begin(), list.end(), ComesBefore);
+    if (list.size() > limit) list.resize(limit);
+}
+
 /// One line without single quotes, which enclose a token.
 String TokenText(const std::string& token, Long version) {
     const ByteView bytes(reinterpret_cast<const Byte*>(token.data()), token.size());
@@ -38,21 +46,21 @@ String Place(const Diagnostic& diagnostic, Long version) {
 
 }  // namespace
 
-void Diagnostics::Error(std::uint32_t line, std::string_view token, String text) {
+void Diagnostics::Error(Spot spot, std::string_view token, String text) {
     if (!IsFull())
-        errors_.push_back({static_cast<Long>(line), std::string(token.substr(0, MaxTokenBytes)),
+        errors_.push_back({static_cast<Long>(spot.Line), std::string(token.substr(0, MaxTokenBytes)),
                            std::move(text)});
 }
 
-void Diagnostics::Warn(std::uint32_t line, std::string_view token, String text) {
+void Diagnostics::Warn(Spot spot, std::string_view token, String text) {
     if (warnings_.size() < MaxWarnings)
-        warnings_.push_back({static_cast<Long>(line), std::string(token.substr(0, MaxTokenBytes)),
+        warnings_.push_back({static_cast<Long>(spot.Line), std::string(token.substr(0, MaxTokenBytes)),
                              std::move(text)});
 }
 
-void Diagnostics::Sort() {
-    std::stable_sort(errors_.begin(), errors_.end(), ComesBefore);
-    std::stable_sort(warnings_.begin(), warnings_.end(), ComesBefore);
+void Diagnostics::Merge(const Diagnostics& other) {
+    MergeLists(errors_, other.errors_, MaxErrors);
+    MergeLists(warnings_, other.warnings_, MaxWarnings);
 }
 
 std::string DiagnosticText(const std::vector<Diagnostic>& errors,

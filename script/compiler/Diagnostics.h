@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "script/compiler/Diagnostic.h"
+#include "script/compiler/Spot.h"
 
 namespace tamber {
 
@@ -14,14 +15,14 @@ public:
     static constexpr std::size_t MaxErrors = 20;
     static constexpr std::size_t MaxWarnings = 50;
 
-    void Error(std::uint32_t line, std::string_view token, String text);
-    void Warn(std::uint32_t line, std::string_view token, String text);
+    void Error(Spot spot, std::string_view token, String text);
+    void Warn(Spot spot, std::string_view token, String text);
     bool HasErrors() const { return !errors_.empty(); }
     bool IsFull() const { return errors_.size() >= MaxErrors; }
     const std::vector<Diagnostic>& Errors() const { return errors_; }
     const std::vector<Diagnostic>& Warnings() const { return warnings_; }
-    /// In the order of the lines.
-    void Sort();
+    /// Adds what another has found, and puts all in the order of the lines.
+    void Merge(const Diagnostics& other);
 
 private:
     std::vector<Diagnostic> errors_;

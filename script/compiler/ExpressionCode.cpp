@@ -6,7 +6,7 @@
 namespace tamber {
 
 void CodeGenerator::Expression(const Node& node) {
-    if (code_->Items.size() > MostItems) return TooLong(node);
+    if (code_->IsFull()) return TooLong(node);
     switch (node.Kind) {
         case NodeKind::Number:
         case NodeKind::Text:
@@ -22,11 +22,8 @@ void CodeGenerator::Expression(const Node& node) {
             return Super();
         case NodeKind::SlashPath:
         case NodeKind::Member:
-        case NodeKind::Index: {
-            const Place place = PlaceOf(node);
-            PushPlace(place);
-            return Load(place);
-        }
+        case NodeKind::Index:
+            return LoadPlace(PlaceOf(node));
         case NodeKind::Call:
             if (!Call(node)) Undefined();
             return;
@@ -82,8 +79,8 @@ void CodeGenerator::Effect(const Node& node) {
 }
 
 void CodeGenerator::EffectOfConditional(const Node& node) {
-    const Label otherwise = code_->NewLabel(node.Line);
-    const Label end = code_->NewLabel(node.Line);
+    const Label otherwise = code_->NewLabel(node.At);
+    const Label end = code_->NewLabel(node.At);
     const bool isSwapped = EndsInNot(*node.A);
     Condition(*node.A, otherwise, !isSwapped);
     Effect(isSwapped ? *node.B : *node.C);
@@ -135,8 +132,7 @@ void CodeGenerator::Name(const Node& node) {
     const Place place = PlaceOf(node);
     if (number != Symbol::NoRegister && place.Kind == PlaceKind::Variable)
         return code_->PushRegister(number);
-    PushPlace(place);
-    Load(place);
+    LoadPlace(place);
 }
 
 void CodeGenerator::This() {
@@ -305,8 +301,8 @@ void CodeGenerator::Reversed(const Node& node) {
 
 /// 1 or 0 of a condition.
 void CodeGenerator::TruthValue(const Node& condition) {
-    const Label holds = code_->NewLabel(condition.Line);
-    const Label end = code_->NewLabel(condition.Line);
+    const Label holds = code_->NewLabel(condition.At);
+    const Label end = code_->NewLabel(condition.At);
     Condition(condition, holds, true);
     PushInteger(0);
     code_->Jump(end);
@@ -318,7 +314,7 @@ void CodeGenerator::TruthValue(const Node& condition) {
 /// The right operand and the action; the left operand lies on the stack.
 void CodeGenerator::BinaryRest(const Node& node) {
     if (IsLogical(node)) {
-        const Label end = code_->NewLabel(node.Line);
+        const Label end = code_->NewLabel(node.At);
         code_->Emit(Opcode::PushDuplicate);
         if (node.Op == Operator::And) code_->Emit(Opcode::Not);
         code_->JumpIf(end);
@@ -361,9 +357,7 @@ void CodeGenerator::Unary(const Node& node) {
             return code_->Emit(Opcode::Subtract);
         case Operator::Plus:
             Expression(*node.A);
-            if (version_ >= 5) return code_->Emit(Opcode::ToNumber);
-            PushInteger(0);
-            return code_->Emit(Opcode::Add);
+            return MakeNumber();
         case Operator::BitNot:
             Expression(*node.A);
             PushInteger(-1);
@@ -377,6 +371,13 @@ void CodeGenerator::Unary(const Node& node) {
         default:
             return Delete(*node.A);
     }
+}
+
+/// A number of the value that lies on the stack.
+void CodeGenerator::MakeNumber() {
+    if (version_ >= 5) return code_->Emit(Opcode::ToNumber);
+    PushInteger(0);
+    code_->Emit(Opcode::Add);
 }
 
 void CodeGenerator::Delete(const Node& target) {
@@ -404,8 +405,8 @@ void CodeGenerator::Delete(const Node& target) {
 void CodeGenerator::Conditional(const Node& node) {
     const int known = folder_.ConditionOf(*node.A);
     if (known >= 0) return Expression(known == 1 ? *node.B : *node.C);
-    const Label otherwise = code_->NewLabel(node.Line);
-    const Label end = code_->NewLabel(node.Line);
+    const Label otherwise = code_->NewLabel(node.At);
+    const Label end = code_->NewLabel(node.At);
     const bool isSwapped = EndsInNot(*node.A);
     Condition(*node.A, otherwise, !isSwapped);
     Expression(isSwapped ? *node.B : *node.C);
@@ -440,7 +441,7 @@ void CodeGenerator::ConditionChain(const Node& node, Label label, bool jumpIf) {
     for (; left->Kind == NodeKind::Binary && left->Op == op; left = left->A)
         spine_.push_back(left->B);
     const bool decides = op == Operator::Or;
-    const Label end = code_->NewLabel(node.Line);
+    const Label end = code_->NewLabel(node.At);
     const Label early = decides == jumpIf ? label : end;
     Condition(*left, early, decides);
     while (spine_.size() > base) {

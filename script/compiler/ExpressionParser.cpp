@@ -83,6 +83,8 @@ BinaryOperator BinaryOperatorOf(TokenKind kind) {
     }
 }
 
+/// First version whose calls with dots are no targets.
+constexpr Long FirstObjectVersion = 5;
 constexpr TokenKind FirstCompound = TokenKind::AddAssign;
 constexpr TokenKind LastCompound = TokenKind::UnsignedRightAssign;
 
@@ -98,7 +100,7 @@ constexpr Operator CompoundOperators[] = {
 Node* Parser::Expression() {
     Node* first = Assignment();
     if (!Is(TokenKind::Comma)) return first;
-    Node* comma = Make(NodeKind::Comma, first->Line);
+    Node* comma = Make(NodeKind::Comma, first->At);
     NodeList list;
     list.Add(first);
     while (Accept(TokenKind::Comma)) list.Add(Assignment());
@@ -115,11 +117,11 @@ Node* Parser::Assignment() {
     if (!isCompound && !Is(TokenKind::Assign)) return left;
     CheckTarget(*left);
     if (left->Kind == NodeKind::Name && left->Name->DeclaredIn == 0) left->Name->IsOwn = true;
-    Node* node = Make(NodeKind::Assign, token_.Line);
+    Node* node = Make(NodeKind::Assign, token_.At);
     if (isCompound) {
         node->Op =
             CompoundOperators[static_cast<int>(token_.Kind) - static_cast<int>(FirstCompound)];
-        if (node->Op >= Operator::Modulo) NeedVersion(5, token_.Text, token_.Line);
+        if (node->Op >= Operator::Modulo) NeedVersion(5, token_.Text, token_.At);
     }
     Advance();
     node->A = left;
@@ -128,7 +130,7 @@ Node* Parser::Assignment() {
 }
 
 Node* Parser::ConditionalRest(Node* condition) {
-    Node* node = Make(NodeKind::Conditional, token_.Line);
+    Node* node = Make(NodeKind::Conditional, token_.At);
     Advance();
     node->A = condition;
     ++colonsAwaited_;
@@ -144,15 +146,15 @@ Node* Parser::BinaryChain(int lowest) {
     for (;;) {
         const BinaryOperator found = BinaryOperatorOf(token_.Kind);
         if (found.Precedence == 0 || found.Precedence < lowest) return left;
-        const std::uint32_t line = token_.Line;
-        if (version_ < found.FirstVersion) NeedVersion(found.FirstVersion, token_.Text, line);
+        const Spot spot = token_.At;
+        if (version_ < found.FirstVersion) NeedVersion(found.FirstVersion, token_.Text, spot);
         Advance();
-        left = MakeBinary(found.Op, left, BinaryChain(found.Precedence + 1), line);
+        left = MakeBinary(found.Op, left, BinaryChain(found.Precedence + 1), spot);
     }
 }
 
-Node* Parser::MakeBinary(Operator op, Node* left, Node* right, std::uint32_t line) {
-    Node* node = Make(NodeKind::Binary, line);
+Node* Parser::MakeBinary(Operator op, Node* left, Node* right, Spot spot) {
+    Node* node = Make(NodeKind::Binary, spot);
     node->Op = op;
     node->A = left;
     node->B = right;
@@ -186,10 +188,10 @@ Node* Parser::Unary() {
 
 Node* Parser::UnaryOperator(Operator op) {
     const Level level(*this);
-    Node* node = Make(NodeKind::Unary, token_.Line);
+    Node* node = Make(NodeKind::Unary, token_.At);
     node->Op = op;
     if (op >= Operator::BitNot && op != Operator::Plus && op != Operator::Minus)
-        NeedVersion(5, token_.Text, token_.Line);
+        NeedVersion(5, token_.Text, token_.At);
     Advance();
     node->A = Unary();
     if (op == Operator::Delete && node->A->Kind == NodeKind::Name) KeepNamed(node->A->Name);
@@ -198,7 +200,7 @@ Node* Parser::UnaryOperator(Operator op) {
 
 Node* Parser::IncrementBefore() {
     const Level level(*this);
-    Node* node = Make(NodeKind::Increment, token_.Line);
+    Node* node = Make(NodeKind::Increment, token_.At);
     node->Op = Is(TokenKind::PlusPlus) ? Operator::Add : Operator::Subtract;
     node->Flag = true;
     Advance();
@@ -215,7 +217,7 @@ Node* Parser::Postfix() {
 
 Node* Parser::IncrementAfter(Node* target) {
     CheckTarget(*target);
-    Node* node = Make(NodeKind::Increment, token_.Line);
+    Node* node = Make(NodeKind::Increment, token_.At);
     node->Op = Is(TokenKind::PlusPlus) ? Operator::Add : Operator::Subtract;
     node->A = target;
     Advance();
@@ -226,25 +228,26 @@ Node* Parser::IncrementAfter(Node* target) {
 Node* Parser::PostfixOf(Node* node) {
     for (int length = 0;; ++length) {
         if (length > MaxDepth) Fail(u"メンバーや呼び出しの連なりが長すぎます。");
-        const std::uint32_t line = token_.Line;
+        const Spot spot = token_.At;
         if (Accept(TokenKind::Dot)) {
-            Node* member = Make(NodeKind::Member, line);
+            Node* member = Make(NodeKind::Member, token_.At);
             member->A = node;
             member->Name = TakeMemberName();
             node = member;
         } else if (Is(TokenKind::OpenBracket)) {
-            NeedVersion(5, token_.Text, line);
+            NeedVersion(5, token_.Text, spot);
             Advance();
-            Node* index = Make(NodeKind::Index, line);
+            Node* index = Make(NodeKind::Index, spot);
             index->A = node;
             index->B = Expression();
             Expect(TokenKind::CloseBracket, u"]");
             node = index;
         } else if (Is(TokenKind::OpenParenthesis)) {
-            Node* call = Make(NodeKind::Call, line);
+            Node* call = Make(NodeKind::Call, node->At);
             if (node->Kind == NodeKind::Super && function_ != nullptr) function_->CallsSuper = true;
             call->A = node;
             if (node->Kind == NodeKind::Name) NoteCall(node->Name);
+            if (node->Kind == NodeKind::SlashPath || version_ < FirstObjectVersion) NoteTarget();
             Arguments(call);
             node = call;
         } else {
@@ -269,12 +272,12 @@ void Parser::Arguments(Node* call) {
 
 Node* Parser::NewExpression() {
     const Level level(*this);
-    NeedVersion(5, token_.Text, token_.Line);
-    Node* node = Make(NodeKind::New, token_.Line);
+    NeedVersion(5, token_.Text, token_.At);
+    Node* node = Make(NodeKind::New, token_.At);
     Advance();
     Node* callee = Primary();
     while (Is(TokenKind::Dot) || Is(TokenKind::OpenBracket)) {
-        Node* inner = Make(Is(TokenKind::Dot) ? NodeKind::Member : NodeKind::Index, token_.Line);
+        Node* inner = Make(Is(TokenKind::Dot) ? NodeKind::Member : NodeKind::Index, token_.At);
         inner->A = callee;
         if (++inner->Count > MaxDepth) Fail(u"メンバーの連なりが長すぎます。");
         if (Accept(TokenKind::Dot)) {

@@ -28,7 +28,7 @@ void CodeGenerator::Function(const Node& node) {
     FunctionState outer = function_;
     function_ = FunctionState{&function};
     function_.FirstScope = scopes_.size();
-    ActionCode::FunctionRecord record{function.Name, function.Line};
+    ActionCode::FunctionRecord record{function.Name, function.At};
     record.HasRegisters = version_ >= FirstRegisterVersion;
     if (record.HasRegisters) ChoosePreloads(function_, record);
     parameters_.clear();

@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "script/compiler/CodeGenerator.h"
 
 namespace tamber {
@@ -18,7 +20,7 @@ constexpr std::pair<std::string_view, std::string_view> PlainTypes[] = {
 /// each way there puts a value on the stack, which a return or throw has, and a mark.
 template <class Body>
 void CodeGenerator::GuardBlock(const Node& statement, const Body& body) {
-    const Label end = code_->NewLabel(statement.Line);
+    const Label end = code_->NewLabel(statement.At);
     const bool isMarked = MarksOf(statement) != 0;
     scopes_.push_back({ScopeKind::Guard, end, end, &statement});
     body();
@@ -28,12 +30,12 @@ void CodeGenerator::GuardBlock(const Node& statement, const Body& body) {
 
 void CodeGenerator::With(const Node& node) {
     Expression(*node.A);
-    code_->BeginWith(node.Line);
+    code_->BeginWith(node.At);
     ++function_.Withs;
     GuardBlock(node, [&] { Statement(*node.B); });
     --function_.Withs;
     code_->EndWith();
-    FollowMarks(MarksOf(node), node.Line);
+    FollowMarks(MarksOf(node), node.At);
 }
 
 /// The jumps that mark a guard when they leave it. A return does only where a `finally` runs first.
@@ -55,12 +57,12 @@ void CodeGenerator::EndGuard(Label end) {
 }
 
 /// Goes on where a block that ended with a mark was to be left to.
-void CodeGenerator::FollowMarks(std::uint32_t marks, std::uint32_t line) {
+void CodeGenerator::FollowMarks(std::uint32_t marks, Spot spot) {
     if (marks == 0) return;
     for (const std::uint32_t mark :
          {Node::EscapesByBreak, Node::EscapesByContinue, Node::EscapesByReturn, EscapesByThrow}) {
         if ((marks & mark) == 0) continue;
-        const Label next = code_->NewLabel(line);
+        const Label next = code_->NewLabel(spot);
         code_->Emit(Opcode::PushDuplicate);
         PushInteger(static_cast<Long>(mark));
         code_->Emit(Opcode::Equals2);
@@ -113,7 +115,7 @@ void CodeGenerator::LeaveGuard(const Scope& scope, std::uint32_t mark) {
 void CodeGenerator::Unwind(std::size_t scope, bool hasValue) {
     const ScopeKind kind = scopes_[scope].Kind;
     if (!code_->IsReachable()) return;
-    if (kind == ScopeKind::TellTarget) return RestoreTarget(scope);
+    if (kind == ScopeKind::KnownTarget || kind == ScopeKind::TellTarget) return LeaveTarget(scope);
     if (kind != ScopeKind::ForIn && kind != ScopeKind::Last) return;
     if (hasValue) {
         code_->Emit(ItemKind::StoreRegister, 0);
@@ -130,7 +132,7 @@ void CodeGenerator::Unwind(std::size_t scope, bool hasValue) {
 
 void CodeGenerator::ReturnValue(const Node* value) {
     if (value != nullptr && value->Kind == NodeKind::Conditional) {
-        const Label then = code_->NewLabel(value->Line);
+        const Label then = code_->NewLabel(value->At);
         const bool isSwapped = EndsInNot(*value->A);
         Condition(*value->A, then, !isSwapped);
         ReturnValue(isSwapped ? value->B : value->C);
@@ -164,28 +166,25 @@ void CodeGenerator::Try(const Node& node) {
 /// Without handlers, the body alone.
 void CodeGenerator::TryCatch(const Node& node) {
     if (node.B == nullptr) return Statement(*node.A);
-    code_->BeginTry(node.Line);
+    code_->BeginTry(node.At);
     GuardBlock(node, [&] { Statement(*node.A); });
     code_->EndTryBlock(ItemKind::TryBodyEnd);
     GuardBlock(node, [&] { Handlers(*node.B); });
     code_->EndTryBlock(ItemKind::TryEnd);
-    FollowMarks(MarksOf(node), node.Line);
+    FollowMarks(MarksOf(node), node.At);
 }
 
 /// Each handler that tells a type is asked whether it is meant, and what none takes is thrown
 /// again. The exception lies in register 0: a name that the player gave it could be a variable of
 /// others.
 void CodeGenerator::Handlers(const Node& first) {
-    const Label end = code_->NewLabel(first.Line);
+    const Label end = code_->NewLabel(first.At);
     bool takesAll = false;
     for (const Node* handler = &first; handler != nullptr; handler = handler->Next) {
-        const Label next = code_->NewLabel(handler->Line);
+        const Label next = code_->NewLabel(handler->At);
         takesAll = handler->A == nullptr;
         if (!takesAll) TestOfType(*handler->A, next);
-        code_->PushText(handler->Name);
-        code_->PushRegister(0);
-        code_->Emit(Opcode::DefineLocal);
-        Statement(*handler->B);
+        Handler(*handler);
         code_->Jump(end);
         code_->Place(next);
     }
@@ -196,10 +195,23 @@ void CodeGenerator::Handlers(const Node& first) {
     code_->Place(end);
 }
 
+/// What is caught has its name within the block only, and hides what else is called so.
+void CodeGenerator::Handler(const Node& node) {
+    Symbol& name = *node.Name;
+    code_->PushText(&name);
+    code_->PushRegister(0);
+    code_->Emit(Opcode::DefineLocal);
+    const Byte outer = std::exchange(name.Register, Symbol::NoRegister);
+    ++name.Declarations;
+    Statement(*node.B);
+    --name.Declarations;
+    name.Register = outer;
+}
+
 /// Jumps when the exception is not of a type. Plain values are instances of no class, so theirs are
 /// known by their names.
 void CodeGenerator::TestOfType(const Node& type, Label otherwise) {
-    const Label taken = code_->NewLabel(type.Line);
+    const Label taken = code_->NewLabel(type.At);
     for (const auto& [name, kind] : PlainTypes) {
         if (type.Kind != NodeKind::Name || type.Name->Text != name) continue;
         code_->PushRegister(0);
@@ -219,8 +231,8 @@ void CodeGenerator::TestOfType(const Node& type, Label otherwise) {
 /// The player has an action for it, out of whose last block no jump can lead: so that block stands
 /// behind a try that catches everything, and what was thrown is thrown again behind it.
 void CodeGenerator::Finally(const Node& node) {
-    const Label end = code_->NewLabel(node.Line);
-    code_->BeginTry(node.Line);
+    const Label end = code_->NewLabel(node.At);
+    code_->BeginTry(node.At);
     scopes_.push_back({ScopeKind::Guard, end, end, &node, true});
     TryCatch(node);
     scopes_.pop_back();
@@ -232,7 +244,7 @@ void CodeGenerator::Finally(const Node& node) {
     scopes_.push_back({ScopeKind::Last});
     Statement(*node.C);
     scopes_.pop_back();
-    FollowMarks(node.Count | EscapesByThrow, node.Line);
+    FollowMarks(node.Count | EscapesByThrow, node.At);
 }
 
 }  // namespace tamber

@@ -140,7 +140,8 @@ constexpr SignTable Table = MakeSignTable();
 }  // namespace
 
 Lexer::Lexer(std::string_view source, Long version, SymbolTable& symbols, Diagnostics& diagnostics)
-    : at_(source.data()),
+    : begin_(source.data()),
+      at_(source.data()),
       end_(source.data() + source.size()),
       version_(version),
       isUtf8_(version >= FirstUtf8Version),
@@ -156,7 +157,7 @@ Token Lexer::Next() {
     for (;;) {
         Token token;
         SkipBlanks(token);
-        token.Line = line_;
+        token.At = Here();
         if (at_ == end_) return token;
         const Byte kind = ClassOf(*at_);
         if (kind == LetterClass) return ReadName(token);
@@ -165,7 +166,7 @@ Token Lexer::Next() {
         if (*at_ == '"' || *at_ == '\'') return ReadString(token);
         if (ReadPunctuation(token)) return token;
         diagnostics_.Error(
-            line_, Between(at_, at_ + 1),
+            Here(), Between(at_, at_ + 1),
             *at_ == '\0' ? u"NUL 文字は使用できません。" : u"使用できない文字です。");
         ++at_;
     }
@@ -226,7 +227,7 @@ void Lexer::SkipLineComment() {
 }
 
 void Lexer::SkipBlockComment() {
-    const std::uint32_t first = line_;
+    const Spot first = Here();
     at_ += 2;
     while (at_ != end_) {
         if (*at_ == '*' && Ahead(1) == '/') {
@@ -321,7 +322,7 @@ bool Lexer::NoPath(const char* begin, const char* end) {
 
 void Lexer::CheckLength(const Token& token) {
     if (token.Text.size() > Symbol::MaxText)
-        diagnostics_.Error(token.Line, token.Text, String(Symbol::TooLong));
+        diagnostics_.Error(token.At, token.Text, String(Symbol::TooLong));
 }
 
 Token Lexer::ReadNumber(Token token) {
@@ -331,7 +332,7 @@ Token Lexer::ReadNumber(Token token) {
         at_ += 2;
         ReadPrefixed(token, 16);
         if (at_ == begin + 2)
-            diagnostics_.Error(line_, Between(begin, at_), u"16 進数の桁が必要です。");
+            diagnostics_.Error(token.At, Between(begin, at_), u"16 進数の桁が必要です。");
     } else {
         const char* digits = begin;
         while (digits != end_ && *digits >= '0' && *digits <= '7') ++digits;
@@ -346,7 +347,7 @@ Token Lexer::ReadNumber(Token token) {
     token.Text = Between(begin, at_);
     if (IsNameAt(at_)) {
         while (IsNameAt(at_)) Step();
-        diagnostics_.Error(line_, Between(begin, at_), u"数値の書き方が正しくありません。");
+        diagnostics_.Error(token.At, Between(begin, at_), u"数値の書き方が正しくありません。");
     }
     return token;
 }
@@ -389,7 +390,7 @@ Token Lexer::ReadString(Token token) {
             ReadEscape(scratch_, token);
             plain = at_;
         } else if (*at_ == '\0') {
-            diagnostics_.Error(line_, {}, u"NUL 文字は使用できません。");
+            diagnostics_.Error(Here(), {}, u"NUL 文字は使用できません。");
             scratch_.append(plain, at_++);
             isPlain = false;
             plain = at_;
@@ -402,7 +403,7 @@ Token Lexer::ReadString(Token token) {
     if (isClosed) ++at_;
     token.Text = Between(begin, at_);
     if (!isClosed)
-        diagnostics_.Error(token.Line, token.Text,
+        diagnostics_.Error(token.At, token.Text,
                            u"文字列が閉じられていません。引用符が必要です。");
     CheckLength(token);
     if (isPlain) {
@@ -423,7 +424,7 @@ std::uint32_t Lexer::ReadDigits(unsigned base, int count) {
 
 void Lexer::AppendCharacter(std::string& text, std::uint32_t code, const Token& token) {
     if (code == 0) {
-        diagnostics_.Error(token.Line, "\\0", u"文字列に NUL 文字は使用できません。");
+        diagnostics_.Error(token.At, "\\0", u"文字列に NUL 文字は使用できません。");
     } else if (code < 0x80 || (!isUtf8_ && code < 0x100)) {
         text += static_cast<char>(code);
     } else {

@@ -57,6 +57,9 @@ private:
         return static_cast<std::size_t>(end_ - at_) > count ? at_[count] : '\0';
     }
 
+    Spot Here() const { return {line_, static_cast<std::uint32_t>(at_ - begin_)}; }
+
+    const char* begin_;
     const char* at_;
     const char* end_;
     std::uint32_t line_ = 1;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "script/compiler/Spot.h"
 #include "script/compiler/Symbol.h"
 
 namespace tamber {
@@ -118,7 +119,7 @@ enum class Operator : Byte {
 /// | ForIn | target (a Var or an expression), object, body | |
 /// | Switch | value, first case | |
 /// | Case | value (null: default), first statement | |
-/// | With, TellTarget, IfFrameLoaded | object or frame, body | With: Count, the jumps out of it |
+/// | With, TellTarget, IfFrameLoaded | object or frame, body | With: Count, the jumps out of it; TellTarget: Flag, others stand within |
 /// | Try | body, first handler, last | Count: the jumps out of body and handlers |
 /// | Catch | type (null: all), body | Name of the exception |
 struct Node {
@@ -130,7 +131,7 @@ struct Node {
     NodeKind Kind = NodeKind::Empty;
     Operator Op = Operator::None;
     bool Flag = false;
-    std::uint32_t Line = 0;
+    Spot At;
     std::uint32_t Count = 0;
     union {
         Symbol* Name = nullptr;
@@ -175,7 +176,7 @@ struct NameNode {
 struct FunctionNode {
     /// Null for one without a name.
     Symbol* Name = nullptr;
-    std::uint32_t Line = 0;
+    Spot At;
     /// Differs from function to function, from 1.
     std::uint32_t Number = 0;
     std::uint32_t Depth = 0;
@@ -207,7 +208,7 @@ struct MemberNode {
     Symbol* Name = nullptr;
     MemberKind Kind = MemberKind::Field;
     bool IsStatic = false;
-    std::uint32_t Line = 0;
+    Spot At;
     /// Of a method: a Function node; of a field: its value or null.
     Node* Value = nullptr;
     MemberNode* Next = nullptr;
@@ -222,7 +223,7 @@ struct ClassNode {
     bool IsInterface = false;
     /// Whether the player has it, so that no code is made of what tells of it.
     bool IsIntrinsic = false;
-    std::uint32_t Line = 0;
+    Spot At;
     Node* Constructor = nullptr;
     MemberNode* FirstMember = nullptr;
     MemberNode* LastMember = nullptr;

@@ -18,7 +18,7 @@ bool Parser::IsSlashPathAhead() {
 
 Node* Parser::Primary() {
     if (IsSlashPathAhead()) {
-        Node* node = Make(NodeKind::SlashPath, token_.Line);
+        Node* node = Make(NodeKind::SlashPath, token_.At);
         node->Name = token_.Name;
         Advance();
         return node;
@@ -28,15 +28,15 @@ Node* Parser::Primary() {
         case TokenKind::Identifier:
             return Name();
         case TokenKind::Number:
-            node = Make(NodeKind::Number, token_.Line);
+            node = Make(NodeKind::Number, token_.At);
             node->Value = token_.Number;
             break;
         case TokenKind::Text:
-            node = Make(NodeKind::Text, token_.Line);
+            node = Make(NodeKind::Text, token_.At);
             node->Name = token_.Name;
             break;
         case TokenKind::This:
-            node = Make(NodeKind::This, token_.Line);
+            node = Make(NodeKind::This, token_.At);
             if (function_ != nullptr) function_->UsesThis = true;
             break;
         case TokenKind::OpenParenthesis:
@@ -48,10 +48,10 @@ Node* Parser::Primary() {
         case TokenKind::New:
             return NewExpression();
         case TokenKind::Function: {
-            const std::uint32_t line = token_.Line;
+            const Spot spot = token_.At;
             Advance();
-            if (Is(TokenKind::OpenParenthesis)) return FunctionRest(nullptr, line);
-            return FunctionRest(FunctionName(), line);
+            if (Is(TokenKind::OpenParenthesis)) return FunctionRest(nullptr, spot);
+            return FunctionRest(FunctionName(), spot);
         }
         default:
             Fail(Is(TokenKind::End) ? u"式が必要です。" : u"ここには式が必要です。");
@@ -61,54 +61,54 @@ Node* Parser::Primary() {
 }
 
 Node* Parser::Name() {
-    const std::uint32_t line = token_.Line;
+    const Spot spot = token_.At;
     Symbol* name = token_.Name;
     Advance();
     if (name->Special != SpecialName::None && name->Special <= SpecialName::Super)
-        return SpecialValue(name->Special, line);
-    NoteName(name, line);
+        return SpecialValue(name->Special, spot);
+    NoteName(name, spot);
     NoteUse(name);
     NoteSpecial(name->Special);
     if (!imports_.empty())
-        if (Node* imported = Imported(name, line)) return imported;
-    Node* node = Make(NodeKind::Name, line);
+        if (Node* imported = Imported(name, spot)) return imported;
+    Node* node = Make(NodeKind::Name, spot);
     node->Name = name;
     return node;
 }
 
-Node* Parser::SpecialValue(SpecialName name, std::uint32_t line) {
+Node* Parser::SpecialValue(SpecialName name, Spot spot) {
     Node* node = nullptr;
     switch (name) {
         case SpecialName::True:
         case SpecialName::False:
-            node = Make(version_ < 5 ? NodeKind::Number : NodeKind::Boolean, line);
+            node = Make(version_ < 5 ? NodeKind::Number : NodeKind::Boolean, spot);
             node->Flag = name == SpecialName::True;
             if (version_ < 5) node->Value = node->Flag ? 1 : 0;
             return node;
         case SpecialName::NewLine:
-            node = Make(NodeKind::Text, line);
+            node = Make(NodeKind::Text, spot);
             node->Name = symbols_.Intern("\n");
             return node;
         case SpecialName::Super:
-            NeedVersion(6, "super", line);
+            NeedVersion(6, "super", spot);
             if (function_ == nullptr)
-                Complain(line, "super", u"関数の中でのみ使用できます。");
+                Complain(spot, "super", u"関数の中でのみ使用できます。");
             else
                 function_->UsesSuper = true;
-            return Make(NodeKind::Super, line);
+            return Make(NodeKind::Super, spot);
         default:
-            NeedVersion(5, name == SpecialName::Null ? "null" : "undefined", line);
-            return Make(name == SpecialName::Null ? NodeKind::Null : NodeKind::Undefined, line);
+            NeedVersion(5, name == SpecialName::Null ? "null" : "undefined", spot);
+            return Make(name == SpecialName::Null ? NodeKind::Null : NodeKind::Undefined, spot);
     }
 }
 
-Node* Parser::Imported(const Symbol* name, std::uint32_t line) {
+Node* Parser::Imported(const Symbol* name, Spot spot) {
     const auto found = imports_.find(name);
     if (found == imports_.end()) return nullptr;
-    Node* node = Make(NodeKind::Name, line);
+    Node* node = Make(NodeKind::Name, spot);
     node->Name = found->second.front();
     for (std::size_t i = 1; i < found->second.size(); ++i) {
-        Node* member = Make(NodeKind::Member, line);
+        Node* member = Make(NodeKind::Member, spot);
         member->A = node;
         member->Name = found->second[i];
         node = member;
@@ -116,9 +116,9 @@ Node* Parser::Imported(const Symbol* name, std::uint32_t line) {
     return node;
 }
 
-void Parser::NoteName(Symbol* name, std::uint32_t line) {
+void Parser::NoteName(Symbol* name, Spot spot) {
     if (name->NeededVersion <= version_) return;
-    diagnostics_.Warn(line, name->Text,
+    diagnostics_.Warn(spot, name->Text,
                       u"SWF" + ToText(static_cast<Long>(name->NeededVersion)) +
                           u"以降の名前です。SWF" + ToText(version_) + u"では働きません。");
     name->NeededVersion = 0;
@@ -175,7 +175,7 @@ void Parser::CheckTarget(const Node& target) {
         default:
             break;
     }
-    Complain(token_.Line, token_.Text, u"代入できるのは変数とメンバーだけです。");
+    Complain(token_.At, token_.Text, u"代入できるのは変数とメンバーだけです。");
 }
 
 Node* Parser::Parenthesised() {
@@ -188,13 +188,13 @@ Node* Parser::Parenthesised() {
 }
 
 Node* Parser::ArrayLiteral() {
-    Node* node = Make(NodeKind::Array, token_.Line);
-    NeedVersion(5, token_.Text, token_.Line);
+    Node* node = Make(NodeKind::Array, token_.At);
+    NeedVersion(5, token_.Text, token_.At);
     Advance();
     NodeList list;
     while (!Is(TokenKind::CloseBracket)) {
         if (Is(TokenKind::Comma))
-            list.Add(Make(NodeKind::Undefined, token_.Line));
+            list.Add(Make(NodeKind::Undefined, token_.At));
         else
             list.Add(Assignment());
         if (!Is(TokenKind::CloseBracket)) Expect(TokenKind::Comma, u", または ]");
@@ -206,8 +206,8 @@ Node* Parser::ArrayLiteral() {
 }
 
 Node* Parser::ObjectLiteral() {
-    Node* node = Make(NodeKind::Object, token_.Line);
-    NeedVersion(5, token_.Text, token_.Line);
+    Node* node = Make(NodeKind::Object, token_.At);
+    NeedVersion(5, token_.Text, token_.At);
     Advance();
     ++literals_;
     NodeList list;
@@ -215,7 +215,7 @@ Node* Parser::ObjectLiteral() {
         Node* key = PropertyKey();
         Expect(TokenKind::Colon, u":");
         Node* value = Assignment();
-        Node* entry = Make(NodeKind::Empty, key->Line);
+        Node* entry = Make(NodeKind::Empty, key->At);
         entry->A = value;
         entry->D = key;
         list.Add(entry);
@@ -229,7 +229,7 @@ Node* Parser::ObjectLiteral() {
 }
 
 Node* Parser::PropertyKey() {
-    Node* key = Make(Is(TokenKind::Number) ? NodeKind::Number : NodeKind::Text, token_.Line);
+    Node* key = Make(Is(TokenKind::Number) ? NodeKind::Number : NodeKind::Text, token_.At);
     if (Is(TokenKind::Number))
         key->Value = token_.Number;
     else if (Is(TokenKind::Text) || Is(TokenKind::Identifier) || IsWord(token_.Kind))

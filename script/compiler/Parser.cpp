@@ -27,7 +27,7 @@ Parser::Parser(std::string_view source, Long version, SymbolTable& symbols, Aren
 Node* Parser::NextStatement() {
     while (!Is(TokenKind::End) && !isHopeless_) {
         if (Is(TokenKind::CloseBrace)) {
-            Complain(token_.Line, token_.Text, u"余分な } です。");
+            Complain(token_.At, token_.Text, u"余分な } です。");
             Advance();
             continue;
         }
@@ -72,23 +72,23 @@ Token Parser::Peek() {
 
 void Parser::Fail(const String& text) {
     if (Is(TokenKind::End))
-        Complain(token_.Line, {}, text + u"（スクリプトの終わりです。）");
+        Complain(token_.At, {}, text + u"（スクリプトの終わりです。）");
     else
-        Complain(token_.Line, token_.Text, text);
+        Complain(token_.At, token_.Text, text);
     throw SyntaxError();
 }
 
-void Parser::Complain(std::uint32_t line, std::string_view token, String text) {
-    if (!isHopeless_) diagnostics_.Error(line, token, std::move(text));
+void Parser::Complain(Spot spot, std::string_view token, String text) {
+    if (!isHopeless_) diagnostics_.Error(spot, token, std::move(text));
 }
 
-void Parser::NeedVersion(Long version, std::string_view token, std::uint32_t line) {
+void Parser::NeedVersion(Long version, std::string_view token, Spot spot) {
     if (version_ >= version) return;
     String text = u"SWF" + ToText(version_) + u"では使用できません。SWF" + ToText(version) +
                   u"以降にして下さい。";
     const StringView advice = VersionAdvice(token);
     if (!advice.empty()) text.append(u"または").append(advice);
-    Complain(line, token, text);
+    Complain(spot, token, text);
 }
 
 Symbol* Parser::TakeName(StringView what) {
@@ -129,10 +129,10 @@ void Parser::SkipToStatement(int literals) {
     }
 }
 
-Node* Parser::Make(NodeKind kind, std::uint32_t line) {
+Node* Parser::Make(NodeKind kind, Spot spot) {
     Node* node = arena_.Make<Node>();
     node->Kind = kind;
-    node->Line = line;
+    node->At = spot;
     return node;
 }
 
@@ -186,7 +186,7 @@ Node* Parser::Statement() {
 Node* Parser::SimpleStatement() {
     if (Is(TokenKind::Semicolon)) {
         Advance();
-        return Make(NodeKind::Empty, token_.Line);
+        return Make(NodeKind::Empty, token_.At);
     }
     if (IsClassAhead()) return ClassStatement();
     if (IsSpecial(SpecialName::Import) && Peek().Kind == TokenKind::Identifier)
@@ -196,8 +196,8 @@ Node* Parser::SimpleStatement() {
 
 /// A part of a statement that does not stand in one. What it governs is read by itself.
 Node* Parser::StrayPart(const String& text) {
-    Complain(token_.Line, token_.Text, text);
-    Node* node = Make(NodeKind::Empty, token_.Line);
+    Complain(token_.At, token_.Text, text);
+    Node* node = Make(NodeKind::Empty, token_.At);
     const bool hasHead = !Is(TokenKind::Else);
     Advance();
     const auto ends = [this] {
@@ -210,10 +210,10 @@ Node* Parser::StrayPart(const String& text) {
 }
 
 Node* Parser::ExpressionStatement() {
-    Node* statement = Make(NodeKind::Expression, token_.Line);
+    Node* statement = Make(NodeKind::Expression, token_.At);
     atStatement_ = true;
     statement->A = Expression();
-    if (IsMetadata(*statement->A) && IsToldOfAhead()) return Make(NodeKind::Empty, token_.Line);
+    if (IsMetadata(*statement->A) && IsToldOfAhead()) return Make(NodeKind::Empty, token_.At);
     EndStatement();
     return statement;
 }
@@ -239,15 +239,27 @@ void Parser::EndStatement() {
 }
 
 Node* Parser::Block() {
-    Node* block = Make(NodeKind::Block, token_.Line);
+    Node* block = Make(NodeKind::Block, token_.At);
     Expect(TokenKind::OpenBrace, u"{");
     NodeList list;
     ++blocks_;
     StatementsUntilBrace(list);
     --blocks_;
-    block->A = list.First;
+    block->A = FunctionsFirst(list);
     block->Count = list.Count;
     return block;
+}
+
+/// Functions declared in a block are known from its beginning.
+Node* Parser::FunctionsFirst(const NodeList& list) {
+    NodeList functions;
+    NodeList others;
+    for (Node* node = list.First; node != nullptr; node = node->Next)
+        (node->Kind == NodeKind::Function ? functions : others).Add(node);
+    if (functions.First == nullptr) return list.First;
+    functions.Last->Next = others.First;
+    if (others.Last != nullptr) others.Last->Next = nullptr;
+    return functions.First;
 }
 
 /// The statement that a condition or a loop governs.
@@ -260,11 +272,11 @@ Node* Parser::Body() {
 }
 
 void Parser::StatementsUntilBrace(NodeList& list) {
-    const std::uint32_t line = token_.Line;
+    const Spot spot = token_.At;
     while (!Is(TokenKind::CloseBrace)) {
         if (Is(TokenKind::End)) {
-            Complain(token_.Line, {},
-                     u"} が必要です。（" + ToText(static_cast<Long>(line)) +
+            Complain(token_.At, {},
+                     u"} が必要です。（" + ToText(static_cast<Long>(spot.Line)) +
                          u"行目の { が閉じられていません。）");
             throw HopelessError();
         }
@@ -282,34 +294,34 @@ void Parser::WarnOfUnreachable(const Node* last) {
 }
 
 void Parser::WarnUnreachable() {
-    diagnostics_.Warn(token_.Line, token_.Text, u"この文は実行されません。");
+    diagnostics_.Warn(token_.At, token_.Text, u"この文は実行されません。");
 }
 
 Node* Parser::VarStatement() {
-    const std::uint32_t line = token_.Line;
+    const Spot spot = token_.At;
     Advance();
     NodeList list;
     do list.Add(Variable());
     while (Accept(TokenKind::Comma));
     EndStatement();
-    return Grouped(list, line);
+    return Grouped(list, spot);
 }
 
 /// The statements as one.
-Node* Parser::Grouped(const NodeList& list, std::uint32_t line) {
+Node* Parser::Grouped(const NodeList& list, Spot spot) {
     if (list.Count == 1) return list.First;
-    Node* block = Make(NodeKind::Block, line);
+    Node* block = Make(NodeKind::Block, spot);
     block->A = list.First;
     block->Count = list.Count;
     return block;
 }
 
 Node* Parser::Variable() {
-    Node* variable = Make(NodeKind::Var, token_.Line);
+    Node* variable = Make(NodeKind::Var, token_.At);
     Symbol* name = TakeName(u"変数名");
     variable->Name = name;
     Declare(name);
-    NoteName(name, variable->Line);
+    NoteName(name, variable->At);
     SkipType();
     if (Accept(TokenKind::Assign)) variable->A = Assignment();
     return variable;
@@ -326,10 +338,10 @@ void Parser::SkipType() {
 
 Node* Parser::Condition() {
     Expect(TokenKind::OpenParenthesis, u"(");
-    const std::uint32_t line = token_.Line;
+    const Spot spot = token_.At;
     Node* condition = Expression();
     if (condition->Kind == NodeKind::Assign && condition->Op == Operator::None)
-        diagnostics_.Warn(line, "=", u"条件の中に代入があります。比較は == です。");
+        diagnostics_.Warn(spot, "=", u"条件の中に代入があります。比較は == です。");
     Expect(TokenKind::CloseParenthesis, u")");
     return condition;
 }
@@ -338,7 +350,7 @@ Node* Parser::IfStatement() {
     Node* first = nullptr;
     Node** place = &first;
     for (;;) {
-        *place = Make(NodeKind::If, token_.Line);
+        *place = Make(NodeKind::If, token_.At);
         Node* node = *place;
         Advance();
         node->A = Condition();
@@ -360,7 +372,7 @@ Node* Parser::LoopBody() {
 }
 
 Node* Parser::WhileStatement() {
-    Node* node = Make(NodeKind::While, token_.Line);
+    Node* node = Make(NodeKind::While, token_.At);
     Advance();
     node->A = Condition();
     node->B = LoopBody();
@@ -368,7 +380,7 @@ Node* Parser::WhileStatement() {
 }
 
 Node* Parser::DoStatement() {
-    Node* node = Make(NodeKind::DoWhile, token_.Line);
+    Node* node = Make(NodeKind::DoWhile, token_.At);
     Advance();
     node->B = LoopBody();
     Expect(TokenKind::While, u"while");
@@ -378,29 +390,29 @@ Node* Parser::DoStatement() {
 }
 
 Node* Parser::ForStatement() {
-    const std::uint32_t line = token_.Line;
+    const Spot spot = token_.At;
     Advance();
     Expect(TokenKind::OpenParenthesis, u"(");
-    if (Is(TokenKind::Semicolon)) return ForRest(nullptr, line);
+    if (Is(TokenKind::Semicolon)) return ForRest(nullptr, spot);
     if (!Is(TokenKind::Var)) {
-        Node* start = Make(NodeKind::Expression, line);
+        Node* start = Make(NodeKind::Expression, spot);
         start->A = Expression();
-        if (!Is(TokenKind::In)) return ForRest(start, line);
+        if (!Is(TokenKind::In)) return ForRest(start, spot);
         CheckTarget(*start->A);
-        return ForInRest(start->A, line);
+        return ForInRest(start->A, spot);
     }
     Advance();
     NodeList list;
     do list.Add(Variable());
     while (Accept(TokenKind::Comma));
-    if (Is(TokenKind::In) && list.Count == 1) return ForInRest(list.First, line);
-    return ForRest(Grouped(list, line), line);
+    if (Is(TokenKind::In) && list.Count == 1) return ForInRest(list.First, spot);
+    return ForRest(Grouped(list, spot), spot);
 }
 
-Node* Parser::ForInRest(Node* target, std::uint32_t line) {
-    NeedVersion(5, "in", token_.Line);
+Node* Parser::ForInRest(Node* target, Spot spot) {
+    NeedVersion(5, "in", token_.At);
     Advance();
-    Node* node = Make(NodeKind::ForIn, line);
+    Node* node = Make(NodeKind::ForIn, spot);
     node->A = target;
     node->B = Expression();
     Expect(TokenKind::CloseParenthesis, u")");
@@ -408,8 +420,8 @@ Node* Parser::ForInRest(Node* target, std::uint32_t line) {
     return node;
 }
 
-Node* Parser::ForRest(Node* start, std::uint32_t line) {
-    Node* node = Make(NodeKind::For, line);
+Node* Parser::ForRest(Node* start, Spot spot) {
+    Node* node = Make(NodeKind::For, spot);
     node->A = start;
     Expect(TokenKind::Semicolon, u";");
     if (!Is(TokenKind::Semicolon)) node->B = Expression();
@@ -422,9 +434,9 @@ Node* Parser::ForRest(Node* start, std::uint32_t line) {
 
 Node* Parser::JumpStatement() {
     const bool isBreak = Is(TokenKind::Break);
-    Node* node = Make(isBreak ? NodeKind::Break : NodeKind::Continue, token_.Line);
+    Node* node = Make(isBreak ? NodeKind::Break : NodeKind::Continue, token_.At);
     if (loops_ == 0 && (!isBreak || switches_ == 0))
-        Complain(token_.Line, token_.Text, u"繰り返しの中でのみ使用できます。");
+        Complain(token_.At, token_.Text, u"繰り返しの中でのみ使用できます。");
     NoteEscape(node->Kind);
     Advance();
     EndStatement();
@@ -455,8 +467,8 @@ void Parser::NoteEscape(NodeKind kind) {
 }
 
 Node* Parser::ReturnStatement() {
-    Node* node = Make(NodeKind::Return, token_.Line);
-    if (function_ == nullptr) Complain(token_.Line, token_.Text, u"関数の中でのみ使用できます。");
+    Node* node = Make(NodeKind::Return, token_.At);
+    if (function_ == nullptr) Complain(token_.At, token_.Text, u"関数の中でのみ使用できます。");
     Advance();
     NoteEscape(NodeKind::Return);
     const bool isBare = Is(TokenKind::Semicolon) || Is(TokenKind::CloseBrace) ||

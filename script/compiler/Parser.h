@@ -40,13 +40,13 @@ private:
     void Expect(TokenKind kind, StringView what);
     Token Peek();
     [[noreturn]] void Fail(const String& text);
-    void Complain(std::uint32_t line, std::string_view token, String text);
-    void NeedVersion(Long version, std::string_view token, std::uint32_t line);
+    void Complain(Spot spot, std::string_view token, String text);
+    void NeedVersion(Long version, std::string_view token, Spot spot);
     Symbol* TakeName(StringView what);
     Symbol* TakeMemberName();
     void Recover(int literals);
     void SkipToStatement(int literals);
-    Node* Make(NodeKind kind, std::uint32_t line);
+    Node* Make(NodeKind kind, Spot spot);
 
     // Statements.
     Node* GuardedStatement();
@@ -57,7 +57,8 @@ private:
     bool IsToldOfAhead();
     static bool IsMetadata(const Node& expression);
     Node* Block();
-    Node* Grouped(const NodeList& list, std::uint32_t line);
+    static Node* FunctionsFirst(const NodeList& list);
+    Node* Grouped(const NodeList& list, Spot spot);
     Node* LoopBody();
     Node* Body();
     void StatementsUntilBrace(NodeList& list);
@@ -73,8 +74,8 @@ private:
     Node* WhileStatement();
     Node* DoStatement();
     Node* ForStatement();
-    Node* ForInRest(Node* target, std::uint32_t line);
-    Node* ForRest(Node* start, std::uint32_t line);
+    Node* ForInRest(Node* target, Spot spot);
+    Node* ForRest(Node* start, Spot spot);
     Node* JumpStatement();
     Node* ReturnStatement();
     Node* SwitchStatement();
@@ -82,6 +83,7 @@ private:
     Node* CaseClause();
     void SkipToClause();
     Node* WithStatement();
+    void NoteTarget();
     Node* TellTargetStatement();
     Node* IfFrameLoadedStatement();
     Node* TryStatement();
@@ -108,10 +110,10 @@ private:
     Node* NewExpression();
     Node* Primary();
     Node* Name();
-    Node* SpecialValue(SpecialName name, std::uint32_t line);
-    Node* Imported(const Symbol* name, std::uint32_t line);
+    Node* SpecialValue(SpecialName name, Spot spot);
+    Node* Imported(const Symbol* name, Spot spot);
     /// Tells of a name that the version's players do not know.
-    void NoteName(Symbol* name, std::uint32_t line);
+    void NoteName(Symbol* name, Spot spot);
     /// A use of a name as a variable.
     void NoteUse(Symbol* name);
     void NoteCall(Symbol* name);
@@ -125,11 +127,11 @@ private:
     void Arguments(Node* call);
     bool IsSlashPathAhead();
     void CheckTarget(const Node& target);
-    Node* MakeBinary(Operator op, Node* left, Node* right, std::uint32_t line);
+    Node* MakeBinary(Operator op, Node* left, Node* right, Spot spot);
 
     // Functions and classes.
     Symbol* FunctionName();
-    Node* FunctionRest(Symbol* name, std::uint32_t line);
+    Node* FunctionRest(Symbol* name, Spot spot);
     void Parameters(FunctionNode& function);
     void Parameter(FunctionNode& function);
     void Declare(Symbol* name);
@@ -187,6 +189,8 @@ private:
     bool isMethodNext_ = false;
     bool isDerivedNext_ = false;
     FunctionNode* function_ = nullptr;
+    /// The `tellTarget` around, within the function.
+    Node* target_ = nullptr;
     std::uint32_t functionCount_ = 0;
     /// The `with` and `try` statements around, within the function.
     std::vector<Guard> guards_;

@@ -9,7 +9,7 @@ class Parser::Level {
 public:
     explicit Level(Parser& parser) : parser_(parser) {
         if (++parser_.depth_ <= MaxDepth) return;
-        parser_.Complain(parser_.token_.Line, parser_.token_.Text,
+        parser_.Complain(parser_.token_.At, parser_.token_.Text,
                          u"入れ子が深すぎます。式や文を分けて下さい。");
         parser_.isHopeless_ = true;
         --parser_.depth_;

@@ -16,6 +16,7 @@ public:
           literals_(parser.literals_),
           inClass_(parser.inClass_),
           function_(parser.function_),
+          target_(parser.target_),
           firstGuard_(parser.firstGuard_),
           guards_(parser.guards_.size()) {}
 
@@ -30,6 +31,7 @@ public:
         parser_.blocks_ = blocks_;
         parser_.inClass_ = inClass_;
         parser_.function_ = function_;
+        parser_.target_ = target_;
         parser_.firstGuard_ = firstGuard_;
         parser_.guards_.resize(guards_);
         if (parser_.diagnostics_.IsFull()) throw HopelessError();
@@ -45,6 +47,7 @@ private:
     int literals_;
     bool inClass_;
     FunctionNode* function_;
+    Node* target_;
     std::size_t firstGuard_;
     std::size_t guards_;
 };

@@ -111,13 +111,20 @@ void CodeGenerator::PushPlace(const Place& place) {
             Expression(*place.Object);
             return Expression(*place.Key);
         default:
-            return Expression(*place.Object);
+            if (place.Name == nullptr) return Expression(*place.Object);
+            code_->PushText(place.Name);
+            return code_->Emit(Opcode::GetVariable);
     }
 }
 
 /// The object that has a member.
 void CodeGenerator::PushObject(const Place& place) {
     place.Object == nullptr ? This() : Expression(*place.Object);
+}
+
+void CodeGenerator::LoadPlace(const Place& place) {
+    PushPlace(place);
+    Load(place);
 }
 
 void CodeGenerator::Load(const Place& place) {
@@ -149,11 +156,24 @@ void CodeGenerator::Store(const Place& place) {
 }
 
 void CodeGenerator::Assign(const Node& node, bool isWanted) {
-    const Place place = PlaceOf(*node.A);
-    if (node.Op == Operator::None)
-        AssignPlain(place, *node.B, isWanted);
-    else
-        Change(place, node.B, node.Op, isWanted);
+    const bool isPlain = node.Op == Operator::None;
+    const Place place = NamedOnce(PlaceOf(*node.A), isWanted || !isPlain);
+    ++changes_;
+    isPlain ? AssignPlain(place, *node.B, isWanted) : Change(place, node.B, node.Op, isWanted);
+    --changes_;
+}
+
+/// Version 4 has no action to copy a name that was worked out: when it is needed again, it is kept
+/// in a variable.
+CodeGenerator::Place CodeGenerator::NamedOnce(const Place& place, bool isNeededAgain) {
+    const bool isNamed = place.Kind == PlaceKind::Named && version_ < FirstObjectVersion;
+    if (!isNamed || !isNeededAgain || IsSimple(*place.Object)) return place;
+    Place kept = place;
+    kept.Name = symbols_.InternCopy("$name" + std::to_string(changes_));
+    code_->PushText(kept.Name);
+    Expression(*place.Object);
+    code_->Emit(Opcode::SetVariable);
+    return kept;
 }
 
 void CodeGenerator::AssignPlain(const Place& place, const Node& value, bool isWanted) {
@@ -161,46 +181,93 @@ void CodeGenerator::AssignPlain(const Place& place, const Node& value, bool isWa
         Expression(value);
         Store(place);
         if (!isWanted) code_->Emit(Opcode::Pop);
-    } else if (place.Kind == PlaceKind::Variable && isWanted && version_ >= FirstObjectVersion) {
+    } else if (isWanted && version_ >= FirstObjectVersion) {
+        PushOwner(place);
         Expression(value);
-        code_->Emit(Opcode::PushDuplicate);
-        PushPlace(place);
-        code_->Emit(Opcode::StackSwap);
-        Store(place);
-    } else if (place.Kind == PlaceKind::Member && isWanted && HasSharedRegisters()) {
-        PushObject(place);
-        Expression(value);
-        code_->Emit(ItemKind::StoreRegister, 0);
-        code_->Emit(Opcode::StackSwap);
-        code_->PushText(place.Name);
-        code_->PushRegister(0);
-        Store(place);
+        StoreKeeping(place);
     } else {
         PushPlace(place);
         Expression(value);
-        StoreWanted(place, isWanted);
+        Store(place);
+        if (isWanted) LoadPlace(place);
     }
 }
 
-/// Functions have no registers of their own: one that a member calls to be set may use these too.
+/// Functions have no registers of their own: one that is called to get or set a member may use
+/// these too.
 bool CodeGenerator::HasSharedRegisters() const {
-    return version_ >= FirstObjectVersion && version_ < FirstRegisterVersion;
+    return version_ < FirstRegisterVersion;
 }
 
-/// The place and the value lie on the stack. Version 4 reads what it has stored.
-void CodeGenerator::StoreWanted(const Place& place, bool isWanted) {
-    if (!isWanted) return Store(place);
-    if (version_ < FirstObjectVersion) {
-        Store(place);
-        PushPlace(place);
+/// What StoreKeeping needs below the value.
+void CodeGenerator::PushOwner(const Place& place) {
+    if (place.Kind == PlaceKind::Member) return PushObject(place);
+    if (place.Kind != PlaceKind::Variable) PushPlace(place);
+}
+
+/// The owner, and above it the value of the place.
+void CodeGenerator::LoadWithOwner(const Place& place) {
+    if (place.Kind == PlaceKind::Index) {
+        PushKeptPlace(place);
+        code_->PushRegister(function_.Object);
+        code_->PushRegister(function_.Key);
         return Load(place);
     }
+    PushOwner(place);
+    if (place.Kind != PlaceKind::Variable) code_->Emit(Opcode::PushDuplicate);
+    if (place.Kind != PlaceKind::Named) code_->PushText(place.Name);
+    Load(place);
+}
+
+/// Stores the value that lies on the stack above the owner, or with an operator one more or less of
+/// it. The value stays there, where no function that is called meanwhile can change it.
+void CodeGenerator::StoreKeeping(const Place& place, Operator step) {
+    const auto makeStep = [&] {
+        if (step != Operator::None) ApplyChange(nullptr, step);
+    };
+    if (place.Kind == PlaceKind::Variable) {
+        code_->Emit(Opcode::PushDuplicate);
+        makeStep();
+        code_->PushText(place.Name);
+        code_->Emit(Opcode::StackSwap);
+        return Store(place);
+    }
     code_->Emit(ItemKind::StoreRegister, 0);
-    Store(place);
+    if (place.Kind == PlaceKind::Index && !HasSharedRegisters()) {
+        makeStep();
+        Store(place);
+        return code_->PushRegister(0);
+    }
+    if (place.Kind == PlaceKind::Index) {
+        code_->Emit(Opcode::Pop);
+        TakeIndex();
+        code_->PushRegister(0);
+        PushIndex();
+    } else {
+        code_->Emit(Opcode::StackSwap);
+        if (place.Kind == PlaceKind::Member) code_->PushText(place.Name);
+    }
     code_->PushRegister(0);
+    makeStep();
+    Store(place);
+}
+
+/// An object and its key go from the stack into their registers.
+void CodeGenerator::TakeIndex() {
+    ChooseKeyRegisters();
+    for (const Byte number : {function_.Key, function_.Object}) {
+        code_->Emit(ItemKind::StoreRegister, number);
+        code_->Emit(Opcode::Pop);
+    }
+}
+
+void CodeGenerator::PushIndex() {
+    code_->PushRegister(function_.Object);
+    code_->PushRegister(function_.Key);
 }
 
 bool CodeGenerator::IsSimplePlace(const Place& place) const {
+    if (place.IsWithin) return false;
     const bool hasSimpleObject = place.Object == nullptr || IsSimple(*place.Object);
     return hasSimpleObject && (place.Key == nullptr || IsSimple(*place.Key));
 }
@@ -212,12 +279,12 @@ void CodeGenerator::Change(const Place& place, const Node* value, Operator op, b
         ApplyChange(value, op);
         Store(place);
         if (!isWanted) code_->Emit(Opcode::Pop);
-    } else if (IsSimplePlace(place) || version_ < FirstObjectVersion) {
+    } else if (version_ < FirstObjectVersion || (!isWanted && IsSimplePlace(place))) {
         PushPlace(place);
-        PushPlace(place);
-        Load(place);
+        LoadPlace(place);
         ApplyChange(value, op);
-        StoreWanted(place, isWanted);
+        Store(place);
+        if (isWanted) LoadPlace(place);
     } else {
         ChangeComplex(place, value, op, isWanted);
     }
@@ -226,29 +293,14 @@ void CodeGenerator::Change(const Place& place, const Node* value, Operator op, b
 /// What names the place is worked out once.
 void CodeGenerator::ChangeComplex(const Place& place, const Node* value, Operator op,
                                   bool isWanted) {
-    if (place.Kind == PlaceKind::Named) {
-        Expression(*place.Object);
-        code_->Emit(Opcode::PushDuplicate);
-        Load(place);
-        ApplyChange(value, op);
-        return StoreWanted(place, isWanted);
-    }
+    LoadWithOwner(place);
+    ApplyChange(value, op);
+    if (isWanted) return StoreKeeping(place);
     if (place.Kind == PlaceKind::Member) {
-        Expression(*place.Object);
-        code_->Emit(Opcode::PushDuplicate);
-        code_->PushText(place.Name);
-        Load(place);
-        ApplyChange(value, op);
         code_->PushText(place.Name);
         code_->Emit(Opcode::StackSwap);
-        return StoreWanted(place, isWanted);
     }
-    PushKeptPlace(place);
-    code_->PushRegister(function_.Object);
-    code_->PushRegister(function_.Key);
-    Load(place);
-    ApplyChange(value, op);
-    StoreWanted(place, isWanted);
+    Store(place);
 }
 
 /// An object and its key, on the stack and in their registers.
@@ -266,15 +318,10 @@ void CodeGenerator::PushPlaceUnderValue(const Place& place) {
     PushPlace(place);
     if (place.Kind != PlaceKind::Member && place.Kind != PlaceKind::Index)
         return code_->Emit(Opcode::StackSwap);
-    ChooseKeyRegisters();
-    for (const Byte number : {function_.Key, function_.Object}) {
-        code_->Emit(ItemKind::StoreRegister, number);
-        code_->Emit(Opcode::Pop);
-    }
+    TakeIndex();
     code_->Emit(ItemKind::StoreRegister, 0);
     code_->Emit(Opcode::Pop);
-    code_->PushRegister(function_.Object);
-    code_->PushRegister(function_.Key);
+    PushIndex();
     code_->PushRegister(0);
 }
 
@@ -305,60 +352,26 @@ void CodeGenerator::ApplyChange(const Node* value, Operator op) {
 }
 
 void CodeGenerator::Increment(const Node& node, bool isWanted) {
-    const Place place = PlaceOf(*node.A);
+    const Place place = NamedOnce(PlaceOf(*node.A), true);
+    ++changes_;
     if (node.Flag || !isWanted)
         Change(place, nullptr, node.Op, isWanted);
     else
         IncrementAfter(place, node.Op);
+    --changes_;
 }
 
-/// The value before. Version 4 has nowhere to keep it and works it out from the new one.
+/// The value before, as a number.
 void CodeGenerator::IncrementAfter(const Place& place, Operator op) {
-    if (place.Kind == PlaceKind::Register) {
-        Load(place);
+    const bool isApart = place.Kind == PlaceKind::Register || version_ < FirstObjectVersion;
+    if (!isApart) {
+        LoadWithOwner(place);
         code_->Emit(Opcode::ToNumber);
-        return Change(place, nullptr, op, false);
+        return StoreKeeping(place, op);
     }
-    if (place.Kind == PlaceKind::Variable && version_ >= FirstObjectVersion) {
-        PushPlace(place);
-        Load(place);
-        code_->Emit(Opcode::ToNumber);
-        code_->Emit(Opcode::PushDuplicate);
-        ApplyChange(nullptr, op);
-        PushPlace(place);
-        code_->Emit(Opcode::StackSwap);
-        return Store(place);
-    }
-    if (place.Kind == PlaceKind::Member) return IncrementMemberAfter(place, op);
-    if (place.Kind == PlaceKind::Index) return IncrementIndexAfter(place, op);
-    Change(place, nullptr, op, true);
-    ApplyChange(nullptr, op == Operator::Add ? Operator::Subtract : Operator::Add);
-}
-
-void CodeGenerator::IncrementMemberAfter(const Place& place, Operator op) {
-    PushObject(place);
-    code_->Emit(Opcode::PushDuplicate);
-    code_->PushText(place.Name);
-    Load(place);
-    code_->Emit(Opcode::ToNumber);
-    code_->Emit(ItemKind::StoreRegister, 0);
-    code_->Emit(Opcode::StackSwap);
-    code_->PushText(place.Name);
-    code_->PushRegister(0);
-    ApplyChange(nullptr, op);
-    Store(place);
-}
-
-void CodeGenerator::IncrementIndexAfter(const Place& place, Operator op) {
-    PushKeptPlace(place);
-    Load(place);
-    code_->Emit(Opcode::ToNumber);
-    code_->Emit(ItemKind::StoreRegister, 0);
-    code_->PushRegister(function_.Object);
-    code_->PushRegister(function_.Key);
-    code_->PushRegister(0);
-    ApplyChange(nullptr, op);
-    Store(place);
+    LoadPlace(place);
+    MakeNumber();
+    Change(place, nullptr, op, false);
 }
 
 }  // namespace tamber

@@ -9,10 +9,10 @@ constexpr Long FirstStackVersion = 5;
 
 }  // namespace
 
-CodeGenerator::CodeGenerator(SymbolTable& symbols, Long version, Diagnostics& diagnostics)
+CodeGenerator::CodeGenerator(SymbolTable& symbols, Long version, FaultReport& faults)
     : symbols_(symbols),
       version_(version),
-      diagnostics_(diagnostics),
+      faults_(faults),
       folder_(symbols, version),
       functions_(version >= FirstStackVersion),
       main_(version >= FirstStackVersion) {}
@@ -28,11 +28,11 @@ void CodeGenerator::Generate(const Node& statement) {
 }
 
 void CodeGenerator::Complain(const Node& node, String text) {
-    diagnostics_.Error(node.Line, {}, std::move(text));
+    faults_.Error(node.At, std::move(text));
 }
 
 void CodeGenerator::TooLong(const Node& node) {
-    if (!isTooLong_) Complain(node, u"コードが長すぎます。式を変数に分けて下さい。");
+    if (!isTooLong_) Complain(node, u"スクリプトが長すぎます。いくつかに分けて下さい。");
     isTooLong_ = true;
 }
 
@@ -41,6 +41,7 @@ void CodeGenerator::Statements(const Node* first) {
 }
 
 void CodeGenerator::Statement(const Node& node) {
+    if (code_->IsFull() || symbols_.All().size() > ActionCode::MaxOperand) return TooLong(node);
     switch (node.Kind) {
         case NodeKind::Empty:
             return;
@@ -102,7 +103,7 @@ void CodeGenerator::Var(const Node& node) {
 }
 
 void CodeGenerator::If(const Node& first) {
-    const Label end = code_->NewLabel(first.Line);
+    const Label end = code_->NewLabel(first.At);
     const Node* node = &first;
     for (; node != nullptr && node->Kind == NodeKind::If; node = node->C) {
         const int known = folder_.ConditionOf(*node->A);
@@ -111,7 +112,7 @@ void CodeGenerator::If(const Node& first) {
             Statement(*node->B);
             return code_->Place(end);
         }
-        const Label otherwise = code_->NewLabel(node->Line);
+        const Label otherwise = code_->NewLabel(node->At);
         if (node->C != nullptr && node->C->Kind != NodeKind::If && !EndsInNot(*node->A)) {
             // The other way round there is nothing to negate.
             Condition(*node->A, otherwise, true);
@@ -132,13 +133,13 @@ void CodeGenerator::If(const Node& first) {
 
 /// The test stands behind the body, and the loop is entered there.
 void CodeGenerator::Loop(const Node* condition, const Node& body, const Node* step,
-                         std::uint32_t line) {
+                         Spot spot) {
     const int known = condition == nullptr ? 1 : folder_.ConditionOf(*condition);
     if (known == 0) return;
-    const Label begin = code_->NewLabel(line);
-    const Label end = code_->NewLabel(line);
-    const Label next = code_->NewLabel(line);
-    const Label test = code_->NewLabel(line);
+    const Label begin = code_->NewLabel(spot);
+    const Label end = code_->NewLabel(spot);
+    const Label next = code_->NewLabel(spot);
+    const Label test = code_->NewLabel(spot);
     const bool isReached = code_->IsReachable();
     if (known < 0) code_->Jump(test);
     code_->PlaceBackward(begin, isReached);
@@ -156,18 +157,18 @@ void CodeGenerator::Loop(const Node* condition, const Node& body, const Node* st
 }
 
 void CodeGenerator::While(const Node& node) {
-    Loop(node.A, *node.B, nullptr, node.Line);
+    Loop(node.A, *node.B, nullptr, node.At);
 }
 
 void CodeGenerator::For(const Node& node) {
     if (node.A != nullptr) Statement(*node.A);
-    Loop(node.B, *node.D, node.C, node.Line);
+    Loop(node.B, *node.D, node.C, node.At);
 }
 
 void CodeGenerator::DoWhile(const Node& node) {
-    const Label begin = code_->NewLabel(node.Line);
-    const Label end = code_->NewLabel(node.Line);
-    const Label next = code_->NewLabel(node.Line);
+    const Label begin = code_->NewLabel(node.At);
+    const Label end = code_->NewLabel(node.At);
+    const Label next = code_->NewLabel(node.At);
     code_->PlaceBackward(begin);
     scopes_.push_back({ScopeKind::Loop, end, next});
     Statement(*node.B);
@@ -179,9 +180,9 @@ void CodeGenerator::DoWhile(const Node& node) {
 
 /// The player puts the names on the stack, above a null. A loop left early takes the rest off.
 void CodeGenerator::ForIn(const Node& node) {
-    const Label begin = code_->NewLabel(node.Line);
-    const Label end = code_->NewLabel(node.Line);
-    const Label rest = code_->NewLabel(node.Line);
+    const Label begin = code_->NewLabel(node.At);
+    const Label end = code_->NewLabel(node.At);
+    const Label rest = code_->NewLabel(node.At);
     EnumerateObject(*node.B);
     code_->PlaceBackward(begin);
     code_->Emit(ItemKind::StoreRegister, 0);
@@ -252,7 +253,7 @@ void CodeGenerator::AssignEnumerated(const Node& target) {
 }
 
 void CodeGenerator::UnwindForIn() {
-    const Label next = code_->NewLabel(0);
+    const Label next = code_->NewLabel({});
     code_->PlaceBackward(next);
     code_->Emit(ItemKind::PushNull);
     code_->Emit(Opcode::Equals2);
@@ -262,11 +263,11 @@ void CodeGenerator::UnwindForIn() {
 
 /// Clauses without statements have the label of the next.
 void CodeGenerator::Switch(const Node& node) {
-    const Label end = code_->NewLabel(node.Line);
+    const Label end = code_->NewLabel(node.At);
     std::vector<Label> labels;
     bool isShared = false;
     for (const Node* clause = node.B; clause != nullptr; clause = clause->Next) {
-        labels.push_back(isShared ? labels.back() : code_->NewLabel(clause->Line));
+        labels.push_back(isShared ? labels.back() : code_->NewLabel(clause->At));
         isShared = clause->B == nullptr;
     }
     SwitchTests(node, labels, end);
@@ -283,7 +284,7 @@ void CodeGenerator::Switch(const Node& node) {
 /// The tests come here with the value on the stack, the clause before without it.
 void CodeGenerator::PlaceClause(Label label) {
     if (version_ < FirstStackVersion) return code_->Place(label);
-    const Label begin = code_->NewLabel(0);
+    const Label begin = code_->NewLabel({});
     code_->Jump(begin);
     code_->Place(label);
     code_->Emit(Opcode::Pop);
@@ -332,34 +333,78 @@ void CodeGenerator::TestOfCase(const Node& value) {
 /// script's own clip.
 void CodeGenerator::RestoreTarget(std::size_t scopes) {
     code_->Emit(ItemKind::SetTarget, Known("")->Index);
-    for (std::size_t i = function_.FirstScope; i < scopes; ++i)
-        if (scopes_[i].Kind == ScopeKind::TellTarget) SetTarget(*scopes_[i].Statement->A);
-}
-
-void CodeGenerator::SetTarget(const Node& target) {
-    std::string path;
-    if (target.Kind == NodeKind::Text || target.Kind == NodeKind::SlashPath) {
-        code_->Emit(ItemKind::SetTarget, target.Name->Index);
-    } else if (version_ < 5 && target.Kind == NodeKind::Member && SlashPathOf(target, path)) {
-        code_->Emit(ItemKind::SetTarget, PathText(target, path)->Index);
-    } else {
-        Expression(target);
-        code_->Emit(Opcode::SetTarget2);
+    for (std::size_t i = function_.FirstScope; i < scopes; ++i) {
+        if (scopes_[i].Kind == ScopeKind::KnownTarget) SetKnownTarget(*scopes_[i].Statement->A);
+        if (scopes_[i].Kind == ScopeKind::TellTarget) SetKeptTarget(i);
     }
 }
 
+/// A target that is there to read; false for one that must be worked out.
+bool CodeGenerator::SetKnownTarget(const Node& target) {
+    std::string path;
+    const bool isText = target.Kind == NodeKind::Text || target.Kind == NodeKind::SlashPath;
+    const bool isPath =
+        !isText && version_ < FirstStackVersion && IsClipName(target) && SlashPathOf(target, path);
+    if (!isText && !isPath) return false;
+    code_->Emit(ItemKind::SetTarget, (isText ? target.Name : PathText(target, path))->Index);
+    return true;
+}
+
+/// On a timeline the targets that are kept are members of an object that no clip has, so that they
+/// do not show among its variables.
+bool CodeGenerator::KeepsTargetsApart() const {
+    return version_ >= FirstStackVersion && function_.Node == nullptr;
+}
+
+void CodeGenerator::PushKeptTarget(std::size_t scope) {
+    if (KeepsTargetsApart()) {
+        Text("Object");
+        code_->Emit(Opcode::GetVariable);
+    }
+    Text("$target" + std::to_string(scope));
+}
+
+void CodeGenerator::SetKeptTarget(std::size_t scope) {
+    PushKeptTarget(scope);
+    code_->Emit(KeepsTargetsApart() ? Opcode::GetMember : Opcode::GetVariable);
+    code_->Emit(Opcode::SetTarget2);
+}
+
+/// A target that others within lead back to is worked out once.
 void CodeGenerator::TellTarget(const Node& node) {
-    SetTarget(*node.A);
-    scopes_.push_back({ScopeKind::TellTarget, 0, 0, &node});
+    const std::size_t scope = scopes_.size();
+    const Node& target = *node.A;
+    const bool isKnown = SetKnownTarget(target);
+    if (!isKnown && node.Flag) {
+        PushKeptTarget(scope);
+        Expression(target);
+        code_->Emit(KeepsTargetsApart()            ? Opcode::SetMember
+                    : function_.Node != nullptr ? Opcode::DefineLocal
+                                                : Opcode::SetVariable);
+        SetKeptTarget(scope);
+    } else if (!isKnown) {
+        Expression(target);
+        code_->Emit(Opcode::SetTarget2);
+    }
+    scopes_.push_back({isKnown ? ScopeKind::KnownTarget : ScopeKind::TellTarget, 0, 0, &node});
     Statement(*node.B);
+    LeaveTarget(scope);
     scopes_.pop_back();
-    RestoreTarget(scopes_.size());
+}
+
+void CodeGenerator::LeaveTarget(std::size_t scope) {
+    RestoreTarget(scope);
+    const bool isKept = scopes_[scope].Kind == ScopeKind::TellTarget && scopes_[scope].Statement->Flag;
+    if (!isKept || !KeepsTargetsApart()) return;
+    PushKeptTarget(scope);
+    code_->Emit(Opcode::Delete);
+    code_->Emit(Opcode::Pop);
 }
 
 /// The action skips one action when the frame is not there: the jump to the body.
 void CodeGenerator::IfFrameLoaded(const Node& node) {
-    const Label body = code_->NewLabel(node.Line);
-    const Label end = code_->NewLabel(node.Line);
+    const Label body = code_->NewLabel(node.At);
+    const Label end = code_->NewLabel(node.At);
     const Node& frame = *node.A;
     if (frame.Kind == NodeKind::Number && frame.Value >= 1 && frame.Value <= 65535) {
         code_->Emit(ItemKind::WaitForFrame, static_cast<std::uint32_t>(frame.Value) - 1);

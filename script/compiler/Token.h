@@ -1,5 +1,6 @@
 #pragma once
 
+#include "script/compiler/Spot.h"
 #include "script/compiler/Symbol.h"
 
 namespace tamber {
@@ -9,8 +10,7 @@ struct Token {
     TokenKind Kind = TokenKind::End;
     /// Whether a line end stands before it.
     bool StartsLine = false;
-    /// Counted from 1.
-    std::uint32_t Line = 1;
+    Spot At;
     /// As it stands in the source.
     std::string_view Text;
     /// The name, the content of a string, a path in slash syntax.

@@ -43,3 +43,11 @@ function within(o) { for (var k in o) with (o) { for (var j in o) { return n; } 
 for (k in {a: 1}) trace(within({n: 7}) + k);                 //= 7a
 function told(o) { for (var k in o) { tellTarget("clip") { for (var j in o) return _name + j; } } }
 trace(told({q: 1}) + _target);                               //= clipq/
+n = 0;
+function clipOf() { n++; return _root.clip; }
+tellTarget(clipOf()) { tellTarget(_root) { trace(shown(this) + shown(Object)); } } //= hiddenshown
+trace(shown(Object) + n);    //= hidden1
+for (i = 0; i < 2; i++) tellTarget(clipOf()) { tellTarget(_root) { break; } }
+trace(shown(Object) + shown(this) + n); //= hiddenhidden2
+function inTargets() { tellTarget(clipOf()) { tellTarget(_root) n++; return _name; } }
+trace(inTargets() + n);      //= clip5

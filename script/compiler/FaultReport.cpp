@@ -1,0 +1,22 @@
+#include "script/compiler/FaultReport.h"
+
+#include "script/compiler/Lexer.h"
+
+namespace tamber {
+
+void FaultReport::Error(Spot spot, String text) {
+    if (!found_.IsFull()) found_.Error(spot, TokenAt(spot), std::move(text));
+}
+
+void FaultReport::Warn(Spot spot, String text) {
+    found_.Warn(spot, TokenAt(spot), std::move(text));
+}
+
+std::string_view FaultReport::TokenAt(Spot spot) const {
+    if (spot.Line == 0) return {};
+    SymbolTable symbols;
+    Diagnostics ignored;
+    return Lexer(source_.substr(spot.Offset), version_, symbols, ignored).Next().Text;
+}
+
+}  // namespace tamber
