@@ -28,12 +28,8 @@ CompiledScript ActionCompiler::Compile(std::string_view source) const {
     Parser parser(source, version_, symbols, arena, diagnostics);
     FaultReport faults(source, version_);
     CodeGenerator generator(symbols, version_, faults);
-    for (;;) {
-        const std::size_t errors = diagnostics.Errors().size();
-        const Node* statement = parser.NextStatement();
-        if (statement == nullptr) break;
-        const bool isSound = !diagnostics.IsFull() && diagnostics.Errors().size() == errors;
-        if (isSound) generator.Generate(*statement);
+    while (const Node* statement = parser.NextStatement()) {
+        if (parser.IsSound()) generator.Generate(*statement);
         arena.Reset();
     }
     CompiledScript result;

@@ -6,12 +6,12 @@
 
 #include "platform/codepage.h"
 #include "script/compiler/Opcode.h"
+#include "script/compiler/Versions.h"
 
 namespace tamber {
 
 namespace {
 
-constexpr Long FirstUtf8Version = 6;
 /// Deeper blocks are indented no further.
 constexpr std::size_t MaxIndent = 20;
 

@@ -6,14 +6,13 @@
 #include <cmath>
 
 #include "script/compiler/NumberText.h"
+#include "script/compiler/Versions.h"
 #include "script/compiler/Vocabulary.h"
 
 namespace tamber {
 
 namespace {
 
-constexpr Long FirstPoolVersion = 5;
-constexpr Long FirstCastVersion = 7;
 constexpr std::size_t MaxRecord = 65535;
 constexpr std::size_t MaxConstants = 65535;
 /// Constants that a push names with one byte.
@@ -40,7 +39,7 @@ Long SignedOperand(std::uint32_t operand) {
 
 Bytes ActionEncoder::Encode(const ActionCode& first, const ActionCode& second) {
     bytes_.clear();
-    if (version_ >= FirstPoolVersion) WritePool();
+    if (version_ >= FirstObjectVersion) WritePool();
     Write(first);
     Write(second);
     return std::move(bytes_);
@@ -215,7 +214,7 @@ void ActionEncoder::WriteNumeric(const Symbol& digits) {
 /// Version 4 takes numbers as their text, which is to be the player's own; from 5 on an integer, or
 /// the shortest form that is exact.
 void ActionEncoder::WriteNumber(double value) {
-    if (version_ < FirstPoolVersion) {
+    if (version_ < FirstObjectVersion) {
         const std::string digits = NumberText(value);
         OpenPush(digits.size() + 2);
         U8(static_cast<Byte>(PushType::Text));
@@ -268,8 +267,8 @@ void ActionEncoder::LinkJumps(const ActionCode& code) {
         const std::int64_t offset = static_cast<std::int64_t>(labels_[jump.Label]) - from;
         if (offset < INT16_MIN || offset > INT16_MAX) {
             faults_.Error(code.LabelSpots[jump.Label],
-                               u"文が長すぎます。32KB を超えて飛ぶことはできません。"
-                               u"中身を関数に分けて下さい。");
+                          u"文が長すぎます。32KB を超えて飛ぶことはできません。"
+                          u"中身を関数に分けて下さい。");
             break;
         }
         PatchU16(jump.OffsetAt, static_cast<std::size_t>(offset));
@@ -295,8 +294,7 @@ void ActionEncoder::WriteFunction(const ActionCode& code,
     }
     U16(0);
     const std::size_t length = bytes_.size() - begin - RecordHeader;
-    if (length > MaxRecord)
-        faults_.Error(function.At, u"関数の名前と引数が長すぎます。");
+    if (length > MaxRecord) faults_.Error(function.At, u"関数の名前と引数が長すぎます。");
     PatchU16(begin + 1, length);
     BeginBlock(bytes_.size() - 2, function.At);
 }
@@ -326,8 +324,7 @@ void ActionEncoder::EndBlock(bool isEnd) {
     OpenBlock& block = blocks_.back();
     const std::size_t length = bytes_.size() - block.Begin;
     if (length > MaxRecord)
-        faults_.Error(block.At,
-                           u"ブロックが長すぎます。64KB までです。中身を関数に分けて下さい。");
+        faults_.Error(block.At, u"ブロックが長すぎます。64KB までです。中身を関数に分けて下さい。");
     PatchU16(block.LengthAt, length);
     if (isEnd) {
         blocks_.pop_back();
@@ -362,7 +359,7 @@ void ActionEncoder::WriteCastOrCall(const Symbol& name) {
         WriteText(name);
         ClosePush();
         U8(static_cast<Byte>(Opcode::CallFunction));
-    } else if (version_ >= FirstCastVersion) {
+    } else if (version_ >= FirstRegisterVersion) {
         WriteText(name);
         ClosePush();
         for (const Opcode action : {Opcode::GetVariable, Opcode::StackSwap, Opcode::CastOp})

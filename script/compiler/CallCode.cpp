@@ -1,6 +1,8 @@
 #include "platform/text.h"
 #include "script/compiler/CodeGenerator.h"
 #include "script/compiler/NumberText.h"
+#include "script/compiler/PlayerClasses.h"
+#include "script/compiler/Versions.h"
 #include "script/compiler/Vocabulary.h"
 
 namespace tamber {
@@ -29,7 +31,7 @@ bool CodeGenerator::Call(const Node& node) {
     const Node& callee = *node.A;
     if (callee.Kind == NodeKind::SlashPath) return CallInSlashPath(node);
     if (IsCallOfBuiltin(node)) return BuiltinCall(*callee.Name->BuiltinEntry, node);
-    if (version_ >= 5) {
+    if (version_ >= FirstObjectVersion) {
         if (!Cast(node)) PlainCall(node);
         return true;
     }
@@ -42,7 +44,7 @@ bool CodeGenerator::Call(const Node& node) {
 
 /// Numbers and texts are converted by an action when there is one argument. Among the members of an
 /// object, and in a class, the clip's own functions are methods.
-bool CodeGenerator::IsCallOfBuiltin(const Node& node) const {
+bool CodeGenerator::IsCallOfBuiltin(const Node& node) {
     if (node.A->Kind != NodeKind::Name || node.A->Name->BuiltinEntry == nullptr) return false;
     const Builtin& builtin = *node.A->Name->BuiltinEntry;
     if (IsOwnMethod(builtin, node)) return false;
@@ -54,7 +56,8 @@ bool CodeGenerator::IsCallOfBuiltin(const Node& node) const {
 /// Whether a call within `with` is one of the object's method: of one that acts on a timeline, or
 /// one that takes other arguments than the function.
 bool CodeGenerator::IsMethodWithin(const Builtin& builtin, const Node& call) const {
-    return IsMethodOfClip(builtin) || (!builtin.Takes(call.Count) && IsClipMember(builtin.Name));
+    return IsMethodOfClip(builtin) ||
+           (!builtin.Takes(call.Count) && HasPlayerMember("MovieClip", builtin.Name));
 }
 
 bool CodeGenerator::IsMethodOfClip(const Builtin& builtin) const {
@@ -174,7 +177,7 @@ bool CodeGenerator::BuiltinCall(const Builtin& builtin, const Node& node) {
 /// those of clips are their paths.
 void CodeGenerator::Target(const Node& node) {
     std::string path;
-    if (version_ < 5 && IsClipName(node) && SlashPathOf(node, path))
+    if (version_ < FirstObjectVersion && IsClipName(node) && SlashPathOf(node, path))
         return code_->PushText(PathText(node, path));
     Expression(node);
 }
@@ -221,7 +224,7 @@ void CodeGenerator::PlainCall(const Node& node) {
     code_->Emit(Opcode::CallFunction);
 }
 
-bool CodeGenerator::IsMemberPlace(const Node& callee) const {
+bool CodeGenerator::IsMemberPlace(const Node& callee) {
     return callee.Kind == NodeKind::Member || callee.Kind == NodeKind::Index ||
            (callee.Kind == NodeKind::Name && FindMember(callee.Name).IsFound);
 }
@@ -262,8 +265,7 @@ void CodeGenerator::New(const Node& node) {
 void CodeGenerator::Goto(const Node& node, bool isPlay) {
     const Node& frame = node.Count == 2 ? *node.B->Next : *node.B;
     if (node.Count == 2)
-        faults_.Warn(node.At,
-                          u"シーンはありません。フレームはムービーの先頭から数えます。");
+        faults_.Warn(node.At, u"シーンはありません。フレームはムービーの先頭から数えます。");
     if (IsWhole(frame, 1, 65535)) {
         code_->Emit(ItemKind::GotoFrame, static_cast<std::uint32_t>(frame.Value) - 1);
         if (isPlay) code_->Emit(Opcode::Play);
@@ -368,7 +370,7 @@ void CodeGenerator::Print(const Node& node, std::string_view scheme, bool isLeve
     const std::string name =
         bounds.Kind == NodeKind::Text ? Lower(bounds.Name->Text) : std::string();
     if (name != "bmovie" && name != "bframe" && name != "bmax")
-        return Complain(node, u"印刷範囲は \"bmovie\"、\"bframe\"、\"bmax\" のいずれかです。");
+        return Complain(bounds, u"印刷範囲は \"bmovie\"、\"bframe\"、\"bmax\" のいずれかです。");
     std::string url(scheme);
     if (name != "bmovie") url += "#" + name;
     UrlText(symbols_.InternCopy(url), *node.B, isLevel, 0);
@@ -397,7 +399,7 @@ void CodeGenerator::StartDrag(const Node& node) {
     const Node* lock = target.Next;
     const bool hasBounds = node.Count == 6;
     if (node.Count > 2 && !hasBounds)
-        Complain(node, u"範囲には left, top, right, bottom の四つが必要です。");
+        Complain(*lock->Next, u"範囲には left, top, right, bottom の四つが必要です。");
     if (hasBounds)
         for (const Node* side = lock->Next; side != nullptr; side = side->Next) Expression(*side);
     PushInteger(hasBounds ? 1 : 0);
@@ -421,9 +423,7 @@ bool CodeGenerator::PropertyNumber(const Node& node, Byte& number) const {
 void CodeGenerator::PushProperty(const Node& node) {
     Byte number = 0;
     if (PropertyNumber(node, number)) return PushInteger(number);
-    if (node.Kind == NodeKind::Text)
-        return Complain(node,
-                                  u"この名前のプロパティはありません。");
+    if (node.Kind == NodeKind::Text) return Complain(node, u"この名前のプロパティはありません。");
     Expression(node);
 }
 

@@ -1,25 +1,21 @@
 #include "script/compiler/Builtin.h"
 #include "script/compiler/CodeGenerator.h"
-#include "script/compiler/Vocabulary.h"
+#include "script/compiler/DottedPath.h"
+#include "script/compiler/PlayerClasses.h"
+#include "script/compiler/Versions.h"
 
 namespace tamber {
 
 namespace {
 
-constexpr Long FirstExtendsVersion = 7;
 constexpr Long HiddenFromLoops = 1;
-constexpr std::string_view ClipClass = "MovieClip";
 
 }  // namespace
 
 /// A class is made once, unless it is there. Its packages are objects of the global one.
 void CodeGenerator::Class(const Node& node) {
     const ClassNode& definition = *node.Class;
-    ClassRecord& record = classes_[DottedPath(*definition.Name)];
-    record.Name = Kept(*definition.Name);
-    record.Base = definition.Base == nullptr ? std::string() : DottedPath(*definition.Base);
-    for (const MemberNode* member = definition.FirstMember; member; member = member->Next)
-        record.Members[member->Name] = member->IsStatic;
+    ClassTable::Record& record = classes_.Define(definition);
     if (definition.IsIntrinsic) return;
     const Label end = code_->NewLabel(node.At);
     ClassPath(*definition.Name);
@@ -34,24 +30,6 @@ void CodeGenerator::Class(const Node& node) {
     HideMembers(definition);
     class_ = nullptr;
     code_->Place(end);
-}
-
-/// A copy of a class's name that stays.
-const Node* CodeGenerator::Kept(const Node& name) {
-    tamber::Node& kept = classNames_.emplace_back(name);
-    if (name.Kind == NodeKind::Member) kept.A = const_cast<tamber::Node*>(Kept(*name.A));
-    return &kept;
-}
-
-/// Empty for what is no name.
-std::string CodeGenerator::DottedPath(const Node& node) const {
-    std::vector<const Symbol*> members;
-    const Node* part = &node;
-    for (; part->Kind == NodeKind::Member; part = part->A) members.push_back(part->Name);
-    if (part->Kind != NodeKind::Name && part->Kind != NodeKind::This) return {};
-    std::string path(part->Kind == NodeKind::This ? "this" : part->Name->Text);
-    for (; !members.empty(); members.pop_back()) (path += '.') += members.back()->Text;
-    return path;
 }
 
 /// if (!_global.a.b) _global.a.b = new Object();, from the outermost on.
@@ -118,7 +96,7 @@ void CodeGenerator::Constructor(const ClassNode& node) {
 
 /// From version 7 on by an action; before, as the prototype's members say it.
 void CodeGenerator::Inherit(const ClassNode& node) {
-    if (version_ >= FirstExtendsVersion) {
+    if (version_ >= FirstRegisterVersion) {
         ClassPath(*node.Name);
         Expression(*node.Base);
         return code_->Emit(Opcode::Extends);
@@ -137,7 +115,7 @@ void CodeGenerator::Inherit(const ClassNode& node) {
 
 /// Before version 7 players know no interfaces.
 void CodeGenerator::Implement(const ClassNode& node) {
-    if (version_ < FirstExtendsVersion) return;
+    if (version_ < FirstRegisterVersion) return;
     for (const tamber::Node* name = node.Interfaces.First; name; name = name->Next)
         Expression(*name);
     Numeric(node.Interfaces.Count);
@@ -198,52 +176,47 @@ void CodeGenerator::HideMembers(const ClassNode& node) {
 
 /// A call of a class without new is a cast. Version 7 checks it; before, the value stays as it is.
 bool CodeGenerator::Cast(const Node& node) {
-    if (version_ < 6 || node.Count != 1) return false;
+    if (version_ < FirstStrictVersion || node.Count != 1) return false;
     const Node& callee = *node.A;
-    if (callee.Kind != NodeKind::Name && callee.Kind != NodeKind::Member) return false;
+    const Symbol* first = FirstName(callee);
+    if (first == nullptr) return false;
     const bool isName = callee.Kind == NodeKind::Name;
-    if (isName && (callee.Name->Declarations > 0 || FindMember(callee.Name).IsFound)) return false;
-    if (classes_.empty() || !classes_.contains(DottedPath(callee))) {
-        if (!isName || !IsPlayerClass(callee.Name->Text)) return false;
+    if (isName && (first->Declarations > 0 || FindMember(first).IsFound)) return false;
+    const bool isClass =
+        callee.Flag || (!classes_.IsEmpty() && classes_.Contains(DottedPath(callee)));
+    if (!isClass) {
+        if (!isName || !IsPlayerClass(first->Text)) return false;
         Expression(*node.B);
         code_->CastOrCall(callee.Name);
         return true;
     }
-    if (version_ >= FirstExtendsVersion) Expression(callee);
+    if (version_ >= FirstRegisterVersion) Expression(callee);
     Expression(*node.B);
-    if (version_ >= FirstExtendsVersion) code_->Emit(Opcode::CastOp);
+    if (version_ >= FirstRegisterVersion) code_->Emit(Opcode::CastOp);
     return true;
 }
 
 /// Within a class a bare name that no function around declares is a member's, when the class or
-/// one that it extends has such a member.
-CodeGenerator::MemberFound CodeGenerator::FindMember(const Symbol* name) const {
+/// one that it extends has such a member. Those of the player's classes are only known in what runs
+/// for one object.
+ClassTable::Member CodeGenerator::FindMember(const Symbol* name) {
     if (class_ == nullptr || name->Declarations > 0) return {};
-    const ClassRecord* record = class_;
-    for (std::size_t count = 0; count <= classes_.size(); ++count) {
-        const auto found = record->Members.find(name);
-        if (found != record->Members.end())
-            return {true, found->second ? record->Name : nullptr, false};
-        const auto base = classes_.find(record->Base);
-        if (base == classes_.end()) {
-            const bool isOfClip = record->Base == ClipClass && IsMemberOfClip(name);
-            return {isOfClip, nullptr, isOfClip};
-        }
-        record = &base->second;
-    }
-    return {};
+    const ClassTable::Member found = classes_.Find(*class_, *name);
+    const bool isForOne = function_.Node != nullptr && function_.Node->IsMethod;
+    return found.IsOfPlayer && !isForOne ? ClassTable::Member() : found;
 }
 
-/// A class that extends clips has their members in what runs for one.
-bool CodeGenerator::IsMemberOfClip(const Symbol* name) const {
-    const bool isForOne = function_.Node != nullptr && function_.Node->IsMethod;
-    return isForOne && (name->Property != Symbol::NoProperty || IsClipMember(name->Text));
+/// The name of a class as a value, though something else may be called so where the code stands.
+void CodeGenerator::PushClass(const Node& name) {
+    const Symbol* first = FirstName(name);
+    const bool isHidden = first->Declarations > 0 || FindMember(first).IsFound;
+    isHidden ? ClassPath(name) : Expression(name);
 }
 
 /// Whether a call names a method of the class and no built-in function: one that an author's class
 /// has, or one of clips that acts on a timeline or takes other arguments than the function.
-bool CodeGenerator::IsOwnMethod(const Builtin& builtin, const Node& call) const {
-    const MemberFound found = FindMember(call.A->Name);
+bool CodeGenerator::IsOwnMethod(const Builtin& builtin, const Node& call) {
+    const ClassTable::Member found = FindMember(call.A->Name);
     return found.IsFound &&
            (!found.IsOfClip || IsMethodOfClip(builtin) || !builtin.Takes(call.Count));
 }

@@ -1,11 +1,10 @@
 #pragma once
 
 #include <array>
-#include <deque>
-#include <map>
 #include <string>
 
 #include "script/compiler/ActionCode.h"
+#include "script/compiler/ClassTable.h"
 #include "script/compiler/ConstantFolder.h"
 #include "script/compiler/FaultReport.h"
 #include "script/compiler/Node.h"
@@ -70,22 +69,10 @@ private:
         Symbol* Name = nullptr;
         const Node* Object = nullptr;
         const Node* Key = nullptr;
-        /// Of a member of the class, whether an object of a `with` may have one of that name.
-        bool IsWithin = false;
-    };
-    struct ClassRecord {
-        const Node* Name = nullptr;
-        /// Path of the base class; empty for none.
-        std::string Base;
-        /// True for a static member.
-        std::map<const Symbol*, bool> Members;
-    };
-    struct MemberFound {
-        bool IsFound = false;
-        /// Of a static member, the class that has it.
+        /// Of a static member that is named alone, the class that has it.
         const Node* Class = nullptr;
-        /// Whether it is one of all clips.
-        bool IsOfClip = false;
+        /// Whether a member is named alone where an object of a `with` may have it.
+        bool IsWithin = false;
     };
 
     // Statements.
@@ -105,6 +92,8 @@ private:
     void PlaceClause(Label label);
     void TestOfCase(const Node& value);
     void With(const Node& node);
+    void PushWithObject(const Node& object);
+    Symbol* WithName(int number);
     void TellTarget(const Node& node);
     bool SetKnownTarget(const Node& target);
     bool KeepsTargetsApart() const;
@@ -175,6 +164,8 @@ private:
     Place PlaceOfVersion4(const Node& node);
     void PushPlace(const Place& place);
     void PushObject(const Place& place);
+    void PushObjectWithin(const Place& place);
+    void PushOwnObject(const Place& place);
     bool HasSharedRegisters() const;
     void PushPlaceUnderValue(const Place& place);
     void PushOwner(const Place& place);
@@ -203,9 +194,9 @@ private:
     /// False when the call leaves no value.
     bool Call(const Node& node);
     bool BuiltinCall(const Builtin& builtin, const Node& node);
-    bool IsCallOfBuiltin(const Node& node) const;
+    bool IsCallOfBuiltin(const Node& node);
     void PlainCall(const Node& node);
-    bool IsMemberPlace(const Node& callee) const;
+    bool IsMemberPlace(const Node& callee);
     void MethodCall(const Node& node);
     bool CallInSlashPath(const Node& node);
     bool CallInTarget(const std::string& path, Symbol* name, const Node& node);
@@ -247,11 +238,9 @@ private:
     void Accessors(const ClassNode& node, bool isStatic);
     void HideMembers(const ClassNode& node);
     bool Cast(const Node& node);
-    std::string DottedPath(const Node& node) const;
-    const Node* Kept(const Node& name);
-    MemberFound FindMember(const Symbol* name) const;
-    bool IsMemberOfClip(const Symbol* name) const;
-    bool IsOwnMethod(const Builtin& builtin, const Node& call) const;
+    ClassTable::Member FindMember(const Symbol* name);
+    void PushClass(const Node& name);
+    bool IsOwnMethod(const Builtin& builtin, const Node& call);
 
     Symbol* Known(std::string_view text) { return symbols_.Intern(text); }
     void Complain(const Node& node, String text);
@@ -271,10 +260,8 @@ private:
     std::vector<Scope> scopes_;
     std::vector<const Node*> spine_;
     std::vector<ActionCode::Parameter> parameters_;
-    std::map<std::string, ClassRecord, std::less<>> classes_;
-    const ClassRecord* class_ = nullptr;
-    /// The names of the classes, which outlive their statements.
-    std::deque<Node> classNames_;
+    ClassTable classes_;
+    ClassTable::Record* class_ = nullptr;
     int depth_ = 0;
     /// Assignments and increments in each other.
     int changes_ = 0;

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "script/compiler/NumberText.h"
+#include "script/compiler/Versions.h"
 
 namespace tamber {
 
@@ -12,7 +13,6 @@ namespace {
 /// Longer results stay sums, so that a chain of a hundred thousand texts costs no square.
 constexpr std::size_t MaxFoldedText = 255;
 constexpr double TwoTo32 = 4294967296.0;
-constexpr Long FirstTypedVersion = 5;
 constexpr Long FirstEcmaBooleanVersion = 7;
 
 std::uint32_t ToUnsigned(double value) {
@@ -99,13 +99,13 @@ Node* ConstantFolder::FoldUnary(Node* node) const {
     if (node->Op == Operator::Not) {
         const int condition = ConditionOf(operand);
         if (condition < 0) return node;
-        return version_ < FirstTypedVersion ? BecomeNumber(node, condition == 0)
-                                            : BecomeBoolean(node, condition == 0);
+        return version_ < FirstObjectVersion ? BecomeNumber(node, condition == 0)
+                                             : BecomeBoolean(node, condition == 0);
     }
     if (!IsNumber(operand)) return node;
     if (node->Op == Operator::Plus) return BecomeNumber(node, operand.Value);
     if (node->Op == Operator::Minus) return BecomeNumber(node, 0 - operand.Value);
-    if (node->Op == Operator::BitNot && version_ >= FirstTypedVersion)
+    if (node->Op == Operator::BitNot && version_ >= FirstObjectVersion)
         return BecomeNumber(node, ~ToSigned(operand.Value));
     return node;
 }
@@ -114,15 +114,15 @@ Node* ConstantFolder::FoldNumbers(Node* node) const {
     double result = 0;
     const bool isOfVersion4 = node->Op == Operator::Add || node->Op == Operator::Subtract ||
                               node->Op == Operator::Multiply || node->Op == Operator::Divide;
-    if (version_ < FirstTypedVersion && !isOfVersion4) return node;
+    if (version_ < FirstObjectVersion && !isOfVersion4) return node;
     if (Calculate(node->Op, node->A->Value, node->B->Value, result))
         return IsKnown(result) ? BecomeNumber(node, result) : node;
-    return version_ < FirstTypedVersion ? node : FoldComparison(node);
+    return version_ < FirstObjectVersion ? node : FoldComparison(node);
 }
 
 /// Whether the code can hold a result. Version 4 holds texts, and would go on with other digits.
 bool ConstantFolder::IsKnown(double result) const {
-    return std::isfinite(result) && (version_ >= FirstTypedVersion || IsExactAsText(result));
+    return std::isfinite(result) && (version_ >= FirstObjectVersion || IsExactAsText(result));
 }
 
 Node* ConstantFolder::FoldComparison(Node* node) const {
@@ -163,7 +163,7 @@ bool ConstantFolder::TextOf(const Node& node, std::string& text) const {
 
 Node* ConstantFolder::FoldTexts(Node* node) {
     const bool hasText = node->A->Kind == NodeKind::Text || node->B->Kind == NodeKind::Text;
-    if (!hasText || (version_ < FirstTypedVersion && node->Op == Operator::Add)) return node;
+    if (!hasText || (version_ < FirstObjectVersion && node->Op == Operator::Add)) return node;
     std::string left;
     std::string right;
     if (!TextOf(*node->A, left) || !TextOf(*node->B, right)) return node;

@@ -5,13 +5,12 @@
 #include "script/compiler/Parser.h"
 #include "script/compiler/ParserLevel.h"
 #include "script/compiler/ParserState.h"
+#include "script/compiler/Versions.h"
 
 namespace tamber {
 
 namespace {
 
-/// First version with functions that have registers of their own.
-constexpr Long FirstRegisterVersion = 7;
 /// A function has 255; what stands above is for values in between.
 constexpr int MaxRegister = 240;
 
@@ -166,23 +165,24 @@ Node* Parser::MembersOf(Node* node) {
     return node;
 }
 
-/// `import a.b.C;` lets C stand for a.b.C. The classes of `import a.b.*;` are not known.
+/// `import a.b.C;` lets C stand for a.b.C, `import a.b.*;` each class of a.b that is known.
 Node* Parser::ImportStatement() {
     const Spot spot = token_.At;
     NeedVersion(6, token_.Text, spot);
     Advance();
     std::vector<Symbol*> path{TakeName(u"クラス名")};
-    while (Accept(TokenKind::Dot)) {
-        if (Accept(TokenKind::Star)) {
-            diagnostics_.Warn(spot, "*", u"クラスの名前を一つずつ書いて下さい。");
-            EndStatement();
-            return Make(NodeKind::Empty, spot);
-        }
-        path.push_back(TakeMemberName());
+    bool isPackage = false;
+    while (!isPackage && Accept(TokenKind::Dot)) {
+        isPackage = Accept(TokenKind::Star);
+        if (!isPackage) path.push_back(TakeMemberName());
         if (path.size() > MaxDepth) Fail(u"名前が長すぎます。");
     }
-    const Symbol* name = path.back();
-    if (path.size() > 1) imports_[name] = std::move(path);
+    if (!isPackage)
+        imports_.Add(std::move(path));
+    else if (!imports_.AddPackage(path, symbols_))
+        diagnostics_.Warn(spot, path.back()->Text,
+                          u"このパッケージのクラスは分かりません。"
+                          u"クラスの名前を一つずつ書いて下さい。");
     EndStatement();
     return Make(NodeKind::Empty, spot);
 }
@@ -209,6 +209,7 @@ Node* Parser::ClassStatement() {
     if (!definition->IsInterface && !IsSpecial(SpecialName::Class)) Fail(u"class が必要です。");
     Advance();
     definition->Name = DottedName();
+    imports_.BeginClass(*definition->Name);
     if (IsSpecial(SpecialName::Extends)) {
         Advance();
         if (definition->IsInterface)
@@ -222,23 +223,10 @@ Node* Parser::ClassStatement() {
     }
     Expect(TokenKind::OpenBrace, u"{");
     inClass_ = true;
-    ClassBody(*definition);
+    ClassMembers(*definition);
     inClass_ = false;
+    imports_.EndClass();
     return node;
-}
-
-/// Within its braces a class in a package is known by its short name too, as if it were imported.
-void Parser::ClassBody(ClassNode& node) {
-    if (node.Name->Kind != NodeKind::Member) return ClassMembers(node);
-    std::vector<Symbol*> path;
-    for (const Node* part = node.Name; part != nullptr; part = part->A) path.push_back(part->Name);
-    std::reverse(path.begin(), path.end());
-    const Symbol* own = path.back();
-    auto imported = imports_.extract(own);
-    imports_[own] = std::move(path);
-    ClassMembers(node);
-    imports_.erase(own);
-    imports_.insert(std::move(imported));
 }
 
 /// Those that a class implements or an interface extends; the player looks through both alike.

@@ -4,13 +4,12 @@
 
 #include "platform/codepage.h"
 #include "platform/text.h"
+#include "script/compiler/Versions.h"
 
 namespace tamber {
 
 namespace {
 
-/// First version whose sources are UTF-8.
-constexpr Long FirstUtf8Version = 6;
 constexpr std::size_t MaxTokenLength = 60;
 constexpr std::size_t MaxTokenBytes = 4 * MaxTokenLength;
 
@@ -48,14 +47,14 @@ String Place(const Diagnostic& diagnostic, Long version) {
 
 void Diagnostics::Error(Spot spot, std::string_view token, String text) {
     if (!IsFull())
-        errors_.push_back({static_cast<Long>(spot.Line), std::string(token.substr(0, MaxTokenBytes)),
-                           std::move(text)});
+        errors_.push_back({static_cast<Long>(spot.Line),
+                           std::string(token.substr(0, MaxTokenBytes)), std::move(text)});
 }
 
 void Diagnostics::Warn(Spot spot, std::string_view token, String text) {
     if (warnings_.size() < MaxWarnings)
-        warnings_.push_back({static_cast<Long>(spot.Line), std::string(token.substr(0, MaxTokenBytes)),
-                             std::move(text)});
+        warnings_.push_back({static_cast<Long>(spot.Line),
+                             std::string(token.substr(0, MaxTokenBytes)), std::move(text)});
 }
 
 void Diagnostics::Merge(const Diagnostics& other) {

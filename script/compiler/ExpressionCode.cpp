@@ -2,6 +2,7 @@
 
 #include "script/compiler/Builtin.h"
 #include "script/compiler/CodeGenerator.h"
+#include "script/compiler/Versions.h"
 
 namespace tamber {
 
@@ -107,7 +108,7 @@ void CodeGenerator::PushLiteral(const Node& node) {
 
 /// Version 4 has an empty text for it.
 void CodeGenerator::Undefined() {
-    if (version_ >= 5)
+    if (version_ >= FirstObjectVersion)
         code_->Emit(ItemKind::PushUndefined);
     else
         code_->PushText(Known(""));
@@ -137,7 +138,7 @@ void CodeGenerator::Name(const Node& node) {
 
 void CodeGenerator::This() {
     if (function_.This != Symbol::NoRegister) return code_->PushRegister(function_.This);
-    code_->PushText(Known(version_ < 5 ? "" : "this"));
+    code_->PushText(Known(version_ < FirstObjectVersion ? "" : "this"));
     code_->Emit(Opcode::GetVariable);
 }
 
@@ -189,7 +190,7 @@ bool CodeGenerator::IsLogical(const Node& node) {
 Opcode CodeGenerator::ActionOf(Operator op) const {
     switch (op) {
         case Operator::Add:
-            return version_ < 5 ? Opcode::Add : Opcode::Add2;
+            return version_ < FirstObjectVersion ? Opcode::Add : Opcode::Add2;
         case Operator::Subtract:
             return Opcode::Subtract;
         case Operator::Multiply:
@@ -212,13 +213,13 @@ Opcode CodeGenerator::ActionOf(Operator op) const {
             return Opcode::BitUnsignedRight;
         case Operator::Less:
         case Operator::GreaterEqual:
-            return version_ < 5 ? Opcode::Less : Opcode::Less2;
+            return version_ < FirstObjectVersion ? Opcode::Less : Opcode::Less2;
         case Operator::Greater:
         case Operator::LessEqual:
-            return version_ >= 6 ? Opcode::Greater : ActionOf(Operator::Less);
+            return version_ >= FirstStrictVersion ? Opcode::Greater : ActionOf(Operator::Less);
         case Operator::Equal:
         case Operator::NotEqual:
-            return version_ < 5 ? Opcode::Equals : Opcode::Equals2;
+            return version_ < FirstObjectVersion ? Opcode::Equals : Opcode::Equals2;
         case Operator::StrictEqual:
         case Operator::StrictNotEqual:
             return Opcode::StrictEquals;
@@ -236,7 +237,7 @@ Opcode CodeGenerator::ActionOf(Operator op) const {
             return Opcode::StringLess;
         case Operator::StringGreater:
         case Operator::StringLessEqual:
-            return version_ >= 6 ? Opcode::StringGreater : Opcode::StringLess;
+            return version_ >= FirstStrictVersion ? Opcode::StringGreater : Opcode::StringLess;
         default:
             return Opcode::InstanceOf;
     }
@@ -245,7 +246,7 @@ Opcode CodeGenerator::ActionOf(Operator op) const {
 /// Whether an operator takes its operands the other way round: before version 6 no action tells
 /// "greater".
 bool CodeGenerator::IsReversed(const Node& node) const {
-    return version_ < 6 &&
+    return version_ < FirstStrictVersion &&
            (node.Op == Operator::Greater || node.Op == Operator::LessEqual ||
             node.Op == Operator::StringGreater || node.Op == Operator::StringLessEqual);
 }
@@ -275,11 +276,11 @@ void CodeGenerator::Binary(const Node& node) {
 /// texts in version 4 do always, for it has no action to swap them, nor one to copy what a `&&` has
 /// found on its left.
 bool CodeGenerator::IsMadeApart(const Node& node) const {
-    if (IsLogical(node)) return version_ < 5;
+    if (IsLogical(node)) return version_ < FirstObjectVersion;
     if (!IsReversed(node)) return false;
     if (IsSimple(*node.A) && IsSimple(*node.B)) return true;
     const bool isText = node.Op == Operator::StringGreater || node.Op == Operator::StringLessEqual;
-    return version_ < 5 && isText;
+    return version_ < FirstObjectVersion && isText;
 }
 
 void CodeGenerator::Apart(const Node& node) {
@@ -338,9 +339,9 @@ void CodeGenerator::SwapOperands(const Node& node) {
         PushInteger(-1);
         code_->Emit(Opcode::Multiply);
     };
-    if (version_ < 5) negate();
+    if (version_ < FirstObjectVersion) negate();
     Expression(*node.B);
-    if (version_ < 5)
+    if (version_ < FirstObjectVersion)
         negate();
     else
         code_->Emit(Opcode::StackSwap);
@@ -375,7 +376,7 @@ void CodeGenerator::Unary(const Node& node) {
 
 /// A number of the value that lies on the stack.
 void CodeGenerator::MakeNumber() {
-    if (version_ >= 5) return code_->Emit(Opcode::ToNumber);
+    if (version_ >= FirstObjectVersion) return code_->Emit(Opcode::ToNumber);
     PushInteger(0);
     code_->Emit(Opcode::Add);
 }
@@ -477,7 +478,8 @@ void CodeGenerator::NumericOperand(const Node& node) {
 /// is the size of the code.
 void CodeGenerator::Numeric(double value) {
     const auto whole = static_cast<std::size_t>(value >= 0 && value < 10000 ? value : 0);
-    if (version_ < 5 || version_ > 6 || static_cast<double>(whole) != value || std::signbit(value))
+    if (version_ < FirstObjectVersion || version_ >= FirstRegisterVersion || static_cast<double>(whole) != value ||
+        std::signbit(value))
         return code_->PushNumber(value);
     Symbol*& digits = digits_[whole];
     if (digits == nullptr) digits = symbols_.InternCopy(std::to_string(whole));

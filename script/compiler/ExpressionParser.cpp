@@ -2,6 +2,7 @@
 
 #include "script/compiler/Parser.h"
 #include "script/compiler/ParserLevel.h"
+#include "script/compiler/Versions.h"
 
 namespace tamber {
 
@@ -83,8 +84,6 @@ BinaryOperator BinaryOperatorOf(TokenKind kind) {
     }
 }
 
-/// First version whose calls with dots are no targets.
-constexpr Long FirstObjectVersion = 5;
 constexpr TokenKind FirstCompound = TokenKind::AddAssign;
 constexpr TokenKind LastCompound = TokenKind::UnsignedRightAssign;
 

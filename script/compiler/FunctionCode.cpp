@@ -2,12 +2,11 @@
 #include <utility>
 
 #include "script/compiler/CodeGenerator.h"
+#include "script/compiler/Versions.h"
 
 namespace tamber {
 
 namespace {
-
-constexpr Long FirstRegisterVersion = 7;
 
 enum FunctionFlag : std::uint16_t {
     PreloadThis = 0x01,

@@ -29,13 +29,28 @@ void CodeGenerator::GuardBlock(const Node& statement, const Body& body) {
 }
 
 void CodeGenerator::With(const Node& node) {
-    Expression(*node.A);
+    PushWithObject(*node.A);
     code_->BeginWith(node.At);
     ++function_.Withs;
     GuardBlock(node, [&] { Statement(*node.B); });
     --function_.Withs;
     code_->EndWith();
     FollowMarks(MarksOf(node), node.At);
+}
+
+/// In a class, whose members are no variables, the object has a name, to be asked for them.
+void CodeGenerator::PushWithObject(const Node& object) {
+    if (class_ == nullptr) return Expression(object);
+    Symbol* const name = WithName(function_.Withs + 1);
+    code_->PushText(name);
+    Expression(object);
+    code_->Emit(Opcode::DefineLocal);
+    code_->PushText(name);
+    code_->Emit(Opcode::GetVariable);
+}
+
+Symbol* CodeGenerator::WithName(int number) {
+    return symbols_.InternCopy("$with" + std::to_string(number));
 }
 
 /// The jumps that mark a guard when they leave it. A return does only where a `finally` runs first.

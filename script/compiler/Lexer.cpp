@@ -6,13 +6,12 @@
 #include <limits>
 
 #include "platform/codepage.h"
+#include "script/compiler/Versions.h"
 #include "script/compiler/Vocabulary.h"
 
 namespace tamber {
 
 namespace {
-
-constexpr Long FirstUtf8Version = 6;
 
 enum CharacterClass : Byte { Other, Blank, LetterClass, DigitClass };
 
@@ -403,8 +402,7 @@ Token Lexer::ReadString(Token token) {
     if (isClosed) ++at_;
     token.Text = Between(begin, at_);
     if (!isClosed)
-        diagnostics_.Error(token.At, token.Text,
-                           u"文字列が閉じられていません。引用符が必要です。");
+        diagnostics_.Error(token.At, token.Text, u"文字列が閉じられていません。引用符が必要です。");
     CheckLength(token);
     if (isPlain) {
         token.Name = symbols_.Intern(Between(plain, close));

@@ -103,7 +103,8 @@ enum class Operator : Byte {
 ///
 /// | Kind | A, B, C, D | other |
 /// |---|---|---|
-/// | Member | object | Name |
+/// | Name | | Name; Flag: one of a class, by an import |
+/// | Member | object | Name; Flag: as of a Name |
 /// | Index | object, key | |
 /// | Call, New | callee, first argument (a list by Next) | Count arguments |
 /// | Unary; Binary | operand; left, right | Op |
@@ -119,9 +120,9 @@ enum class Operator : Byte {
 /// | ForIn | target (a Var or an expression), object, body | |
 /// | Switch | value, first case | |
 /// | Case | value (null: default), first statement | |
-/// | With, TellTarget, IfFrameLoaded | object or frame, body | With: Count, the jumps out of it; TellTarget: Flag, others stand within |
-/// | Try | body, first handler, last | Count: the jumps out of body and handlers |
-/// | Catch | type (null: all), body | Name of the exception |
+/// | With, TellTarget, IfFrameLoaded | object or frame, body | With: Count, the jumps out of it;
+/// TellTarget: Flag, others stand within | | Try | body, first handler, last | Count: the jumps out
+/// of body and handlers | | Catch | type (null: all), body | Name of the exception |
 struct Node {
     /// Jumps that leave a With or Try, in its Count.
     static constexpr std::uint32_t EscapesByBreak = 1;

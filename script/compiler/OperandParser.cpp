@@ -3,6 +3,7 @@
 #include "platform/text.h"
 #include "script/compiler/Builtin.h"
 #include "script/compiler/Parser.h"
+#include "script/compiler/Versions.h"
 
 namespace tamber {
 
@@ -11,7 +12,7 @@ bool Parser::IsSlashPathAhead() {
     if (Is(TokenKind::Slash) || Is(TokenKind::Colon) || Is(TokenKind::Dot))
         return lexer_.ReadSlashPath(token_, Lexer::PathForm::Rooted);
     if (!Is(TokenKind::Identifier) || colonsAwaited_ > 0) return false;
-    const bool mayCall = isStatement && version_ == 4;
+    const bool mayCall = isStatement && version_ < FirstObjectVersion;
     return lexer_.ReadSlashPath(
         token_, mayCall ? Lexer::PathForm::WithColonOrCall : Lexer::PathForm::WithColon);
 }
@@ -69,8 +70,7 @@ Node* Parser::Name() {
     NoteName(name, spot);
     NoteUse(name);
     NoteSpecial(name->Special);
-    if (!imports_.empty())
-        if (Node* imported = Imported(name, spot)) return imported;
+    if (Node* imported = Imported(name, spot)) return imported;
     Node* node = Make(NodeKind::Name, spot);
     node->Name = name;
     return node;
@@ -81,9 +81,9 @@ Node* Parser::SpecialValue(SpecialName name, Spot spot) {
     switch (name) {
         case SpecialName::True:
         case SpecialName::False:
-            node = Make(version_ < 5 ? NodeKind::Number : NodeKind::Boolean, spot);
+            node = Make(version_ < FirstObjectVersion ? NodeKind::Number : NodeKind::Boolean, spot);
             node->Flag = name == SpecialName::True;
-            if (version_ < 5) node->Value = node->Flag ? 1 : 0;
+            if (version_ < FirstObjectVersion) node->Value = node->Flag ? 1 : 0;
             return node;
         case SpecialName::NewLine:
             node = Make(NodeKind::Text, spot);
@@ -102,17 +102,20 @@ Node* Parser::SpecialValue(SpecialName name, Spot spot) {
     }
 }
 
-Node* Parser::Imported(const Symbol* name, Spot spot) {
-    const auto found = imports_.find(name);
-    if (found == imports_.end()) return nullptr;
+/// The whole name of a class that a short one stands for, or null for what is no class's.
+Node* Parser::Imported(Symbol* name, Spot spot) {
+    if (imports_.IsEmpty() || name->DeclaredIn != 0) return nullptr;
+    const Imports::Path path = imports_.Find(name);
+    if (path.empty()) return nullptr;
     Node* node = Make(NodeKind::Name, spot);
-    node->Name = found->second.front();
-    for (std::size_t i = 1; i < found->second.size(); ++i) {
+    node->Name = path.front();
+    for (std::size_t i = 1; i < path.size(); ++i) {
         Node* member = Make(NodeKind::Member, spot);
         member->A = node;
-        member->Name = found->second[i];
+        member->Name = path[i];
         node = member;
     }
+    node->Flag = true;
     return node;
 }
 

@@ -31,8 +31,11 @@ Node* Parser::NextStatement() {
             Advance();
             continue;
         }
+        const std::size_t errors = diagnostics_.Errors().size();
         try {
-            if (Node* statement = GuardedStatement()) return statement;
+            Node* statement = GuardedStatement();
+            isSound_ = !diagnostics_.IsFull() && diagnostics_.Errors().size() == errors;
+            if (statement != nullptr) return statement;
         } catch (const HopelessError&) {
             isHopeless_ = true;
         }

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <unordered_map>
-
 #include "script/compiler/ConstantFolder.h"
+#include "script/compiler/Imports.h"
 #include "script/compiler/Lexer.h"
 #include "script/compiler/Node.h"
 
@@ -20,6 +19,8 @@ public:
     /// The next statement at the top, or null at the end. After an error it goes on with the next
     /// statement that can be read; after too many it ends.
     Node* NextStatement();
+    /// Whether the statement that was given last was read without an error.
+    bool IsSound() const { return isSound_; }
 
 private:
     /// Unwinds to the nearest list of statements.
@@ -111,7 +112,7 @@ private:
     Node* Primary();
     Node* Name();
     Node* SpecialValue(SpecialName name, Spot spot);
-    Node* Imported(const Symbol* name, Spot spot);
+    Node* Imported(Symbol* name, Spot spot);
     /// Tells of a name that the version's players do not know.
     void NoteName(Symbol* name, Spot spot);
     /// A use of a name as a variable.
@@ -144,7 +145,6 @@ private:
     Node* MembersOf(Node* node);
     Node* ClassReference();
     void Interfaces(ClassNode& node);
-    void ClassBody(ClassNode& node);
     void ClassMembers(ClassNode& node);
     void ClassMember(ClassNode& node);
     void SkipMetadata();
@@ -176,6 +176,7 @@ private:
     Token token_;
     int depth_ = 0;
     bool isHopeless_ = false;
+    bool isSound_ = true;
     bool atStatement_ = false;
     int colonsAwaited_ = 0;
     /// Blocks around the statement, within the function.
@@ -196,8 +197,7 @@ private:
     std::vector<Guard> guards_;
     std::size_t firstGuard_ = 0;
     std::vector<Use> uses_;
-    /// What imports make of short names: the parts of the full ones.
-    std::unordered_map<const Symbol*, std::vector<Symbol*>> imports_;
+    Imports imports_;
 };
 
 }  // namespace tamber

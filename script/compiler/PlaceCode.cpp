@@ -1,11 +1,10 @@
 #include "script/compiler/CodeGenerator.h"
+#include "script/compiler/Versions.h"
 
 namespace tamber {
 
 namespace {
 
-constexpr Long FirstObjectVersion = 5;
-constexpr Long FirstRegisterVersion = 7;
 /// Registers of a timeline's code for an object and its key; register 0 holds values.
 constexpr Byte ObjectRegister = 1;
 constexpr Byte KeyRegister = 2;
@@ -18,9 +17,12 @@ CodeGenerator::Place CodeGenerator::PlaceOf(const Node& node) {
         case NodeKind::Name: {
             if (node.Name->Register != Symbol::NoRegister)
                 return {PlaceKind::Register, node.Name->Register, 0, node.Name};
-            const MemberFound found = FindMember(node.Name);
+            const ClassTable::Member found = FindMember(node.Name);
             if (!found.IsFound) return {.Name = node.Name};
-            return {PlaceKind::Member, 0, 0, node.Name, found.Class};
+            return {.Kind = PlaceKind::Member,
+                    .Name = node.Name,
+                    .Class = found.Class,
+                    .IsWithin = function_.Withs > 0};
         }
         case NodeKind::SlashPath:
             return {.Name = node.Name};
@@ -119,7 +121,37 @@ void CodeGenerator::PushPlace(const Place& place) {
 
 /// The object that has a member.
 void CodeGenerator::PushObject(const Place& place) {
-    place.Object == nullptr ? This() : Expression(*place.Object);
+    if (place.IsWithin)
+        PushObjectWithin(place);
+    else if (place.Object != nullptr)
+        Expression(*place.Object);
+    else
+        PushOwnObject(place);
+}
+
+/// The object or class whose code names a member alone.
+void CodeGenerator::PushOwnObject(const Place& place) {
+    place.Class != nullptr ? PushClass(*place.Class) : This();
+}
+
+/// Of the objects of the `with` statements around the first that has such a member, the innermost
+/// before the others.
+void CodeGenerator::PushObjectWithin(const Place& place) {
+    const Label found = code_->NewLabel({});
+    for (int number = function_.Withs; number > 0; --number) {
+        code_->PushText(WithName(number));
+        code_->Emit(Opcode::GetVariable);
+        code_->Emit(Opcode::PushDuplicate);
+        code_->PushText(place.Name);
+        code_->Emit(Opcode::GetMember);
+        code_->Emit(ItemKind::PushUndefined);
+        code_->Emit(Opcode::StrictEquals);
+        code_->Emit(Opcode::Not);
+        code_->JumpIf(found);
+        code_->Emit(Opcode::Pop);
+    }
+    PushOwnObject(place);
+    code_->Place(found);
 }
 
 void CodeGenerator::LoadPlace(const Place& place) {
@@ -268,7 +300,8 @@ void CodeGenerator::PushIndex() {
 
 bool CodeGenerator::IsSimplePlace(const Place& place) const {
     if (place.IsWithin) return false;
-    const bool hasSimpleObject = place.Object == nullptr || IsSimple(*place.Object);
+    const Node* object = place.Class != nullptr ? place.Class : place.Object;
+    const bool hasSimpleObject = object == nullptr || IsSimple(*object);
     return hasSimpleObject && (place.Key == nullptr || IsSimple(*place.Key));
 }
 

@@ -1,21 +1,16 @@
 #include "script/compiler/CodeGenerator.h"
+#include "script/compiler/DottedPath.h"
+#include "script/compiler/Versions.h"
 
 namespace tamber {
-
-namespace {
-
-/// First version with actions that copy and swap values.
-constexpr Long FirstStackVersion = 5;
-
-}  // namespace
 
 CodeGenerator::CodeGenerator(SymbolTable& symbols, Long version, FaultReport& faults)
     : symbols_(symbols),
       version_(version),
       faults_(faults),
       folder_(symbols, version),
-      functions_(version >= FirstStackVersion),
-      main_(version >= FirstStackVersion) {}
+      functions_(version >= FirstObjectVersion),
+      main_(version >= FirstObjectVersion) {}
 
 void CodeGenerator::Generate(const Node& statement) {
     if (statement.Kind == NodeKind::Function && statement.Flag) {
@@ -93,7 +88,7 @@ void CodeGenerator::Var(const Node& node) {
     if (node.Name->Register != Symbol::NoRegister) {
         if (node.A != nullptr)
             AssignPlain({PlaceKind::Register, node.Name->Register, 0, node.Name}, *node.A, false);
-    } else if (version_ < 5) {
+    } else if (version_ < FirstObjectVersion) {
         if (node.A != nullptr) AssignPlain({.Name = node.Name}, *node.A, false);
     } else {
         code_->PushText(node.Name);
@@ -132,8 +127,7 @@ void CodeGenerator::If(const Node& first) {
 }
 
 /// The test stands behind the body, and the loop is entered there.
-void CodeGenerator::Loop(const Node* condition, const Node& body, const Node* step,
-                         Spot spot) {
+void CodeGenerator::Loop(const Node* condition, const Node& body, const Node* step, Spot spot) {
     const int known = condition == nullptr ? 1 : folder_.ConditionOf(*condition);
     if (known == 0) return;
     const Label begin = code_->NewLabel(spot);
@@ -202,7 +196,7 @@ void CodeGenerator::ForIn(const Node& node) {
 /// Version 5 enumerates by name only, so what has none becomes a member for a moment: of an object
 /// that no clip has.
 void CodeGenerator::EnumerateObject(const Node& object) {
-    if (version_ >= 6) {
+    if (version_ >= FirstStrictVersion) {
         Expression(object);
         return code_->Emit(Opcode::Enumerate2);
     }
@@ -283,7 +277,7 @@ void CodeGenerator::Switch(const Node& node) {
 
 /// The tests come here with the value on the stack, the clause before without it.
 void CodeGenerator::PlaceClause(Label label) {
-    if (version_ < FirstStackVersion) return code_->Place(label);
+    if (version_ < FirstObjectVersion) return code_->Place(label);
     const Label begin = code_->NewLabel({});
     code_->Jump(begin);
     code_->Place(label);
@@ -295,7 +289,7 @@ void CodeGenerator::PlaceClause(Label label) {
 /// in a variable.
 void CodeGenerator::SwitchTests(const Node& node, const std::vector<Label>& labels, Label end) {
     Symbol* const kept = symbols_.InternCopy("$switch" + std::to_string(scopes_.size()));
-    const bool isOnStack = version_ >= FirstStackVersion;
+    const bool isOnStack = version_ >= FirstObjectVersion;
     if (!isOnStack) code_->PushText(kept);
     Expression(*node.A);
     if (!isOnStack) code_->Emit(Opcode::SetVariable);
@@ -321,9 +315,9 @@ void CodeGenerator::SwitchTests(const Node& node, const std::vector<Label>& labe
 }
 
 void CodeGenerator::TestOfCase(const Node& value) {
-    if (version_ >= 6)
+    if (version_ >= FirstStrictVersion)
         code_->Emit(Opcode::StrictEquals);
-    else if (version_ == 5)
+    else if (version_ >= FirstObjectVersion)
         code_->Emit(Opcode::Equals2);
     else
         code_->Emit(value.Kind == NodeKind::Text ? Opcode::StringEquals : Opcode::Equals);
@@ -344,7 +338,7 @@ bool CodeGenerator::SetKnownTarget(const Node& target) {
     std::string path;
     const bool isText = target.Kind == NodeKind::Text || target.Kind == NodeKind::SlashPath;
     const bool isPath =
-        !isText && version_ < FirstStackVersion && IsClipName(target) && SlashPathOf(target, path);
+        !isText && version_ < FirstObjectVersion && IsClipName(target) && SlashPathOf(target, path);
     if (!isText && !isPath) return false;
     code_->Emit(ItemKind::SetTarget, (isText ? target.Name : PathText(target, path))->Index);
     return true;
@@ -353,7 +347,7 @@ bool CodeGenerator::SetKnownTarget(const Node& target) {
 /// On a timeline the targets that are kept are members of an object that no clip has, so that they
 /// do not show among its variables.
 bool CodeGenerator::KeepsTargetsApart() const {
-    return version_ >= FirstStackVersion && function_.Node == nullptr;
+    return version_ >= FirstObjectVersion && function_.Node == nullptr;
 }
 
 void CodeGenerator::PushKeptTarget(std::size_t scope) {
@@ -378,7 +372,7 @@ void CodeGenerator::TellTarget(const Node& node) {
     if (!isKnown && node.Flag) {
         PushKeptTarget(scope);
         Expression(target);
-        code_->Emit(KeepsTargetsApart()            ? Opcode::SetMember
+        code_->Emit(KeepsTargetsApart()         ? Opcode::SetMember
                     : function_.Node != nullptr ? Opcode::DefineLocal
                                                 : Opcode::SetVariable);
         SetKeptTarget(scope);
@@ -394,7 +388,8 @@ void CodeGenerator::TellTarget(const Node& node) {
 
 void CodeGenerator::LeaveTarget(std::size_t scope) {
     RestoreTarget(scope);
-    const bool isKept = scopes_[scope].Kind == ScopeKind::TellTarget && scopes_[scope].Statement->Flag;
+    const bool isKept =
+        scopes_[scope].Kind == ScopeKind::TellTarget && scopes_[scope].Statement->Flag;
     if (!isKept || !KeepsTargetsApart()) return;
     PushKeptTarget(scope);
     code_->Emit(Opcode::Delete);

@@ -64,6 +64,8 @@ struct Symbol {
     const Builtin* BuiltinEntry = nullptr;
     /// Whether the script gives a variable of the timeline that name.
     bool IsOwn = false;
+    /// Whether a class of the script has a member of that name.
+    bool IsMember = false;
 
     /// Register that holds the variable in the function whose code is being made.
     Byte Register = NoRegister;

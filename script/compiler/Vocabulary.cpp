@@ -5,6 +5,8 @@
 #include <string>
 #include <unordered_map>
 
+#include "script/compiler/Versions.h"
+
 namespace tamber {
 
 namespace {
@@ -182,96 +184,6 @@ constexpr LaterName LaterNames[] = {
     {"_ymouse", 5},
 };
 
-constexpr std::string_view PlayerClasses[] = {
-    "Button",     "Camera",     "Color",     "ContextMenu",   "LoadVars",     "LocalConnection",
-    "Microphone", "MovieClip",  "NetStream", "NetConnection", "SharedObject", "Sound",
-    "TextField",  "TextFormat", "Video",     "XML",           "XMLNode",      "XMLSocket",
-};
-
-/// Apart from the numbered properties; in the order of their codes.
-constexpr std::string_view ClipMembers[] = {
-    "_lockroot",
-    "_parent",
-    "attachAudio",
-    "attachBitmap",
-    "attachMovie",
-    "beginBitmapFill",
-    "beginFill",
-    "beginGradientFill",
-    "blendMode",
-    "cacheAsBitmap",
-    "clear",
-    "createEmptyMovieClip",
-    "createTextField",
-    "curveTo",
-    "duplicateMovieClip",
-    "enabled",
-    "endFill",
-    "filters",
-    "focusEnabled",
-    "getBounds",
-    "getBytesLoaded",
-    "getBytesTotal",
-    "getDepth",
-    "getInstanceAtDepth",
-    "getNextHighestDepth",
-    "getRect",
-    "getSWFVersion",
-    "getTextSnapshot",
-    "getURL",
-    "globalToLocal",
-    "gotoAndPlay",
-    "gotoAndStop",
-    "hitArea",
-    "hitTest",
-    "lineGradientStyle",
-    "lineStyle",
-    "lineTo",
-    "loadMovie",
-    "loadVariables",
-    "localToGlobal",
-    "menu",
-    "moveTo",
-    "nextFrame",
-    "onData",
-    "onDragOut",
-    "onDragOver",
-    "onEnterFrame",
-    "onKeyDown",
-    "onKeyUp",
-    "onKillFocus",
-    "onLoad",
-    "onMouseDown",
-    "onMouseMove",
-    "onMouseUp",
-    "onPress",
-    "onRelease",
-    "onReleaseOutside",
-    "onRollOut",
-    "onRollOver",
-    "onSetFocus",
-    "onUnload",
-    "opaqueBackground",
-    "play",
-    "prevFrame",
-    "removeMovieClip",
-    "scale9Grid",
-    "scrollRect",
-    "setMask",
-    "startDrag",
-    "stop",
-    "stopDrag",
-    "swapDepths",
-    "tabChildren",
-    "tabEnabled",
-    "tabIndex",
-    "trackAsMenu",
-    "transform",
-    "unloadMovie",
-    "useHandCursor",
-};
-static_assert(std::is_sorted(std::begin(ClipMembers), std::end(ClipMembers)));
-
 struct WordMeaning {
     TokenKind Kind = TokenKind::Identifier;
     SpecialName Name = SpecialName::None;
@@ -349,15 +261,6 @@ void Classify(Symbol& symbol, Long version) {
 
 std::string_view PropertyName(std::size_t number) {
     return number < std::size(Properties) ? Properties[number] : std::string_view();
-}
-
-bool IsClipMember(std::string_view name) {
-    return std::binary_search(std::begin(ClipMembers), std::end(ClipMembers), name);
-}
-
-bool IsPlayerClass(std::string_view name) {
-    return std::find(std::begin(PlayerClasses), std::end(PlayerClasses), name) !=
-           std::end(PlayerClasses);
 }
 
 }  // namespace tamber

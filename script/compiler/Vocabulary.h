@@ -7,9 +7,6 @@
 
 namespace tamber {
 
-/// First version in which names are told apart by their case.
-inline constexpr Long FirstCaseVersion = 7;
-
 /// The text with its Latin letters small, as names are compared below that version.
 std::string Lower(std::string_view text);
 
@@ -19,11 +16,5 @@ void Classify(Symbol& symbol, Long version);
 
 /// Name of a property of a movie clip; empty for a number that none has.
 std::string_view PropertyName(std::size_t number);
-
-/// Whether movie clips have a member of the name, apart from the properties that Classify numbers.
-bool IsClipMember(std::string_view name);
-
-/// Whether a call of the name, that of a class of the player, is a cast that converts nothing.
-bool IsPlayerClass(std::string_view name);
 
 }  // namespace tamber

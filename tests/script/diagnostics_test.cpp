@@ -69,6 +69,13 @@ TEST(Diagnostics, NameTheLineAndTheToken) {
         {6, "f(1;", 1, ";"},
         {6, "x = 2 +;", 1, ";"},
         {6, "\nadd 1;", 2, "add"},
+        {4, "x = 1;\ny = unknown(1);", 2, "unknown"},
+        {4, "/a/unknown();", 1, "/"},
+        {4, "x = f.y(1).z;", 1, "z"},
+        {6, "getURL(\"u\", \"w\", \"PUT\");", 1, "\"PUT\""},
+        {6, "x = getProperty(c,\n  \"_none\");", 2, "\"_none\""},
+        {6, "print(\"c\", \"all\");", 1, "\"all\""},
+        {6, "startDrag(c, true, 0, 1);", 1, "0"},
     };
     for (const Fault& fault : faults) {
         const CompiledScript script = Compiled(fault.Source, fault.Version);
@@ -78,6 +85,15 @@ TEST(Diagnostics, NameTheLineAndTheToken) {
         EXPECT_FALSE(script.Errors[0].Text.empty()) << fault.Source;
         EXPECT_TRUE(script.Actions.empty()) << fault.Source;
     }
+}
+
+TEST(Diagnostics, OfTheParserAndOfTheGeneratorAreToldTogether) {
+    const CompiledScript script = Compiled(
+        "gotoAndPlay();\nx = ;\nremoveMovieClip();\ngetURL(\"u\", \"w\", \"PUT\");\n"
+        "1 = 2;\ntrace();");
+    ASSERT_EQ(script.Errors.size(), 6U);
+    for (Long line = 1; line <= 6; ++line)
+        EXPECT_EQ(script.Errors[static_cast<std::size_t>(line - 1)].Line, line);
 }
 
 TEST(Diagnostics, GoOnBehindAnError) {

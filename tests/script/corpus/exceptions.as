@@ -159,3 +159,16 @@ function recurs(n) { try { throw n; } catch (ex) { if (n > 0) recurs(n - 1); ret
 trace(recurs(3));                 //= 3
 function closes(v) { try { throw v; } catch (own) { return function () { return own; }; } }
 one = closes(1); two = closes(2); trace(one() + "," + two()); //= 1,2
+// The name ends with its block.
+class Holder {
+  var e = "member"; static var shared = "static";
+  function tell() { var seen = e; try { throw "x"; } catch (e) { seen += e; } return seen + this.e + e.length; }
+  function hides(Holder) { try { throw Holder; } catch (shared) { return shared + Holder; } }
+  static function own() { var Holder = 5; shared += Holder; return shared; }
+  static function caught() { try { throw 1; } catch (Holder) { return shared + Holder; } }
+}
+trace(new Holder().tell());       //= memberxmember6
+trace(new Holder().hides("h"));   //= hh
+trace(Holder.own() + Holder.caught()); //= static5static51
+function local() { var e = "local"; try { throw "t"; } catch (e) { e += "!"; var in2 = e; } return in2 + e; }
+trace(local());                   //= t!local

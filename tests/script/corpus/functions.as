@@ -67,3 +67,13 @@ function around(s) { var h = function (s) { done = 1; }; h(false); return s; }
 trace(around("yes"));        //= yes
 function counts(n) { var f = function (o) { for (var n in o) { } var s; }; f({a: 1}); return n; }
 trace(counts(5));            //= 5
+// Functions declared in a block are known from its beginning.
+if (later(1) == 2) { trace(inBlock()); function inBlock() { return "in block"; } } //= in block
+function chooses(n) {
+  if (n > 0) { return sign(); function sign() { return "plus"; } }
+  else { return sign(); function sign() { return "minus"; } }
+}
+trace(chooses(1) + chooses(-1));  //= plusminus
+switch (1) { case 1: trace(inCase()); break; function inCase() { return "in case"; } } //= in case
+for (i = 0; i < 2; i++) { continue; function behind() { return "behind continue"; } }
+trace(behind());                  //= behind continue

@@ -50,4 +50,4 @@ trace(shown(Object) + n);    //= hidden1
 for (i = 0; i < 2; i++) tellTarget(clipOf()) { tellTarget(_root) { break; } }
 trace(shown(Object) + shown(this) + n); //= hiddenhidden2
 function inTargets() { tellTarget(clipOf()) { tellTarget(_root) n++; return _name; } }
-trace(inTargets() + n);      //= clip5
+trace(inTargets() + n);      //= clip4

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <string>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+#include "script/compiler/Node.h"
+#include "script/compiler/SymbolTable.h"
+
+namespace tamber {
+
+/// What short names of classes stand for: by imports, and within a class that lies in a package.
+class Imports {
+public:
+    /// The names that a whole name consists of.
+    using Path = std::vector<Symbol*>;
+
+    void Add(Path path);
+    /// All classes of a package, those too that the script declares later; false when none is
+    /// known.
+    bool AddPackage(const Path& path, SymbolTable& symbols);
+    /// A class of the script: until its end the others of its package are known by their short
+    /// names.
+    void BeginClass(const Node& name);
+    void EndClass();
+    /// Empty for a name that stands for itself.
+    Path Find(Symbol* name) const;
+    /// Whether no name stands for another.
+    bool IsEmpty() const { return paths_.empty() && package_ == nullptr; }
+
+private:
+    struct Package {
+        Path Names;
+        std::unordered_set<Symbol*> Classes;
+        bool IsImported = false;
+    };
+
+    Package& PackageOf(const Path& path);
+    void AddClass(const Package& package, Symbol* name);
+    static Path Joined(const Path& package, Symbol* name);
+
+    std::unordered_map<const Symbol*, Path> paths_;
+    /// By their names with dots between.
+    std::unordered_map<std::string, Package> packages_;
+    /// Package of the class that is read, or null.
+    Package* package_ = nullptr;
+    /// Path of that class.
+    Path own_;
+};
+
+}  // namespace tamber

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+namespace tamber {
+
+/// Whether objects of a class of the player, told by its whole name, have a member: one that its
+/// instances have beside those that a version 4 property number stands for. Those of Object are not
+/// told for the others.
+bool HasPlayerMember(std::string_view className, std::string_view member);
+
+/// Whether objects of the class stand on the stage and have the properties with numbers.
+bool IsOnStage(std::string_view className);
+
+/// Whether a call of the name, that of a class of the player, is a cast that converts nothing.
+bool IsPlayerClass(std::string_view name);
+
+/// Short names of the player's classes in a package; none for a package that it does not have.
+std::span<const std::string_view> ClassesOfPackage(std::string_view package);
+
+}  // namespace tamber
