@@ -214,11 +214,12 @@ void CodeGenerator::PushClass(const Node& name) {
 }
 
 /// Whether a call names a method of the class and no built-in function: one that an author's class
-/// has, or one of clips that acts on a timeline or takes other arguments than the function.
+/// has, or one of the player's classes that acts on a timeline in a clip, or that takes other
+/// arguments than the function.
 bool CodeGenerator::IsOwnMethod(const Builtin& builtin, const Node& call) {
     const ClassTable::Member found = FindMember(call.A->Name);
     return found.IsFound &&
-           (!found.IsOfClip || IsMethodOfClip(builtin) || !builtin.Takes(call.Count));
+           (!found.IsOfPlayer || IsMethodOfClip(builtin) || !builtin.Takes(call.Count));
 }
 
 }  // namespace tamber

@@ -7,7 +7,6 @@ namespace tamber {
 
 namespace {
 
-constexpr std::string_view ClipClass = "MovieClip";
 constexpr std::string_view RootClass = "Object";
 
 }  // namespace
@@ -94,13 +93,10 @@ void ClassTable::Renew(Record& record) const {
 }
 
 ClassTable::Member ClassTable::OfPlayer(const std::string& base, const Symbol& name) {
-    Member member;
     const bool isProperty = name.Property != Symbol::NoProperty && IsOnStage(base);
-    const bool isOfBase = isProperty || HasPlayerMember(base, name.Text);
-    member.IsOfPlayer = isOfBase || HasPlayerMember(RootClass, name.Text);
-    member.IsOfClip = isOfBase && base == ClipClass;
-    member.IsFound = member.IsOfPlayer;
-    return member;
+    const bool isFound = isProperty || HasPlayerMember(base, name.Text) ||
+                         HasPlayerMember(RootClass, name.Text);
+    return {.IsFound = isFound, .IsOfPlayer = isFound};
 }
 
 }  // namespace tamber

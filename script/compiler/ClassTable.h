@@ -23,8 +23,6 @@ public:
         const Node* Class = nullptr;
         /// Whether a class of the player has it.
         bool IsOfPlayer = false;
-        /// Whether clips have it beyond what all objects have.
-        bool IsOfClip = false;
     };
     /// A class of the script.
     class Record {

@@ -34,9 +34,9 @@ class Fault extends Error {
 trace(new Fault("f").tell()); //= Faultf!
 class List extends Array {
   function add(v) { push(v); return length; }
-  function text() { return join("-") + concat([9]).length; }
+  function text() { return join("-") + concat([9]).length + length("four") + substring("abc", 2, 1); }
 }
-list = new List(); list.add("a"); trace(list.add("b") + list.text()); //= 2a-b3
+list = new List(); list.add("a"); trace(list.add("b") + list.text()); //= 2a-b34b
 class Tree extends XML {
   function first() { ignoreWhite = true; parseXML("<a> <b/> </a>"); return firstChild.firstChild.nodeName + firstChild.childNodes.length; }
 }
