@@ -60,7 +60,7 @@ void FramePlacement::ChooseCharacter(clsSWFTagPlaceObject& tag,
         tag.Ratio(FullRatio);
     } else if (IsDeformed(layer_, index_, character)) {
         take(DeformedAt(layer_, index_, character));
-    } else if (TweenOf(layer_, Object(), character).blMorph && MorphEnded(character)) {
+    } else if (TweenOf(layer_, index_, character).blMorph && MorphEnded(character)) {
         tag.Ratio(FullRatio);
     }
 }
@@ -70,9 +70,9 @@ Long FramePlacement::KomaCharacter(KomaTable& koma) const {
     Long first = index_;
     while (first > 1 && ContinuesFrom(first - 1)) --first;
     koma.Rewind();
-    for (Long index = first; index < index_; ++index)
-        koma.AdvanceSpan(layer_.Object(index)->DispCount());
-    return koma.AdvanceSpan(std::min(frame_ - Object().StartFrame(), Object().DispCount() - 1) + 1);
+    for (Long index = first; index < index_; ++index) koma.AdvanceSpan(SpanOf(layer_, index));
+    return koma.AdvanceSpan(std::min(frame_ - Object().StartFrame(), SpanOf(layer_, index_) - 1) +
+                            1);
 }
 
 std::shared_ptr<clsSWFTagPlaceObject> FramePlacement::Place(clsSWFAdmin& admin,
@@ -90,7 +90,7 @@ std::shared_ptr<clsSWFTagPlaceObject> FramePlacement::Place(clsSWFAdmin& admin,
         return tag;
     }
     const clsLayerObject& end = *layer_.Object(index_ + 1);
-    Tween tween = TweenOf(layer_, Object(), character);
+    Tween tween = TweenOf(layer_, index_, character);
     tween.StartTag = tag;
     tween.EndTag = NewPlaceObject(0, character.Depth, *end.Placement(), character.Origin, &element);
     const Long shown = std::min(frame_ - tween.Frame, tween.Span - 1);

@@ -1,11 +1,20 @@
 #include "swf/LayerCharacter.h"
 
+#include <algorithm>
+
 #include "document/SymbolKinds.h"
 #include "document/clsObjVector.h"
 #include "document/clsPropertyVector.h"
 #include "document/clsSymbolData.h"
 
 namespace tamber {
+
+Long SpanOf(const clsLayer& layer, Long index) {
+    const clsLayerObject& object = *layer.Object(index);
+    if (index == layer.ObjectCount()) return object.DispCount();
+    return std::min(object.DispCount(),
+                    layer.Object(index + 1)->StartFrame() - object.StartFrame());
+}
 
 bool OpensTween(const clsLayer& layer, Long index) {
     const clsLayerObject& object = *layer.Object(index);
@@ -26,10 +35,11 @@ DeformedCharacter DeformedAt(const clsLayer& layer, Long index, const LayerChara
     return character.Deform(*layer.Object(index), end);
 }
 
-Tween TweenOf(const clsLayer& layer, const clsLayerObject& start, const LayerCharacter& character) {
+Tween TweenOf(const clsLayer& layer, Long index, const LayerCharacter& character) {
+    const clsLayerObject& start = *layer.Object(index);
     Tween tween;
     tween.Frame = start.StartFrame();
-    tween.Span = start.DispCount();
+    tween.Span = SpanOf(layer, index);
     tween.Element = start.Placement();
     tween.blVector = layer.SymbolData()->eTypeEx() == KindVector;
     const auto* drawing = layer.SymbolData()->Property<clsPropertyVector>();

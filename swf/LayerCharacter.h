@@ -32,6 +32,10 @@ struct LayerCharacter {
     std::function<DeformedCharacter(const clsLayerObject& start, const clsLayerObject* end)> Deform;
 };
 
+/// Frames of the key frame at `index`: its span, cut where the next one begins. Spans overlap in
+/// damaged files, and where frames were taken out over the end of one.
+Long SpanOf(const clsLayer& layer, Long index);
+
 /// The key frame at `index` is a tween's start: shown, and with one behind it.
 bool OpensTween(const clsLayer& layer, Long index);
 
@@ -42,8 +46,8 @@ bool IsDeformed(const clsLayer& layer, Long index, const LayerCharacter& charact
 /// Defines that character.
 DeformedCharacter DeformedAt(const clsLayer& layer, Long index, const LayerCharacter& character);
 
-/// The tween of a layer's character that begins at a key frame.
-Tween TweenOf(const clsLayer& layer, const clsLayerObject& start, const LayerCharacter& character);
+/// The tween of a layer's character that begins at the key frame at `index`.
+Tween TweenOf(const clsLayer& layer, Long index, const LayerCharacter& character);
 
 /// The way from the place of one key frame to that of the next.
 TweenPath PathOf(const clsLayerObject& start, const clsLayerObject& end, TimelineOrigin origin);

@@ -44,7 +44,7 @@ void LayerPlacement::PlaceKeyFrame(Long index) {
     placed_ = true;
     std::swap(tag_, tag);
     const bool endsTween = inTween_;
-    if (inTween_) ExpandTween(tag, object);
+    if (inTween_) ExpandTween(tag, index - 1);
     inTween_ = false;
     previous_ = &object;
     if (!object.blVisible) {
@@ -56,7 +56,7 @@ void LayerPlacement::PlaceKeyFrame(Long index) {
     if (OpensTween(layer_, index)) {
         inTween_ = true;
     } else {
-        PlaceStatic(object);
+        PlaceStatic(index);
         EndSpan(index);
     }
 }
@@ -92,28 +92,31 @@ void LayerPlacement::EndCharacter() {
     placeCount_ = character_.PlaceCount;
 }
 
-void LayerPlacement::ExpandTween(const std::shared_ptr<clsSWFTagPlaceObject>& start,
-                                 const clsLayerObject& end) {
-    Tween tween = TweenOf(layer_, *previous_, character_);
+/// The tween that begins at the key frame at `index` with tag `start` and ends with the present
+/// one.
+void LayerPlacement::ExpandTween(const std::shared_ptr<clsSWFTagPlaceObject>& start, Long index) {
+    Tween tween = TweenOf(layer_, index, character_);
     tween.StartTag = start;
     tween.EndTag = tag_;
-    AddTween(admin_, tween, PathOf(*previous_, end, character_.Origin));
+    AddTween(admin_, tween,
+             PathOf(*layer_.Object(index), *layer_.Object(index + 1), character_.Origin));
     onStage_ = true;
 }
 
-void LayerPlacement::PlaceStatic(const clsLayerObject& object) {
+void LayerPlacement::PlaceStatic(Long index) {
+    const Long start = layer_.Object(index)->StartFrame();
     onStage_ = true;
     if (character_.Koma == nullptr) {
-        admin_.AddPlaceObj(object.StartFrame(), tag_);
+        admin_.AddPlaceObj(start, tag_);
         return;
     }
     character_.Koma->BeginSpan();
-    for (Long i = 0; i < object.DispCount(); ++i)
-        PlaceKoma(admin_, object.StartFrame() + i, *tag_, *character_.Koma);
+    const Long span = SpanOf(layer_, index);
+    for (Long i = 0; i < span; ++i) PlaceKoma(admin_, start + i, *tag_, *character_.Koma);
 }
 
 void LayerPlacement::EndSpan(Long index) {
-    const Long end = layer_.Object(index)->endFrame();
+    const Long end = layer_.Object(index)->StartFrame() + SpanOf(layer_, index) - 1;
     if (index == layer_.ObjectCount()) {
         if (end < admin_.FrameCount()) Remove(end + 1);
         EndCharacter();

@@ -24,8 +24,8 @@ private:
     void ReplaceCharacter(Long frame, DeformedCharacter character);
     void EndCharacter();
     std::shared_ptr<clsSWFTagPlaceObject> MakeTag(const clsLayerObject& object);
-    void ExpandTween(const std::shared_ptr<clsSWFTagPlaceObject>& start, const clsLayerObject& end);
-    void PlaceStatic(const clsLayerObject& object);
+    void ExpandTween(const std::shared_ptr<clsSWFTagPlaceObject>& start, Long index);
+    void PlaceStatic(Long index);
     void EndSpan(Long index);
     void Remove(Long frame);
 

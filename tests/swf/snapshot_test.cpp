@@ -51,17 +51,19 @@ protected:
 };
 
 /// Timelines by lot: key frames with and without tweens, gaps, hidden ones, masks, bent and
-/// morphing drawings, komas, easing, paths, colours, filters and blend modes.
+/// morphing drawings, komas, easing, paths, colours, filters and blend modes. With `overlap`,
+/// spans reach into the key frames behind them.
 class RandomTimeline {
 public:
-    RandomTimeline(unsigned seed, bool filters) : lot_(seed), filters_(filters) {}
+    RandomTimeline(unsigned seed, bool filters, bool overlap)
+        : lot_(seed), filters_(filters), overlap_(overlap) {}
 
     void Fill(clsLayer& layer) {
         Long frame = Upto(3);
         const Long count = Upto(5);
         for (Long i = 0; i < count; ++i) {
             const Long length = Upto(4);
-            FillKeyFrame(layer, frame, length);
+            FillKeyFrame(layer, frame, overlap_ ? length + Upto(8) : length);
             frame += length + (Upto(4) == 1 ? Upto(2) : 0);
         }
         if (Upto(4) == 1) layer.ClippingDepth = Upto(2);
@@ -116,25 +118,37 @@ private:
 
     std::mt19937 lot_;
     bool filters_;
+    bool overlap_;
 };
 
-TEST_F(SnapshotTest, every_frame_of_timelines_by_lot_is_what_the_movie_shows) {
-    AddVector(1);
-    AddVector(2)->Property<clsPropertyVector>()->blDivide = true;
-    AddVector(1)->Property<clsPropertyVector>()->MorphSymbol(AddVector(1));
-    const auto koma = AddSymbol(std::make_shared<clsSymbolData>(KindKoma));
-    koma->Property<clsPropertyKoma>()->DispCount = 2;
-    for (const Long i : {1, 2, 4}) koma->Property<clsPropertyKoma>()->colKomas->Add(library(i));
-    for (unsigned seed = 1; seed <= 60; ++seed) {
-        SCOPED_TRACE(seed);
-        const Long version = seed % 2 == 0 ? 8 : 6;
-        RandomTimeline lot(seed, version == 8);
-        layers.Clear();
-        blTopToBottom = seed % 3 != 0;
-        for (Long row = 0; row < 5; ++row) lot.Fill(*AddLayer(library(lot.Upto(5))));
-        ExpectSameFrames(version);
-        if (HasFailure()) break;
+class RandomSnapshotTest : public SnapshotTest {
+protected:
+    void ExpectSameMovies(bool overlap) {
+        AddVector(1);
+        AddVector(2)->Property<clsPropertyVector>()->blDivide = true;
+        AddVector(1)->Property<clsPropertyVector>()->MorphSymbol(AddVector(1));
+        const auto koma = AddSymbol(std::make_shared<clsSymbolData>(KindKoma));
+        koma->Property<clsPropertyKoma>()->DispCount = 2;
+        for (const Long i : {1, 2, 4}) koma->Property<clsPropertyKoma>()->colKomas->Add(library(i));
+        for (unsigned seed = 1; seed <= 60; ++seed) {
+            SCOPED_TRACE(seed);
+            const Long version = seed % 2 == 0 ? 8 : 6;
+            RandomTimeline lot(seed, version == 8, overlap);
+            layers.Clear();
+            blTopToBottom = seed % 3 != 0;
+            for (Long row = 0; row < 5; ++row) lot.Fill(*AddLayer(library(lot.Upto(5))));
+            ExpectSameFrames(version);
+            if (HasFailure()) break;
+        }
     }
+};
+
+TEST_F(RandomSnapshotTest, every_frame_of_timelines_by_lot_is_what_the_movie_shows) {
+    ExpectSameMovies(false);
+}
+
+TEST_F(RandomSnapshotTest, spans_that_overlap_show_what_the_movie_shows) {
+    ExpectSameMovies(true);
 }
 
 TEST_F(SnapshotTest, a_morph_is_at_its_end_until_the_drawing_is_bent) {
@@ -144,6 +158,22 @@ TEST_F(SnapshotTest, a_morph_is_at_its_end_until_the_drawing_is_bent) {
     AddKeyFrame(*layer, 1, 2).blTween = true;
     for (Long frame = 3; frame <= 6; ++frame) AddKeyFrame(*layer, frame, 1);
     Bend(*layer->Object(4));
+    ExpectSameFrames(6);
+}
+
+TEST_F(SnapshotTest, a_bent_key_frame_that_another_was_pulled_over_ends_where_that_begins) {
+    const auto layer = AddLayer(AddVector(1));
+    Bend(AddKeyFrame(*layer, 3, 3));
+    AddKeyFrame(*layer, 7, 4);
+    bool changed = false;
+    layer->ShiftLeft(4, 6, changed);
+    ASSERT_EQ(layer->Object(1)->endFrame(), 5);
+    ASSERT_EQ(layer->Object(2)->StartFrame(), 4);
+    const auto frames = test::DisplayListPlayer().Play(Build());
+    ASSERT_EQ(frames.size(), 7u);
+    for (std::size_t i = 2; i < frames.size(); ++i) EXPECT_EQ(frames[i].size(), 1u) << i + 1;
+    EXPECT_NE(frames[2], frames[3]);
+    EXPECT_EQ(frames[3], frames[6]);
     ExpectSameFrames(6);
 }
 
