@@ -55,7 +55,10 @@ private:
                        Long frame);
     Long DefineSymbol(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
     void DefineSpriteChildren(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long frame);
-    std::vector<Long> DefineKomas(clsSWFAdmin& admin, const clsSymbolData& symbol, Long frame);
+    /// Defines the pictures of a koma's layer: all, or in a snapshot the one that the layer shows
+    /// on frame `shown`.
+    std::vector<Long> DefineKomas(clsSWFAdmin& admin, const clsLayer& layer, Long frame,
+                                  Long shown);
     void DefineBitmap(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
     void DefineText(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
     void DefineVector(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);

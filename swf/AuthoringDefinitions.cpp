@@ -30,6 +30,35 @@ bool LacksExport(Long kind) {
     return kind == KindSound || kind == KindMovieEmp;
 }
 
+/// A definition gives the symbol an identifier.
+bool HasCharacter(const clsSymbolData& symbol) {
+    switch (symbol.eType()) {
+        case KindBitmap:
+        case KindText:
+        case KindSprite:
+        case KindClass:
+            return true;
+        case KindVector:
+            return HasShapes(*symbol.Property<clsPropertyVector>());
+        case KindLink:
+            return mdlSWFTag::swfVersion() >= LinkVersion;
+        default:
+            return false;
+    }
+}
+
+/// The picture that a koma's layer shows on a frame on which it is seen, null when none of its
+/// pictures is anything to see.
+clsSymbolData* KomaOn(const clsLayer& layer, Long frame) {
+    const auto& record = *layer.SymbolData()->Property<clsPropertyKoma>();
+    std::vector<clsSymbolData*> pictures;
+    for (const auto& koma : *record.colKomas)
+        if (HasCharacter(*koma)) pictures.push_back(koma.get());
+    if (pictures.empty()) return nullptr;
+    const auto picture = FramePlacement(layer, frame).KomaPicture(std::max(record.DispCount, 1));
+    return pictures[static_cast<std::size_t>(picture) % pictures.size()];
+}
+
 TimelineOrigin OriginOf(const clsPropertySprite& sprite) {
     return {static_cast<Single>(sprite.baseX), static_cast<Single>(sprite.baseY)};
 }
@@ -125,17 +154,23 @@ void Authoring::DefineSpriteChildren(clsSWFAdmin& admin, const clsPropertySprite
         const bool unseen = snapshot_ != nullptr && FramePlacement(*layer, 1).Empty();
         if (!layer->Visible(true) || unseen) continue;
         if (layer->SymbolData()->eType() == KindKoma)
-            DefineKomas(admin, *layer->SymbolData(), frame);
+            DefineKomas(admin, *layer, frame, 1);
         else
             EnsureDefined(admin, layer.get(), *layer->SymbolData(), frame);
     }
 }
 
-std::vector<Long> Authoring::DefineKomas(clsSWFAdmin& admin, const clsSymbolData& symbol,
-                                         Long frame) {
+std::vector<Long> Authoring::DefineKomas(clsSWFAdmin& admin, const clsLayer& layer, Long frame,
+                                         Long shown) {
     std::vector<Long> identifiers;
-    for (const auto& koma : *symbol.Property<clsPropertyKoma>()->colKomas)
-        if (const Long id = EnsureDefined(admin, nullptr, *koma, frame)) identifiers.push_back(id);
+    const auto define = [&](clsSymbolData& koma) {
+        if (const Long id = EnsureDefined(admin, nullptr, koma, frame)) identifiers.push_back(id);
+    };
+    if (snapshot_ == nullptr)
+        for (const auto& koma : *layer.SymbolData()->Property<clsPropertyKoma>()->colKomas)
+            define(*koma);
+    else if (clsSymbolData* koma = KomaOn(layer, shown))
+        define(*koma);
     return identifiers;
 }
 

@@ -70,7 +70,7 @@ PlacedTags Authoring::WriteFrameSnapshot(clsSWFAdmin& admin, const SnapshotReque
 }
 
 Long Authoring::SnapshotFrame(const Timeline& timeline) const {
-    return timeline.IsMain() ? snapshot_->Frame : 1;
+    return snapshot_ != nullptr && timeline.IsMain() ? snapshot_->Frame : 1;
 }
 
 bool Authoring::IsWalked(const Timeline& timeline, Long index, Long depth, Long depths) const {
@@ -232,11 +232,12 @@ void Authoring::PlaceKomas(const Timeline& timeline, Long index, LayerCharacter 
     const clsLayer& layer = *timeline.Layers(index);
     LeaveOutKomas(layer);
     const Long frame = timeline.Admin.FrameCount() == 1 ? 1 : 2;
-    const clsSymbolData& symbol = *layer.SymbolData();
-    std::vector<Long> identifiers = DefineKomas(timeline.Admin, symbol, frame);
+    std::vector<Long> identifiers =
+        DefineKomas(timeline.Admin, layer, frame, SnapshotFrame(timeline));
     if (identifiers.empty()) return;
     character.Identifier = identifiers.front();
-    KomaTable table(symbol.Property<clsPropertyKoma>()->DispCount, std::move(identifiers));
+    KomaTable table(layer.SymbolData()->Property<clsPropertyKoma>()->DispCount,
+                    std::move(identifiers));
     character.Koma = &table;
     Place(timeline, index, character);
 }

@@ -65,22 +65,22 @@ void FramePlacement::ChooseCharacter(clsSWFTagPlaceObject& tag,
     }
 }
 
-/// The list of pictures runs through all key frames that follow each other without a gap.
-Long FramePlacement::KomaCharacter(KomaTable& koma) const {
-    Long first = index_;
-    while (first > 1 && ContinuesFrom(first - 1)) --first;
-    koma.Rewind();
-    for (Long index = first; index < index_; ++index) koma.AdvanceSpan(SpanOf(layer_, index));
-    return koma.AdvanceSpan(std::min(frame_ - Object().StartFrame(), SpanOf(layer_, index_) - 1) +
-                            1);
+/// The list runs through all key frames that follow each other without a gap, each of which begins
+/// with a new picture.
+std::int64_t FramePlacement::KomaPicture(Long displayCount) const {
+    const auto lastOf = [displayCount](Long frames) { return (frames - 1) / displayCount; };
+    const Long begun = frame_ - Object().StartFrame() + 1;
+    std::int64_t picture = lastOf(std::min(begun, SpanOf(layer_, index_)));
+    for (Long index = index_ - 1; index >= 1 && ContinuesFrom(index); --index)
+        picture += lastOf(SpanOf(layer_, index)) + 1;
+    return picture;
 }
 
 std::shared_ptr<clsSWFTagPlaceObject> FramePlacement::Place(clsSWFAdmin& admin,
                                                             const LayerCharacter& character) const {
     const clsLayerObjElement& element = *Object().Placement();
-    const Long id =
-        character.Koma != nullptr ? KomaCharacter(*character.Koma) : character.Identifier;
-    auto tag = NewPlaceObject(id, character.Depth, element, character.Origin, nullptr);
+    auto tag =
+        NewPlaceObject(character.Identifier, character.Depth, element, character.Origin, nullptr);
     tag->PlaceCnt = character.PlaceCount;
     tag->ClippingDepth = character.ClippingDepth;
     tag->ObjIndex = index_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 
 #include "swf/LayerCharacter.h"
@@ -14,6 +15,9 @@ public:
 
     /// Nothing of the layer is seen on the frame.
     bool Empty() const { return index_ == 0; }
+    /// Which picture of a koma is seen, from 0 and without an end: the list begins anew behind its
+    /// last one. `displayCount` are the frames a picture, at least 1.
+    std::int64_t KomaPicture(Long displayCount) const;
     /// Puts the character, as it is on the frame, on frame 1 of a timeline.
     std::shared_ptr<clsSWFTagPlaceObject> Place(clsSWFAdmin& admin,
                                                 const LayerCharacter& character) const;
@@ -24,7 +28,6 @@ private:
     void ChooseCharacter(clsSWFTagPlaceObject& tag, const LayerCharacter& character) const;
     bool EndsSpecialTween(Long index, const LayerCharacter& character) const;
     bool MorphEnded(const LayerCharacter& character) const;
-    Long KomaCharacter(KomaTable& koma) const;
 
     const clsLayer& layer_;
     Long frame_;

@@ -35,14 +35,6 @@ public:
         return id;
     }
 
-    /// Goes on by a span of so many frames at once: the character on the last of them.
-    Long AdvanceSpan(Long frames) {
-        const auto shown = static_cast<std::size_t>((frames - 1) / displayCount_);
-        const std::size_t last = (next_ + shown) % identifiers_.size();
-        next_ = (last + 1) % identifiers_.size();
-        return identifiers_[last];
-    }
-
 private:
     Long displayCount_;
     Long left_ = 1;

@@ -158,10 +158,12 @@ std::shared_ptr<clsSymbolData> TemporarySymbol(const clsSymbolData& symbol,
 
 }  // namespace
 
+bool HasShapes(const clsPropertyVector& record) {
+    return record.inVector && !record.inVector->colShapeData.empty();
+}
+
 void DefineVector(const DefinitionPlace& place, clsSymbolData& symbol) {
-    const auto& record = *symbol.Property<clsPropertyVector>();
-    if (!record.inVector || record.inVector->colShapeData.empty()) return;
-    VectorDefinition(place, symbol).Run();
+    if (HasShapes(*symbol.Property<clsPropertyVector>())) VectorDefinition(place, symbol).Run();
 }
 
 DeformedVector DeformSymbol(const clsSymbolData& symbol, const clsObjVector* start,

@@ -5,6 +5,7 @@
 #include "document/clsPropertyButton.h"
 #include "document/clsPropertyKoma.h"
 #include "document/clsPropertySprite.h"
+#include "document/clsPropertyText.h"
 #include "tests/swf/DisplayList.h"
 #include "tests/swf/VectorAuthoringTest.h"
 
@@ -208,13 +209,19 @@ TEST_F(SnapshotTest, of_too_many_rows_those_that_fit_are_shown) {
 }
 
 TEST_F(SnapshotTest, with_more_characters_than_a_file_can_hold_nothing_is_written) {
-    const auto koma = AddSymbol(std::make_shared<clsSymbolData>(KindKoma));
-    for (int i = 0; i < 32768; ++i)
-        koma->Property<clsPropertyKoma>()->colKomas->Add(AddBitmap(1, 1));
-    AddKeyFrame(*AddLayer(koma), 1, 1);
+    for (int i = 0; i < 3; ++i) {
+        const auto sprite = AddSymbol(std::make_shared<clsSymbolData>(KindSprite));
+        for (int row = 0; row < 11000; ++row) {
+            const auto layer = LayerOf(AddBitmap(1, 1));
+            AddKeyFrame(*layer, 1, 1);
+            sprite->Property<clsPropertySprite>()->colLayer->Add(layer);
+        }
+        AddKeyFrame(*AddLayer(sprite), 1, 1);
+    }
     clsSWFAdmin admin;
     SnapshotRequest request;
     request.Layers = &layers;
+    request.LastRow = layers.Count();
     placed.resize(1);
     EXPECT_FALSE(WriteEditSnapshot(admin, library, request, -1, FromNarrow(path.string()), placed));
     EXPECT_FALSE(std::filesystem::exists(path));
@@ -238,6 +245,52 @@ TEST_F(SnapshotTest, only_what_is_seen_on_the_frame_and_in_the_rows_is_defined) 
     AddKeyFrame(*AddLayer(sprite), 3, 1);
     EXPECT_EQ(Snapshot(3, 6, 4, 4).Codes(), (std::vector<Long>{36, 2, 39, 26, 1, 0}));
     EXPECT_EQ(placed.size(), 1u);
+}
+
+TEST_F(SnapshotTest, of_a_koma_only_the_picture_that_is_seen_is_defined) {
+    const auto koma = AddSymbol(std::make_shared<clsSymbolData>(KindKoma));
+    koma->Property<clsPropertyKoma>()->DispCount = 2;
+    for (const Long width : {1, 2, 3})
+        koma->Property<clsPropertyKoma>()->colKomas->Add(AddBitmap(width, 1));
+    AddKeyFrame(*AddLayer(koma), 1, 5);
+    AddKeyFrame(*layers(1), 6, 3);
+    // The second key frame cuts the third picture short and goes on with the first.
+    const std::vector<Long> widths{1, 1, 2, 2, 3, 1, 1, 2};
+    for (std::size_t i = 0; i < widths.size(); ++i) {
+        const ParsedMovie movie = Snapshot(static_cast<Long>(i + 1));
+        EXPECT_EQ(movie.Codes(), (std::vector<Long>{36, 2, 26, 1, 0}));
+        EXPECT_EQ(movie.Bodies(36).at(0).at(3), widths[i]) << i + 1;
+    }
+    const auto sprite = AddSymbol(std::make_shared<clsSymbolData>(KindSprite));
+    sprite->Property<clsPropertySprite>()->colLayer->Add(layers(1));
+    AddKeyFrame(*AddLayer(sprite), 9, 1);
+    const ParsedMovie movie = Snapshot(9);
+    EXPECT_EQ(movie.Codes(), (std::vector<Long>{36, 2, 39, 26, 1, 0}));
+    EXPECT_EQ(movie.Bodies(36).at(0).at(3), 1);
+}
+
+TEST_F(SnapshotTest, a_koma_passes_over_the_pictures_that_the_movie_passes_over) {
+    const auto koma = AddSymbol(std::make_shared<clsSymbolData>(KindKoma));
+    for (const Long kind : {KindVector, KindButton, KindClass, KindLink, KindText, KindSprite})
+        koma->Property<clsPropertyKoma>()->colKomas->Add(
+            AddSymbol(std::make_shared<clsSymbolData>(kind)));
+    library(6)->Property<clsPropertyText>()->blDynamic = true;
+    koma->Property<clsPropertyKoma>()->colKomas->Add(AddVector(1));
+    AddKeyFrame(*AddLayer(koma), 1, 8);
+    const std::vector<std::vector<Long>> version6{
+        {1, 0}, {57, 26, 1, 0}, {37, 26, 1, 0}, {39, 26, 1, 0}, {32, 26, 1, 0}};
+    const std::vector<std::vector<Long>> version4{
+        {1, 0}, {37, 26, 1, 0}, {39, 26, 1, 0}, {32, 26, 1, 0}};
+    for (const auto& [version, pictures] : {std::pair(6, version6), std::pair(4, version4)}) {
+        const auto places = test::Places(Build(version));
+        ASSERT_EQ(places.size(), 8u);
+        for (std::size_t i = 0; i < 8; ++i) {
+            const std::size_t picture = i % pictures.size();
+            EXPECT_EQ(Snapshot(static_cast<Long>(i + 1), version).Codes(), pictures[picture]);
+            EXPECT_EQ(places[i].Character, places[picture].Character);
+            EXPECT_EQ(places[i].Character == places[0].Character, picture == 0);
+        }
+    }
 }
 
 TEST_F(SnapshotTest, each_placement_tells_its_row_and_key_frame) {
