@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "script/compiler/ActionEncoder.h"
+#include "script/compiler/ClassScanner.h"
 #include "script/compiler/CodeGenerator.h"
 #include "script/compiler/Parser.h"
 
@@ -27,7 +28,11 @@ CompiledScript ActionCompiler::Compile(std::string_view source) const {
     Diagnostics diagnostics;
     Parser parser(source, version_, symbols, arena, diagnostics);
     FaultReport faults(source, version_);
-    CodeGenerator generator(symbols, version_, faults);
+    CodeGenerator generator(symbols, version_, SymbolTable::HashOf(source), faults);
+    for (const Imports::Path& path : FindClasses(source, version_, symbols)) {
+        parser.Announce(path);
+        generator.Announce(path);
+    }
     while (const Node* statement = parser.NextStatement()) {
         if (parser.IsSound()) generator.Generate(*statement);
         arena.Reset();

@@ -91,19 +91,27 @@ Node* Parser::CaseClause() {
     return node;
 }
 
+/// Names are looked for at run time.
+void Parser::NoteSearch() {
+    if (function_ != nullptr) function_->NeedsNames = true;
+    ++searches_;
+}
+
 Node* Parser::WithStatement() {
     Node* node = Make(NodeKind::With, token_.At);
     NeedVersion(5, token_.Text, token_.At);
     Advance();
     node->A = Condition();
-    if (function_ != nullptr) function_->NeedsNames = true;
+    NoteSearch();
     node->B = GuardedBlock(node, &Parser::Body);
     return node;
 }
 
-/// A target within the one around leads back to it.
+/// A target within the one around leads back to it, and what is thrown out of a target to the one
+/// around the block that catches it.
 void Parser::NoteTarget() {
     if (target_ != nullptr) target_->Flag = true;
+    for (std::size_t i = firstGuard_; i < guards_.size(); ++i) guards_[i].Statement->Flag = true;
 }
 
 Node* Parser::TellTargetStatement() {
@@ -176,7 +184,9 @@ Node* Parser::Handler() {
     if (Accept(TokenKind::Colon)) handler->A = CaughtType();
     Expect(TokenKind::CloseParenthesis, u")");
     const CaughtName caught(*handler->Name, function_ == nullptr ? 0 : function_->Number);
+    const std::uint32_t before = searches_;
     handler->B = Block();
+    handler->Flag = searches_ != before;
     return handler;
 }
 

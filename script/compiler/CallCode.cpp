@@ -54,10 +54,30 @@ bool CodeGenerator::IsCallOfBuiltin(const Node& node) {
 }
 
 /// Whether a call within `with` is one of the object's method: of one that acts on a timeline, or
-/// one that takes other arguments than the function.
+/// one with other arguments than the function's.
 bool CodeGenerator::IsMethodWithin(const Builtin& builtin, const Node& call) const {
     return IsMethodOfClip(builtin) ||
-           (!builtin.Takes(call.Count) && HasPlayerMember("MovieClip", builtin.Name));
+           (HasMethodArguments(builtin, call) && HasPlayerMember("MovieClip", builtin.Name));
+}
+
+/// Whether the arguments can only be those of a method: the function's, without the clip.
+bool CodeGenerator::HasMethodArguments(const Builtin& builtin, const Node& call) {
+    if (!builtin.Takes(call.Count)) return true;
+    switch (builtin.Form) {
+        case BuiltinForm::StartDrag:
+            return (call.Count > 2 && call.Count < 6) || call.B->Kind == NodeKind::Boolean;
+        case BuiltinForm::LoadMovie:
+        case BuiltinForm::LoadVariables:
+            return call.Count == 2 && IsSendingMethod(*call.B->Next);
+        default:
+            return false;
+    }
+}
+
+bool CodeGenerator::IsSendingMethod(const Node& node) {
+    if (node.Kind != NodeKind::Text) return false;
+    const std::string name = Lower(node.Name->Text);
+    return name == "get" || name == "post";
 }
 
 bool CodeGenerator::IsMethodOfClip(const Builtin& builtin) const {
@@ -216,11 +236,11 @@ void CodeGenerator::PushArgumentsBackward(const Node* first, std::uint32_t count
 }
 
 void CodeGenerator::PlainCall(const Node& node) {
-    const Node& callee = *node.A;
+    const Node& callee = Meant(*node.A);
     if (callee.Kind != NodeKind::Name || IsMemberPlace(callee)) return MethodCall(node);
     PushArgumentsBackward(node.B, node.Count);
     Numeric(node.Count);
-    code_->PushText(callee.Name);
+    code_->PushText(Called(callee));
     code_->Emit(Opcode::CallFunction);
 }
 
@@ -231,7 +251,7 @@ bool CodeGenerator::IsMemberPlace(const Node& callee) {
 
 /// A value that is no member is called by a method without a name.
 void CodeGenerator::MethodCall(const Node& node) {
-    const Node& callee = *node.A;
+    const Node& callee = Meant(*node.A);
     PushArgumentsBackward(node.B, node.Count);
     Numeric(node.Count);
     if (IsMemberPlace(callee)) {
@@ -244,12 +264,12 @@ void CodeGenerator::MethodCall(const Node& node) {
 }
 
 void CodeGenerator::New(const Node& node) {
-    const Node& callee = *node.A;
+    const Node& callee = Meant(*node.A);
     PushArgumentsBackward(node.B, node.Count);
     Numeric(node.Count);
     const bool isMember = IsMemberPlace(callee);
     if (callee.Kind == NodeKind::Name && !isMember) {
-        code_->PushText(callee.Name);
+        code_->PushText(Called(callee));
         return code_->Emit(Opcode::NewObject);
     }
     if (isMember) {

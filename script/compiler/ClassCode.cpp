@@ -1,3 +1,5 @@
+#include <map>
+
 #include "script/compiler/Builtin.h"
 #include "script/compiler/CodeGenerator.h"
 #include "script/compiler/DottedPath.h"
@@ -9,27 +11,37 @@ namespace tamber {
 namespace {
 
 constexpr Long HiddenFromLoops = 1;
+/// Of some 5 bytes each, so that a method of usual size fits behind them into a jump of 32 KB.
+constexpr std::size_t ItemsPerHop = 2000;
 
 }  // namespace
+
+void CodeGenerator::Announce(const std::vector<Symbol*>& path) {
+    std::string dotted;
+    for (const Symbol* name : path) (dotted += dotted.empty() ? "" : ".") += name->Text;
+    classes_.Announce(std::move(dotted));
+}
 
 /// A class is made once, unless it is there. Its packages are objects of the global one.
 void CodeGenerator::Class(const Node& node) {
     const ClassNode& definition = *node.Class;
     ClassTable::Record& record = classes_.Define(definition);
     if (definition.IsIntrinsic) return;
-    const Label end = code_->NewLabel(node.At);
+    Skip skip{code_->NewLabel(node.At), code_->Items.size()};
     ClassPath(*definition.Name);
-    code_->JumpIf(end);
+    code_->JumpIf(skip.End);
     if (definition.Name->Kind == NodeKind::Member) Package(*definition.Name->A);
     class_ = &record;
     Constructor(definition);
+    class_ = nullptr;
     if (definition.Base != nullptr) Inherit(definition);
     if (definition.Interfaces.Count > 0) Implement(definition);
-    Members(definition, false);
-    Members(definition, true);
+    class_ = &record;
+    Members(definition, false, skip);
+    Members(definition, true, skip);
     HideMembers(definition);
     class_ = nullptr;
-    code_->Place(end);
+    code_->Place(skip.End);
 }
 
 /// if (!_global.a.b) _global.a.b = new Object();, from the outermost on.
@@ -124,8 +136,9 @@ void CodeGenerator::Implement(const ClassNode& node) {
 }
 
 /// Methods and values of the prototype, or of the class itself.
-void CodeGenerator::Members(const ClassNode& node, bool isStatic) {
+void CodeGenerator::Members(const ClassNode& node, bool isStatic, Skip& skip) {
     for (const MemberNode* member = node.FirstMember; member; member = member->Next) {
+        Hop(skip, member->At);
         if (member->IsStatic != isStatic) continue;
         const bool isAccessor =
             member->Kind == MemberKind::Getter || member->Kind == MemberKind::Setter;
@@ -135,11 +148,23 @@ void CodeGenerator::Members(const ClassNode& node, bool isStatic) {
         Expression(*member->Value);
         code_->Emit(Opcode::SetMember);
     }
-    Accessors(node, isStatic);
+    Accessors(node, isStatic, skip);
+}
+
+/// Where one jump may be too short for a class, it lands between two members and goes on.
+void CodeGenerator::Hop(Skip& skip, Spot spot) {
+    if (code_->Items.size() < skip.From + ItemsPerHop) return;
+    const Label over = code_->NewLabel(spot);
+    const Label next = code_->NewLabel(spot);
+    code_->Jump(over);
+    code_->Place(skip.End);
+    code_->Jump(next);
+    code_->Place(over);
+    skip = {next, code_->Items.size()};
 }
 
 /// addProperty(name, get, set) for each pair, or one of it.
-void CodeGenerator::Accessors(const ClassNode& node, bool isStatic) {
+void CodeGenerator::Accessors(const ClassNode& node, bool isStatic, Skip& skip) {
     std::map<std::uint32_t, std::pair<const MemberNode*, const MemberNode*>> pairs;
     for (const MemberNode* member = node.FirstMember; member; member = member->Next) {
         if (member->IsStatic != isStatic) continue;
@@ -153,6 +178,7 @@ void CodeGenerator::Accessors(const ClassNode& node, bool isStatic) {
             Expression(*accessor->Value);
     };
     for (const auto& [index, pair] : pairs) {
+        Hop(skip, node.At);
         function(pair.second);
         function(pair.first);
         code_->PushText(symbols_.At(index));
@@ -177,11 +203,10 @@ void CodeGenerator::HideMembers(const ClassNode& node) {
 /// A call of a class without new is a cast. Version 7 checks it; before, the value stays as it is.
 bool CodeGenerator::Cast(const Node& node) {
     if (version_ < FirstStrictVersion || node.Count != 1) return false;
-    const Node& callee = *node.A;
+    const Node& callee = Meant(*node.A);
     const Symbol* first = FirstName(callee);
-    if (first == nullptr) return false;
+    if (first == nullptr || (!callee.Flag && IsHidden(callee))) return false;
     const bool isName = callee.Kind == NodeKind::Name;
-    if (isName && (first->Declarations > 0 || FindMember(first).IsFound)) return false;
     const bool isClass =
         callee.Flag || (!classes_.IsEmpty() && classes_.Contains(DottedPath(callee)));
     if (!isClass) {
@@ -208,18 +233,22 @@ ClassTable::Member CodeGenerator::FindMember(const Symbol* name) {
 
 /// The name of a class as a value, though something else may be called so where the code stands.
 void CodeGenerator::PushClass(const Node& name) {
-    const Symbol* first = FirstName(name);
-    const bool isHidden = first->Declarations > 0 || FindMember(first).IsFound;
-    isHidden ? ClassPath(name) : Expression(name);
+    version_ < FirstCaseVersion || IsHidden(name) ? ClassPath(name) : Expression(name);
+}
+
+/// Whether the name that a path begins with is that of a variable or a member here.
+bool CodeGenerator::IsHidden(const Node& path) {
+    const Symbol* first = FirstName(path);
+    return first->Declarations > 0 || FindMember(first).IsFound;
 }
 
 /// Whether a call names a method of the class and no built-in function: one that an author's class
-/// has, or one of the player's classes that acts on a timeline in a clip, or that takes other
-/// arguments than the function.
+/// has, or one of the player's classes that acts on a timeline in a clip, or with other arguments
+/// than the function's.
 bool CodeGenerator::IsOwnMethod(const Builtin& builtin, const Node& call) {
     const ClassTable::Member found = FindMember(call.A->Name);
     return found.IsFound &&
-           (!found.IsOfPlayer || IsMethodOfClip(builtin) || !builtin.Takes(call.Count));
+           (!found.IsOfPlayer || IsMethodOfClip(builtin) || HasMethodArguments(builtin, call));
 }
 
 }  // namespace tamber

@@ -13,22 +13,24 @@ constexpr std::string_view RootClass = "Object";
 
 ClassTable::Record& ClassTable::Define(const ClassNode& definition) {
     const std::string path = DottedPath(*definition.Name);
+    std::string base = definition.Base == nullptr ? std::string() : DottedPath(*definition.Base);
     Record& record = records_[path];
-    if (record.Name == nullptr)
-        record.Name = Kept(*definition.Name);
-    else
-        Forget();
-    record.Base = definition.Base == nullptr ? std::string() : DottedPath(*definition.Base);
+    const bool isNew = record.Name == nullptr;
+    if (isNew) record.Name = Kept(*definition.Name);
+    const bool changesTree = awaited_.erase(path) > 0 || (!isNew && record.Base != base);
+    if (changesTree) ++tree_;
+    if (changesTree || !isNew) ++state_;
+    record.Base = std::move(base);
+    announced_.insert(path);
+    if (!record.Base.empty() && BaseOf(record) == nullptr) awaited_.insert(record.Base);
     for (const MemberNode* member = definition.FirstMember; member; member = member->Next)
         Add(record, *member);
-    if (awaited_.erase(path) > 0) Forget();
-    if (!record.Base.empty() && !Contains(record.Base)) awaited_.insert(record.Base);
     return record;
 }
 
 void ClassTable::Add(Record& record, const MemberNode& member) {
-    record.members_[member.Name] = member.IsStatic;
-    member.Name->IsMember = true;
+    const bool isNew = record.members_.insert_or_assign(member.Name, member.IsStatic).second;
+    if (isNew) declarers_[member.Name].push_back(&record);
 }
 
 /// A copy of a class's name that stays.
@@ -38,10 +40,15 @@ const Node* ClassTable::Kept(const Node& name) {
     return &kept;
 }
 
-/// Each answer is kept, so that a long chain of classes is not walked anew for each of them.
+/// Each answer is kept for the class and for its base, which has other classes ask the same.
 ClassTable::Member ClassTable::Find(Record& record, const Symbol& name) {
     if (const auto known = Known(record, name)) return *known;
-    return record.found_[&name] = Search(record, name);
+    Settle(record);
+    if (record.base_ != nullptr)
+        if (const auto known = Known(*record.base_, name)) return record.found_[&name] = *known;
+    const Member found = Search(record, name);
+    if (record.base_ != nullptr) record.base_->found_[&name] = found;
+    return record.found_[&name] = found;
 }
 
 /// What the class itself has, or was found for it before.
@@ -49,54 +56,85 @@ std::optional<ClassTable::Member> ClassTable::Known(Record& record, const Symbol
     const auto own = record.members_.find(&name);
     if (own != record.members_.end())
         return Member{.IsFound = true, .Class = own->second ? record.Name : nullptr};
-    Renew(record);
+    if (record.foundAt_ != state_) record.found_.clear();
+    record.foundAt_ = state_;
     const auto found = record.found_.find(&name);
     if (found == record.found_.end()) return std::nullopt;
     return found->second;
 }
 
-/// In what the class extends.
 ClassTable::Member ClassTable::Search(Record& record, const Symbol& name) {
-    if (!name.IsMember) return OfPlayer(RootOf(record), name);
-    const Record* at = &record;
-    for (std::size_t count = 0; count <= records_.size(); ++count) {
-        const auto base = records_.find(at->Base);
-        if (base == records_.end()) return OfPlayer(at->Base, name);
-        if (const auto known = Known(base->second, name)) return *known;
-        at = &base->second;
-    }
-    return {};
+    const Record* declarer = Declarer(record, name);
+    if (declarer == nullptr) return OfPlayer(record.root_->Base, name);
+    const bool isStatic = declarer->members_.at(&name);
+    return {.IsFound = true, .Class = isStatic ? declarer->Name : nullptr};
 }
 
-/// Path of the class, none of the script's, that the first of those extends which a class comes
-/// from; empty for none. Classes may be told to extend each other in a circle.
-const std::string& ClassTable::RootOf(Record& record) {
-    Renew(record);
-    if (record.root_ != nullptr) return *record.root_;
-    Record* at = &record;
-    for (std::size_t count = 0; at->root_ == nullptr && count <= records_.size(); ++count) {
-        const auto base = records_.find(at->Base);
-        if (base == records_.end()) break;
-        at = &base->second;
-        Renew(*at);
+/// The nearest class above that has a member of its own; null for none. As many as have one are
+/// looked at upward; when there are more above, each that has one is asked whether it stands there.
+ClassTable::Record* ClassTable::Declarer(Record& record, const Symbol& name) {
+    const auto declared = declarers_.find(&name);
+    if (declared == declarers_.end()) return nullptr;
+    Record* at = record.base_;
+    for (std::size_t count = declared->second.size(); at != nullptr && count > 0; --count) {
+        if (at->members_.contains(&name)) return at;
+        at = at->base_;
     }
-    record.root_ = at->root_ != nullptr ? at->root_ : &at->Base;
-    return *record.root_;
-}
-
-/// What was found before something else was told of the classes is none of it certain.
-void ClassTable::Renew(Record& record) const {
-    if (record.generation_ == generation_) return;
-    record.found_.clear();
-    record.root_ = nullptr;
-    record.generation_ = generation_;
+    if (at == nullptr) return nullptr;
+    Record* nearest = nullptr;
+    for (Record* one : declared->second) {
+        Settle(*one);
+        const bool isNearer = nearest == nullptr || one->depth_ > nearest->depth_;
+        if (one->depth_ <= at->depth_ && isNearer && Above(*at, one->depth_) == one) nearest = one;
+    }
+    return nearest;
 }
 
 ClassTable::Member ClassTable::OfPlayer(const std::string& base, const Symbol& name) {
     const bool isProperty = name.Property != Symbol::NoProperty && IsOnStage(base);
-    const bool isFound = isProperty || HasPlayerMember(base, name.Text) ||
-                         HasPlayerMember(RootClass, name.Text);
+    const bool isFound =
+        isProperty || HasPlayerMember(base, name.Text) || HasPlayerMember(RootClass, name.Text);
     return {.IsFound = isFound, .IsOfPlayer = isFound};
+}
+
+/// The class that a class extends; null for one that the script does not have so far.
+ClassTable::Record* ClassTable::BaseOf(const Record& record) {
+    const auto base = records_.find(record.Base);
+    return base == records_.end() ? nullptr : &base->second;
+}
+
+/// Finds the places of a class and of those above it. Classes that are told to extend each other
+/// in a circle are cut apart where the circle was met.
+void ClassTable::Settle(Record& record) {
+    std::vector<Record*> open;
+    for (Record* at = &record; at != nullptr && at->settledAt_ != tree_; at = BaseOf(*at)) {
+        at->settledAt_ = tree_;
+        at->isOpen_ = true;
+        open.push_back(at);
+    }
+    for (; !open.empty(); open.pop_back()) {
+        Record* base = BaseOf(*open.back());
+        SettleBelow(*open.back(), base != nullptr && base->isOpen_ ? nullptr : base);
+        open.back()->isOpen_ = false;
+    }
+}
+
+/// Two jumps of one length make one of their sum.
+void ClassTable::SettleBelow(Record& record, Record* base) const {
+    record.base_ = base;
+    record.root_ = base == nullptr ? &record : base->root_;
+    record.depth_ = base == nullptr ? 0 : base->depth_ + 1;
+    record.jump_ = base;
+    if (base == nullptr || base->jump_ == nullptr || base->jump_->jump_ == nullptr) return;
+    const Record& jump = *base->jump_;
+    if (base->depth_ - jump.depth_ == jump.depth_ - jump.jump_->depth_) record.jump_ = jump.jump_;
+}
+
+/// The class at a depth above one, or itself.
+ClassTable::Record* ClassTable::Above(Record& record, std::uint32_t depth) {
+    Record* at = &record;
+    while (at->depth_ > depth) at = at->jump_->depth_ >= depth ? at->jump_ : at->base_;
+    return at;
 }
 
 }  // namespace tamber

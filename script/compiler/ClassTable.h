@@ -2,13 +2,11 @@
 
 #include <cstdint>
 #include <deque>
-#include <functional>
-#include <map>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <unordered_map>
 #include <unordered_set>
+#include <vector>
 
 #include "script/compiler/Node.h"
 
@@ -36,37 +34,52 @@ public:
 
         /// Its own members; true for a static one.
         std::unordered_map<const Symbol*, bool> members_;
-        /// What has been found for names beside them, in a generation of the table.
+        /// What has been found for other names, while `foundAt_` is the table's.
         std::unordered_map<const Symbol*, Member> found_;
-        /// Path of the class that the first of its chain extends, or null.
-        const std::string* root_ = nullptr;
-        std::uint32_t generation_ = 0;
+        std::uint32_t foundAt_ = 0;
+
+        // Its place in the tree of classes, while `settledAt_` is the table's.
+        std::uint32_t settledAt_ = 0;
+        bool isOpen_ = false;
+        /// Classes above it in the script.
+        std::uint32_t depth_ = 0;
+        Record* base_ = nullptr;
+        Record* root_ = nullptr;
+        /// One further up, so that any is reached in steps that grow with the logarithm of the
+        /// depth.
+        Record* jump_ = nullptr;
     };
 
+    /// Lets a class be known by its path before its definition comes.
+    void Announce(std::string path) { announced_.insert(std::move(path)); }
     /// Adds what a definition says to what is known of its class. The record stays where it is.
     Record& Define(const ClassNode& definition);
-    bool Contains(std::string_view path) const { return records_.contains(path); }
-    bool IsEmpty() const { return records_.empty(); }
+    bool Contains(const std::string& path) const { return announced_.contains(path); }
+    bool IsEmpty() const { return announced_.empty(); }
     /// The member that a name means among those of a class and of all that it extends.
     Member Find(Record& record, const Symbol& name);
 
 private:
-    using Records = std::map<std::string, Record, std::less<>>;
-
-    Member Search(Record& record, const Symbol& name);
-    const std::string& RootOf(Record& record);
-    void Renew(Record& record) const;
-    static void Add(Record& record, const MemberNode& member);
-    std::optional<Member> Known(Record& record, const Symbol& name) const;
-    static Member OfPlayer(const std::string& base, const Symbol& name);
+    void Add(Record& record, const MemberNode& member);
     const Node* Kept(const Node& name);
-    void Forget() { ++generation_; }
+    std::optional<Member> Known(Record& record, const Symbol& name) const;
+    Member Search(Record& record, const Symbol& name);
+    Record* Declarer(Record& record, const Symbol& name);
+    static Member OfPlayer(const std::string& base, const Symbol& name);
+    void Settle(Record& record);
+    void SettleBelow(Record& record, Record* base) const;
+    Record* BaseOf(const Record& record);
+    static Record* Above(Record& record, std::uint32_t depth);
 
-    Records records_;
+    std::unordered_map<std::string, Record> records_;
+    std::unordered_set<std::string> announced_;
     /// Paths that classes extend and that no class has had so far.
     std::unordered_set<std::string> awaited_;
-    /// Counts what may change what has been found.
-    std::uint32_t generation_ = 0;
+    /// Of each name, the classes that have such a member.
+    std::unordered_map<const Symbol*, std::vector<Record*>> declarers_;
+    /// Counts what changes the tree, and what changes what has been found.
+    std::uint32_t tree_ = 1;
+    std::uint32_t state_ = 1;
     std::deque<Node> names_;
 };
 

@@ -17,8 +17,11 @@ struct Builtin;
 /// own, which runs first.
 class CodeGenerator {
 public:
-    CodeGenerator(SymbolTable& symbols, Long version, FaultReport& faults);
+    /// The key tells scripts apart that may run within each other.
+    CodeGenerator(SymbolTable& symbols, Long version, std::uint32_t key, FaultReport& faults);
 
+    /// Tells of a class that the script defines, by the names of its path.
+    void Announce(const std::vector<Symbol*>& path);
     /// One statement at the top.
     void Generate(const Node& statement);
     const ActionCode& Functions() const { return functions_; }
@@ -69,10 +72,18 @@ private:
         Symbol* Name = nullptr;
         const Node* Object = nullptr;
         const Node* Key = nullptr;
-        /// Of a static member that is named alone, the class that has it.
+        /// Of a static member that is named alone, the class that has it; of an imported class, its
+        /// package.
         const Node* Class = nullptr;
         /// Whether a member is named alone where an object of a `with` may have it.
         bool IsWithin = false;
+    };
+
+    /// The jump that passes over the code of a class: where it leads, and the size of the code when
+    /// it was last led on.
+    struct Skip {
+        Label End;
+        std::size_t From;
     };
 
     // Statements.
@@ -101,12 +112,14 @@ private:
     void LeaveTarget(std::size_t scope);
     void SetKeptTarget(std::size_t scope);
     void RestoreTarget(std::size_t scopes);
+    void RestoreThrownTarget(const Node& statement);
     void IfFrameLoaded(const Node& node);
     void Try(const Node& node);
     void TryCatch(const Node& node);
     void Finally(const Node& node);
     void Handlers(const Node& first);
     void Handler(const Node& node);
+    Symbol* CaughtName(const Node& handler);
     void TestOfType(const Node& type, Label otherwise);
     template <class Body>
     void GuardBlock(const Node& statement, const Body& body);
@@ -160,6 +173,7 @@ private:
     void Undefined();
 
     // Places.
+    const Node& Meant(const Node& node);
     Place PlaceOf(const Node& node);
     Place PlaceOfVersion4(const Node& node);
     void PushPlace(const Place& place);
@@ -219,6 +233,8 @@ private:
     void PushProperty(const Node& node);
     bool IsMethodWithin(const Builtin& builtin, const Node& call) const;
     bool IsMethodOfClip(const Builtin& builtin) const;
+    static bool HasMethodArguments(const Builtin& builtin, const Node& call);
+    static bool IsSendingMethod(const Node& node);
 
     // Functions and classes.
     void Function(const Node& node);
@@ -234,14 +250,20 @@ private:
     void Constructor(const ClassNode& node);
     void Inherit(const ClassNode& node);
     void Implement(const ClassNode& node);
-    void Members(const ClassNode& node, bool isStatic);
-    void Accessors(const ClassNode& node, bool isStatic);
+    void Members(const ClassNode& node, bool isStatic, Skip& skip);
+    void Hop(Skip& skip, Spot spot);
+    void Accessors(const ClassNode& node, bool isStatic, Skip& skip);
     void HideMembers(const ClassNode& node);
     bool Cast(const Node& node);
     ClassTable::Member FindMember(const Symbol* name);
     void PushClass(const Node& name);
+    bool IsHidden(const Node& path);
     bool IsOwnMethod(const Builtin& builtin, const Node& call);
 
+    /// The name that a variable has in the code.
+    static Symbol* Called(const Node& name) {
+        return name.Name->Alias != nullptr ? name.Name->Alias : name.Name;
+    }
     Symbol* Known(std::string_view text) { return symbols_.Intern(text); }
     void Complain(const Node& node, String text);
     void TooLong(const Node& node);
@@ -249,6 +271,7 @@ private:
 
     SymbolTable& symbols_;
     Long version_;
+    std::uint32_t key_;
     FaultReport& faults_;
     ConstantFolder folder_;
     ActionCode functions_;
@@ -266,6 +289,8 @@ private:
     /// Assignments and increments in each other.
     int changes_ = 0;
     bool isTooLong_ = false;
+    /// Names of what was caught so far.
+    std::uint32_t caught_ = 0;
 };
 
 }  // namespace tamber

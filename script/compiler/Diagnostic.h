@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "platform/types.h"
@@ -10,6 +11,8 @@ namespace tamber {
 struct Diagnostic {
     /// Counted from 1.
     Long Line = 0;
+    /// In bytes from the beginning of the source.
+    std::uint32_t Offset = 0;
     /// The offending token, in the bytes of the source; empty at the end of the text.
     std::string Token;
     /// For a person.

@@ -14,7 +14,12 @@ constexpr std::size_t MaxTokenLength = 60;
 constexpr std::size_t MaxTokenBytes = 4 * MaxTokenLength;
 
 bool ComesBefore(const Diagnostic& a, const Diagnostic& b) {
-    return a.Line < b.Line;
+    return a.Line != b.Line ? a.Line < b.Line : a.Offset < b.Offset;
+}
+
+Diagnostic Made(Spot spot, std::string_view token, String text) {
+    return {static_cast<Long>(spot.Line), spot.Offset, std::string(token.substr(0, MaxTokenBytes)),
+            std::move(text)};
 }
 
 /// As many as are kept, in the order of their lines.
@@ -46,15 +51,11 @@ String Place(const Diagnostic& diagnostic, Long version) {
 }  // namespace
 
 void Diagnostics::Error(Spot spot, std::string_view token, String text) {
-    if (!IsFull())
-        errors_.push_back({static_cast<Long>(spot.Line),
-                           std::string(token.substr(0, MaxTokenBytes)), std::move(text)});
+    if (!IsFull()) errors_.push_back(Made(spot, token, std::move(text)));
 }
 
 void Diagnostics::Warn(Spot spot, std::string_view token, String text) {
-    if (warnings_.size() < MaxWarnings)
-        warnings_.push_back({static_cast<Long>(spot.Line),
-                             std::string(token.substr(0, MaxTokenBytes)), std::move(text)});
+    if (warnings_.size() < MaxWarnings) warnings_.push_back(Made(spot, token, std::move(text)));
 }
 
 void Diagnostics::Merge(const Diagnostics& other) {

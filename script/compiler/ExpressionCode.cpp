@@ -478,8 +478,8 @@ void CodeGenerator::NumericOperand(const Node& node) {
 /// is the size of the code.
 void CodeGenerator::Numeric(double value) {
     const auto whole = static_cast<std::size_t>(value >= 0 && value < 10000 ? value : 0);
-    if (version_ < FirstObjectVersion || version_ >= FirstRegisterVersion || static_cast<double>(whole) != value ||
-        std::signbit(value))
+    if (version_ < FirstObjectVersion || version_ >= FirstRegisterVersion ||
+        static_cast<double>(whole) != value || std::signbit(value))
         return code_->PushNumber(value);
     Symbol*& digits = digits_[whole];
     if (digits == nullptr) digits = symbols_.InternCopy(std::to_string(whole));

@@ -16,7 +16,10 @@ std::string_view FaultReport::TokenAt(Spot spot) const {
     if (spot.Line == 0) return {};
     SymbolTable symbols;
     Diagnostics ignored;
-    return Lexer(source_.substr(spot.Offset), version_, symbols, ignored).Next().Text;
+    Lexer lexer(source_.substr(spot.Offset), version_, symbols, ignored);
+    Token token = lexer.Next();
+    if (token.Kind == TokenKind::Slash) lexer.ReadSlashPath(token, Lexer::PathForm::Rooted);
+    return token.Text;
 }
 
 }  // namespace tamber

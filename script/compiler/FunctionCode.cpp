@@ -81,6 +81,7 @@ void CodeGenerator::ChoosePreloads(FunctionState& state, ActionCode::FunctionRec
 void CodeGenerator::Bind(const FunctionNode& function) {
     for (NameNode* name = function.Declared; name != nullptr; name = name->Next) {
         name->OuterRegister = std::exchange(name->Name->Register, name->Register);
+        name->OuterAlias = std::exchange(name->Name->Alias, nullptr);
         ++name->Name->Declarations;
     }
 }
@@ -88,6 +89,7 @@ void CodeGenerator::Bind(const FunctionNode& function) {
 void CodeGenerator::Unbind(const FunctionNode& function) {
     for (const NameNode* name = function.LastDeclared; name != nullptr; name = name->Previous) {
         name->Name->Register = name->OuterRegister;
+        name->Name->Alias = name->OuterAlias;
         --name->Name->Declarations;
     }
 }

@@ -16,21 +16,31 @@ Imports::Path PathOf(const Node& name) {
     return path;
 }
 
+Imports::Path Joined(Imports::Path package, Symbol* name) {
+    package.push_back(name);
+    return package;
+}
+
 }  // namespace
+
+void Imports::Announce(const Path& path) {
+    if (path.size() > 1) PackageOf({path.begin(), path.end() - 1}).Classes.insert(path.back());
+}
 
 void Imports::Add(Path path) {
     const Symbol* name = path.back();
     paths_[name] = std::move(path);
 }
 
+/// A class that is imported by its name comes first.
 bool Imports::AddPackage(const Path& path, SymbolTable& symbols) {
     Package& package = PackageOf(path);
+    if (std::exchange(package.IsImported, true)) return !package.Classes.empty();
     std::string name;
     for (const Symbol* part : path) (name += name.empty() ? "" : ".") += part->Text;
     for (const std::string_view known : ClassesOfPackage(name))
         package.Classes.insert(symbols.Intern(known));
-    if (!std::exchange(package.IsImported, true))
-        for (Symbol* known : package.Classes) AddClass(package, known);
+    for (Symbol* known : package.Classes) paths_.try_emplace(known, Joined(path, known));
     return !package.Classes.empty();
 }
 
@@ -42,24 +52,11 @@ Imports::Package& Imports::PackageOf(const Path& path) {
     return package;
 }
 
-/// One that is imported by its name comes first.
-void Imports::AddClass(const Package& package, Symbol* name) {
-    paths_.try_emplace(name, Joined(package.Names, name));
-}
-
-Imports::Path Imports::Joined(const Path& package, Symbol* name) {
-    Path path = package;
-    path.push_back(name);
-    return path;
-}
-
 void Imports::BeginClass(const Node& name) {
     EndClass();
     if (name.Kind != NodeKind::Member) return;
     own_ = PathOf(name);
     package_ = &PackageOf(PathOf(*name.A));
-    package_->Classes.insert(own_.back());
-    if (package_->IsImported) AddClass(*package_, own_.back());
 }
 
 void Imports::EndClass() {

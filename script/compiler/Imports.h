@@ -16,12 +16,12 @@ public:
     /// The names that a whole name consists of.
     using Path = std::vector<Symbol*>;
 
+    /// A class that the script defines, perhaps behind what is read.
+    void Announce(const Path& path);
     void Add(Path path);
-    /// All classes of a package, those too that the script declares later; false when none is
-    /// known.
+    /// All classes of a package; false when none is known.
     bool AddPackage(const Path& path, SymbolTable& symbols);
-    /// A class of the script: until its end the others of its package are known by their short
-    /// names.
+    /// Until its end the other classes of its package are known by their short names.
     void BeginClass(const Node& name);
     void EndClass();
     /// Empty for a name that stands for itself.
@@ -37,14 +37,12 @@ private:
     };
 
     Package& PackageOf(const Path& path);
-    void AddClass(const Package& package, Symbol* name);
-    static Path Joined(const Path& package, Symbol* name);
 
     std::unordered_map<const Symbol*, Path> paths_;
-    /// By their names with dots between.
+    /// By their names, each with a dot behind it.
     std::unordered_map<std::string, Package> packages_;
     /// Package of the class that is read, or null.
-    Package* package_ = nullptr;
+    const Package* package_ = nullptr;
     /// Path of that class.
     Path own_;
 };

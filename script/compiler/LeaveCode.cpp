@@ -184,9 +184,19 @@ void CodeGenerator::TryCatch(const Node& node) {
     code_->BeginTry(node.At);
     GuardBlock(node, [&] { Statement(*node.A); });
     code_->EndTryBlock(ItemKind::TryBodyEnd);
-    GuardBlock(node, [&] { Handlers(*node.B); });
+    GuardBlock(node, [&] {
+        RestoreThrownTarget(node);
+        Handlers(*node.B);
+    });
     code_->EndTryBlock(ItemKind::TryEnd);
+    RestoreThrownTarget(node);
     FollowMarks(MarksOf(node), node.At);
+}
+
+/// What was thrown may have left a target. For some players a block that catches has its own, which
+/// ends with it.
+void CodeGenerator::RestoreThrownTarget(const Node& statement) {
+    if (statement.Flag) RestoreTarget(scopes_.size());
 }
 
 /// Each handler that tells a type is asked whether it is meant, and what none takes is thrown
@@ -213,14 +223,24 @@ void CodeGenerator::Handlers(const Node& first) {
 /// What is caught has its name within the block only, and hides what else is called so.
 void CodeGenerator::Handler(const Node& node) {
     Symbol& name = *node.Name;
-    code_->PushText(&name);
+    Symbol* const alias = CaughtName(node);
+    code_->PushText(alias != nullptr ? alias : &name);
     code_->PushRegister(0);
     code_->Emit(Opcode::DefineLocal);
     const Byte outer = std::exchange(name.Register, Symbol::NoRegister);
+    Symbol* const outerAlias = std::exchange(name.Alias, alias);
     ++name.Declarations;
     Statement(*node.B);
     --name.Declarations;
+    name.Alias = outerAlias;
     name.Register = outer;
+}
+
+/// A name that nothing else in the function has. Null where the own one is asked for at run time,
+/// or would show among the variables of a timeline.
+Symbol* CodeGenerator::CaughtName(const Node& handler) {
+    if (handler.Flag || function_.Node == nullptr) return nullptr;
+    return symbols_.InternCopy("$caught" + std::to_string(caught_++));
 }
 
 /// Jumps when the exception is not of a type. Plain values are instances of no class, so theirs are
@@ -256,6 +276,7 @@ void CodeGenerator::Finally(const Node& node) {
     code_->PushRegister(0);
     PushInteger(EscapesByThrow);
     code_->EndTryBlock(ItemKind::TryEnd);
+    RestoreThrownTarget(node);
     scopes_.push_back({ScopeKind::Last});
     Statement(*node.C);
     scopes_.pop_back();

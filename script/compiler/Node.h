@@ -103,8 +103,9 @@ enum class Operator : Byte {
 ///
 /// | Kind | A, B, C, D | other |
 /// |---|---|---|
-/// | Name | | Name; Flag: one of a class, by an import |
-/// | Member | object | Name; Flag: as of a Name |
+/// | Name | | Name |
+/// | Member | object | Name |
+/// | Name, Member of an import | D: the short name | Flag |
 /// | Index | object, key | |
 /// | Call, New | callee, first argument (a list by Next) | Count arguments |
 /// | Unary; Binary | operand; left, right | Op |
@@ -120,9 +121,11 @@ enum class Operator : Byte {
 /// | ForIn | target (a Var or an expression), object, body | |
 /// | Switch | value, first case | |
 /// | Case | value (null: default), first statement | |
-/// | With, TellTarget, IfFrameLoaded | object or frame, body | With: Count, the jumps out of it;
-/// TellTarget: Flag, others stand within | | Try | body, first handler, last | Count: the jumps out
-/// of body and handlers | | Catch | type (null: all), body | Name of the exception |
+/// | With | object, body | Count: the jumps out of it |
+/// | TellTarget | target, body | Flag: others stand within |
+/// | IfFrameLoaded | frame, body | |
+/// | Try | body, first handler, last | Count: jumps out of both; Flag: targets within |
+/// | Catch | type (null: all), body | Name; Flag: it may be looked for at run time |
 struct Node {
     /// Jumps that leave a With or Try, in its Count.
     static constexpr std::uint32_t EscapesByBreak = 1;
@@ -167,6 +170,8 @@ struct NameNode {
     Byte Register = Symbol::NoRegister;
     /// The name's register in the function around, while the code of this one is made.
     Byte OuterRegister = Symbol::NoRegister;
+    /// As the register, the name's alias around.
+    Symbol* OuterAlias = nullptr;
     /// Function around, in which the name was declared before; 0 for none.
     std::uint32_t OuterDeclaration = 0;
     NameNode* Previous = nullptr;

@@ -116,6 +116,8 @@ Node* Parser::Imported(Symbol* name, Spot spot) {
         node = member;
     }
     node->Flag = true;
+    node->D = Make(NodeKind::Name, spot);
+    node->D->Name = name;
     return node;
 }
 
@@ -137,7 +139,7 @@ void Parser::NoteCall(Symbol* name) {
         KeepNamed(name);
     } else if (name->BuiltinEntry->Form == BuiltinForm::Evaluate ||
                name->BuiltinEntry->Form == BuiltinForm::SetNamed) {
-        function_->NeedsNames = true;
+        NoteSearch();
     }
 }
 

@@ -16,6 +16,8 @@ public:
     Parser(std::string_view source, Long version, SymbolTable& symbols, Arena& arena,
            Diagnostics& diagnostics);
 
+    /// Tells of a class that the source defines.
+    void Announce(const Imports::Path& path) { imports_.Announce(path); }
     /// The next statement at the top, or null at the end. After an error it goes on with the next
     /// statement that can be read; after too many it ends.
     Node* NextStatement();
@@ -83,6 +85,7 @@ private:
     Node* GuardedClause();
     Node* CaseClause();
     void SkipToClause();
+    void NoteSearch();
     Node* WithStatement();
     void NoteTarget();
     Node* TellTargetStatement();
@@ -193,6 +196,8 @@ private:
     /// The `tellTarget` around, within the function.
     Node* target_ = nullptr;
     std::uint32_t functionCount_ = 0;
+    /// Places so far where names are looked for at run time.
+    std::uint32_t searches_ = 0;
     /// The `with` and `try` statements around, within the function.
     std::vector<Guard> guards_;
     std::size_t firstGuard_ = 0;

@@ -11,14 +11,22 @@ constexpr Byte KeyRegister = 2;
 
 }  // namespace
 
-CodeGenerator::Place CodeGenerator::PlaceOf(const Node& node) {
-    if (version_ < FirstObjectVersion) return PlaceOfVersion4(node);
+/// A member of the class that is called like an imported class is meant by that name.
+const Node& CodeGenerator::Meant(const Node& node) {
+    const bool isImported =
+        node.Flag && (node.Kind == NodeKind::Name || node.Kind == NodeKind::Member);
+    return isImported && FindMember(node.D->Name).IsFound ? *node.D : node;
+}
+
+CodeGenerator::Place CodeGenerator::PlaceOf(const Node& told) {
+    if (version_ < FirstObjectVersion) return PlaceOfVersion4(told);
+    const Node& node = Meant(told);
     switch (node.Kind) {
         case NodeKind::Name: {
             if (node.Name->Register != Symbol::NoRegister)
                 return {PlaceKind::Register, node.Name->Register, 0, node.Name};
             const ClassTable::Member found = FindMember(node.Name);
-            if (!found.IsFound) return {.Name = node.Name};
+            if (!found.IsFound) return {.Name = Called(node)};
             return {.Kind = PlaceKind::Member,
                     .Name = node.Name,
                     .Class = found.Class,
@@ -27,6 +35,7 @@ CodeGenerator::Place CodeGenerator::PlaceOf(const Node& node) {
         case NodeKind::SlashPath:
             return {.Name = node.Name};
         case NodeKind::Member:
+            if (node.Flag) return {.Kind = PlaceKind::Member, .Name = node.Name, .Class = node.A};
             return {PlaceKind::Member, 0, 0, node.Name, node.A};
         case NodeKind::Index:
             return {PlaceKind::Index, 0, 0, nullptr, node.A, node.B};
@@ -129,7 +138,7 @@ void CodeGenerator::PushObject(const Place& place) {
         PushOwnObject(place);
 }
 
-/// The object or class whose code names a member alone.
+/// The object whose code names a member alone, or the class or package.
 void CodeGenerator::PushOwnObject(const Place& place) {
     place.Class != nullptr ? PushClass(*place.Class) : This();
 }
@@ -199,7 +208,7 @@ void CodeGenerator::Assign(const Node& node, bool isWanted) {
 /// in a variable.
 CodeGenerator::Place CodeGenerator::NamedOnce(const Place& place, bool isNeededAgain) {
     const bool isNamed = place.Kind == PlaceKind::Named && version_ < FirstObjectVersion;
-    if (!isNamed || !isNeededAgain || IsSimple(*place.Object)) return place;
+    if (!isNamed || !isNeededAgain || place.Object->Kind == NodeKind::Text) return place;
     Place kept = place;
     kept.Name = symbols_.InternCopy("$name" + std::to_string(changes_));
     code_->PushText(kept.Name);

@@ -4,9 +4,11 @@
 
 namespace tamber {
 
-CodeGenerator::CodeGenerator(SymbolTable& symbols, Long version, FaultReport& faults)
+CodeGenerator::CodeGenerator(SymbolTable& symbols, Long version, std::uint32_t key,
+                             FaultReport& faults)
     : symbols_(symbols),
       version_(version),
+      key_(key),
       faults_(faults),
       folder_(symbols, version),
       functions_(version >= FirstObjectVersion),
@@ -91,7 +93,7 @@ void CodeGenerator::Var(const Node& node) {
     } else if (version_ < FirstObjectVersion) {
         if (node.A != nullptr) AssignPlain({.Name = node.Name}, *node.A, false);
     } else {
-        code_->PushText(node.Name);
+        code_->PushText(Called(node));
         if (node.A != nullptr) Expression(*node.A);
         code_->Emit(node.A != nullptr ? Opcode::DefineLocal : Opcode::DefineLocal2);
     }
@@ -223,7 +225,7 @@ void CodeGenerator::EnumerateObject(const Node& object) {
 /// Register 0 holds the name.
 void CodeGenerator::AssignEnumerated(const Node& target) {
     if (target.Kind == NodeKind::Var && target.Name->Register == Symbol::NoRegister) {
-        code_->PushText(target.Name);
+        code_->PushText(Called(target));
         code_->PushRegister(0);
         return code_->Emit(Opcode::DefineLocal);
     }
@@ -235,7 +237,8 @@ void CodeGenerator::AssignEnumerated(const Node& target) {
         code_->Emit(ItemKind::StoreRegister, place.Register);
         return code_->Emit(Opcode::Pop);
     }
-    if (IsSimplePlace(place)) {
+    const bool isCalled = place.Kind != PlaceKind::Variable && HasSharedRegisters();
+    if (IsSimplePlace(place) && !isCalled) {
         PushPlace(place);
         code_->PushRegister(0);
     } else {
@@ -355,7 +358,7 @@ void CodeGenerator::PushKeptTarget(std::size_t scope) {
         Text("Object");
         code_->Emit(Opcode::GetVariable);
     }
-    Text("$target" + std::to_string(scope));
+    Text("$target" + std::to_string(key_) + "_" + std::to_string(scope));
 }
 
 void CodeGenerator::SetKeptTarget(std::size_t scope) {

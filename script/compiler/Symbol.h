@@ -64,11 +64,12 @@ struct Symbol {
     const Builtin* BuiltinEntry = nullptr;
     /// Whether the script gives a variable of the timeline that name.
     bool IsOwn = false;
-    /// Whether a class of the script has a member of that name.
-    bool IsMember = false;
 
     /// Register that holds the variable in the function whose code is being made.
     Byte Register = NoRegister;
+    /// Name that stands for it in the code, within a block that catches something by it; null for
+    /// its own.
+    Symbol* Alias = nullptr;
     /// Functions around the code being made that declare the name.
     std::uint16_t Declarations = 0;
     /// Last function in which it was declared, and in which it must be reached by its name.

@@ -8,7 +8,9 @@ namespace {
 
 constexpr std::size_t FirstSlots = 1024;
 
-std::uint32_t HashOf(std::string_view text) {
+}  // namespace
+
+std::uint32_t SymbolTable::HashOf(std::string_view text) {
     std::uint64_t hash = text.size();
     const char* at = text.data();
     std::size_t left = text.size();
@@ -23,8 +25,6 @@ std::uint32_t HashOf(std::string_view text) {
     hash = (hash ^ word) * 0x9E3779B97F4A7C15;
     return static_cast<std::uint32_t>(hash >> 32);
 }
-
-}  // namespace
 
 SymbolTable::SymbolTable() : slots_(FirstSlots) {}
 

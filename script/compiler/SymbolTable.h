@@ -18,6 +18,7 @@ public:
     Symbol* InternCopy(std::string_view text);
     const std::deque<Symbol>& All() const { return symbols_; }
     std::deque<Symbol>& All() { return symbols_; }
+    static std::uint32_t HashOf(std::string_view text);
     Symbol* At(std::uint32_t index) { return &symbols_[index]; }
 
 private:

@@ -70,7 +70,7 @@ TEST(Diagnostics, NameTheLineAndTheToken) {
         {6, "x = 2 +;", 1, ";"},
         {6, "\nadd 1;", 2, "add"},
         {4, "x = 1;\ny = unknown(1);", 2, "unknown"},
-        {4, "/a/unknown();", 1, "/"},
+        {4, "/a/unknown();", 1, "/a/unknown"},
         {4, "x = f.y(1).z;", 1, "z"},
         {6, "getURL(\"u\", \"w\", \"PUT\");", 1, "\"PUT\""},
         {6, "x = getProperty(c,\n  \"_none\");", 2, "\"_none\""},
@@ -276,6 +276,17 @@ TEST(Diagnostics, AreNotNeededForLongChains) {
         for (const Long version : {5, 8})
             EXPECT_TRUE(Compiled(source, version).IsCompiled()) << source.substr(0, 20);
     EXPECT_TRUE(Compiled("x = " + Repeated("a && ", 1000) + "b;", 4).IsCompiled());
+}
+
+TEST(Diagnostics, AreNotNeededForLongClasses) {
+    std::string members;
+    for (int i = 0; i < 3000; ++i) {
+        const std::string name = "m" + std::to_string(i);
+        members += "function " + name + "() { return " + name + "; }\n";
+        members += "function get p" + name + "() { return " + name + "; }\n";
+    }
+    for (const Long version : {6, 7})
+        EXPECT_TRUE(Compiled("class A { " + members + "}", version).IsCompiled());
 }
 
 TEST(Diagnostics, TellOfJumpsAndBlocksThatAreTooLong) {

@@ -58,6 +58,13 @@ class Box {
 trace(new Box().bump());     //= 13
 trace(Box.q);                //= Q
 trace(Box.first.p);          //= 10
+class L0 { var far = "top"; static var wide = "wide"; function both() { return "L0"; } }
+class L1 extends L0 { } class L2 extends L1 { var far2 = 2; } class L3 extends L2 { function both() { return "L3"; } }
+class Other extends L1 { var far = "other"; static var wide = "narrow"; }
+class Branch extends L3 { static var wide = "branch"; var far2 = 3; }
+class L4 extends L3 { } class L5 extends L4 { } class L6 extends L5 { function both() { return super.both(); } }
+class L7 extends L6 { function all() { return far + far2 + wide + both(); } }
+trace(new L7().all());       //= top2wideL3
 walker.watch();
 //@ frame 2
 stop();                      //= ticked trueundefined

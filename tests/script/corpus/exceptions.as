@@ -172,3 +172,28 @@ trace(new Holder().hides("h"));   //= hh
 trace(Holder.own() + Holder.caught()); //= static5static51
 function local() { var e = "local"; try { throw "t"; } catch (e) { e += "!"; var in2 = e; } return in2 + e; }
 trace(local());                   //= t!local
+// A block that catches stands in the target that was set around it.
+where = "outside";
+function boom() { throw "boom "; }
+try { tellTarget("clip") { _root.boom(); } } catch (e) { trace(e + where); } //= boom outside
+try { try { tellTarget("clip") { _root.boom(); } } finally { trace(where); } } catch (e) { trace(e); } //= outside
+                                  //= boom 
+/clip:where = "in clip";
+tellTarget("/cli" + "p") { try { tellTarget("/") { _root.boom(); } } catch (e) { trace(e + where); } } //= boom in clip
+// Nothing else in a function is called by a caught name.
+function calls(e) { try { throw 1; } catch (e) { } e(); return typeof e; }
+trace(calls(function () { trace("called"); })); //= called
+                                  //= function
+function looks(e) { try { throw 1; } catch (e) { } return eval("e") + e; }
+trace(looks("p"));                //= pp
+function nests() { try { throw 1; } catch (e) { try { throw 5; } catch (e) { trace(e); } return e; } }
+trace(nests());                   //= 5
+                                  //= 1
+function shares() { var e = 1; var h = function () { return e; }; try { throw 2; } catch (e) { var g = function () { return e; }; } return e + "," + h() + "," + g(); }
+trace(shares());                  //= 1,1,2
+function lets() { try { throw where; } catch (where) { } return where; }
+trace(lets());                    //= outside
+function searches() { try { throw {v: 1}; } catch (e) { with (e) { v++; } return e.v + eval("e").v; } }
+trace(searches());                //= 4
+function news(e) { try { throw Own; } catch (e) { var o = new e("new"); for (e in {k: 1}) { } return o.text + e; } }
+trace(news());                    //= newk

@@ -21,3 +21,19 @@ trace(Off(5) === null);      //=6-6 false
                              //=7+ true
 function isOff() { return far.Off === Off; }
 trace(isOff());              //= true
+// Members of a class before what is imported, and classes that stand later.
+import zoo.Lion;
+class Keeper { var Lion = "own"; function Cat(x) { return "m" + x; } function go() { return Lion + Cat(1); } }
+trace(new Keeper().go());    //= ownm1
+class Trainer extends Lion { var Lion = 3; function say() { return super.say() + Lion; } }
+trace(new Trainer().say());  //= lion of cat3
+import shapes.*;
+class shapes.Late { function go() { return new After().n(); } static function cast(o) { return After(o); } }
+class shapes.After { function n() { return "after"; } }
+trace(new Late().go() + Late.cast(new After()).n()); //= afterafter
+function hidesPackage(zoo) { return zoo.Cat(1) + zoo.Lion; }
+trace(hidesPackage({Cat: function (x) { return x + 1; }, Lion: "parameter"})); //= 2parameter
+class Ball { static var count = 0; var id; function Ball() { count++; id = count; } static function total() { return count; } }
+ball = new Ball();
+trace(_global.Ball.total()); //= 1
+b2 = new _global.Ball(); trace(b2.id); //= 2

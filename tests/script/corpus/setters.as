@@ -24,3 +24,5 @@ trace((q = 3) + "," + (q += 4) + "," + q++ + "," + --q + "," + w); //= 3,7,7,7,7
 trace((eval("q") = 4) + "," + (eval("q") += 1) + "," + eval("q")++ + "," + eval("o.p")-- + "," + w + o.v); //= 4,5,5,8,67
 function inside() { var r = []; r.push(o.p = 1, self()[key()] += 1, o["p"]++, q -= 5, o.v); return r; }
 trace(inside());                           //= 1,9,7,1,7
+this.addProperty("busyObject", function () { busy(); return w; }, null);
+w = {}; for (busyObject.x in {a: 1}) trace(w.x); //= a

@@ -27,3 +27,11 @@ trace((eval("v" add n++) = 8) add "," add v1 add "," add n);  //= 8,8,2
 trace((eval("v" add --n) -= eval("v" add ++n)++) add "," add v1 add "," add v2); //= -6,-6,15
 t = 0.1; trace(t++); //= 0.1
 t = 0.7; trace(t--); //= 0.7
+name = "outside"; /clip:name = "in clip";
+tellTarget("/cli" add chr(112)) { tellTarget("/") { call(2); } trace(name); } //= frame2
+                     //= in clip
+n = "n"; y = (eval(n) = 5); trace(y); //= 5
+n = "b"; b = 1; y = (eval(n) = (n = "c")); trace(y add b); //= cc
+stop();
+//@ frame 2
+tellTarget("/" add "cli" add chr(112)) { tellTarget("/") { trace("frame2"); } }

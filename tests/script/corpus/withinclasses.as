@@ -27,6 +27,13 @@ trace(stylus.draw({}, 6));      //= 11,6,106
                              //= 100,101
                              //= 11,2,11,106,50
 trace(stylus.turn(clip));       //= 1,4,7
+class Dragged extends MovieClip {
+  function go() { startDrag(true, 0, 0, 100, 100); _x = 500; stopDrag(); startDrag(false); stopDrag(); return _name; }
+  function out(clip) { with (clip) { startDrag(false, 1, 2, 3, 4); } stopDrag(); return clip._name; }
+}
+Object.registerClass("Sym", Dragged);
+moved = _root.attachMovie("Sym", "moved", 4);
+trace(moved.go() + moved.out(clip)); //= movedclip
 class Fault extends Error {
   function Fault(m) { super(m); message = m + "!"; name = "Fault"; }
   function tell() { return name + message; }
