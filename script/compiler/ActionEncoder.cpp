@@ -299,9 +299,8 @@ void ActionEncoder::WriteFunction(const ActionCode& code,
     BeginBlock(bytes_.size() - 2, function.At);
 }
 
-/// Three lengths stand in front of the blocks; each block opens where the one before it ends. The
-/// third, of what always runs, is not used.
-/// Flags, the lengths of body, handler and last block, and the register of what was thrown.
+/// Flags, the lengths of body, handler and last block, and the register of what was thrown. Each
+/// block opens where the one before it ends; the last, of what always runs, is not used.
 void ActionEncoder::WriteTry(Spot spot) {
     constexpr std::uint32_t Size = 8;
     U8(static_cast<Byte>(Opcode::Try));

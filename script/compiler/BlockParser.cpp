@@ -8,13 +8,13 @@ namespace tamber {
 namespace {
 
 /// While the block of a handler is read, the name of what it catches is declared.
-class CaughtName {
+class Declared {
 public:
-    CaughtName(Symbol& name, std::uint32_t function)
+    Declared(Symbol& name, std::uint32_t function)
         : name_(name), outer_(std::exchange(name.DeclaredIn, function)) {}
-    CaughtName(const CaughtName&) = delete;
-    CaughtName& operator=(const CaughtName&) = delete;
-    ~CaughtName() { name_.DeclaredIn = outer_; }
+    Declared(const Declared&) = delete;
+    Declared& operator=(const Declared&) = delete;
+    ~Declared() { name_.DeclaredIn = outer_; }
 
 private:
     Symbol& name_;
@@ -183,7 +183,7 @@ Node* Parser::Handler() {
     if (function_ == nullptr) handler->Name->IsOwn = true;
     if (Accept(TokenKind::Colon)) handler->A = CaughtType();
     Expect(TokenKind::CloseParenthesis, u")");
-    const CaughtName caught(*handler->Name, function_ == nullptr ? 0 : function_->Number);
+    const Declared caught(*handler->Name, function_ == nullptr ? 0 : function_->Number);
     const std::uint32_t before = searches_;
     handler->B = Block();
     handler->Flag = searches_ != before;
