@@ -245,6 +245,7 @@ void CodeGenerator::PlainCall(const Node& node) {
 }
 
 bool CodeGenerator::IsMemberPlace(const Node& callee) {
+    if (IsAccessorOfBase(callee)) return false;
     return callee.Kind == NodeKind::Member || callee.Kind == NodeKind::Index ||
            (callee.Kind == NodeKind::Name && FindMember(callee.Name).IsFound);
 }

@@ -28,9 +28,12 @@ ClassTable::Record& ClassTable::Define(const ClassNode& definition) {
     return record;
 }
 
-void ClassTable::Add(Record& record, const MemberNode& member) {
-    const bool isNew = record.members_.insert_or_assign(member.Name, member.IsStatic).second;
-    if (isNew) declarers_[member.Name].push_back(&record);
+void ClassTable::Add(Record& record, const MemberNode& node) {
+    const bool isAccessor = node.Kind == MemberKind::Getter || node.Kind == MemberKind::Setter;
+    const Member member{
+        .IsFound = true, .Class = node.IsStatic ? record.Name : nullptr, .IsAccessor = isAccessor};
+    const bool isNew = record.members_.insert_or_assign(node.Name, member).second;
+    if (isNew) declarers_[node.Name].push_back(&record);
 }
 
 /// A copy of a class's name that stays.
@@ -51,11 +54,15 @@ ClassTable::Member ClassTable::Find(Record& record, const Symbol& name) {
     return record.found_[&name] = found;
 }
 
+ClassTable::Member ClassTable::FindAbove(Record& record, const Symbol& name) {
+    Settle(record);
+    return record.base_ == nullptr ? OfPlayer(record.Base, name) : Find(*record.base_, name);
+}
+
 /// What the class itself has, or was found for it before.
 std::optional<ClassTable::Member> ClassTable::Known(Record& record, const Symbol& name) const {
     const auto own = record.members_.find(&name);
-    if (own != record.members_.end())
-        return Member{.IsFound = true, .Class = own->second ? record.Name : nullptr};
+    if (own != record.members_.end()) return own->second;
     if (record.foundAt_ != state_) record.found_.clear();
     record.foundAt_ = state_;
     const auto found = record.found_.find(&name);
@@ -66,8 +73,7 @@ std::optional<ClassTable::Member> ClassTable::Known(Record& record, const Symbol
 ClassTable::Member ClassTable::Search(Record& record, const Symbol& name) {
     const Record* declarer = Declarer(record, name);
     if (declarer == nullptr) return OfPlayer(record.root_->Base, name);
-    const bool isStatic = declarer->members_.at(&name);
-    return {.IsFound = true, .Class = isStatic ? declarer->Name : nullptr};
+    return declarer->members_.at(&name);
 }
 
 /// The nearest class above that has a member of its own; null for none. As many as have one are

@@ -19,6 +19,8 @@ public:
         bool IsFound = false;
         /// Of a static member, the name of the class that has it; it stays with the table.
         const Node* Class = nullptr;
+        /// Whether functions get and set it.
+        bool IsAccessor = false;
         /// Whether a class of the player has it.
         bool IsOfPlayer = false;
     };
@@ -32,8 +34,8 @@ public:
     private:
         friend class ClassTable;
 
-        /// Its own members; true for a static one.
-        std::unordered_map<const Symbol*, bool> members_;
+        /// Its own members.
+        std::unordered_map<const Symbol*, Member> members_;
         /// What has been found for other names, while `foundAt_` is the table's.
         std::unordered_map<const Symbol*, Member> found_;
         std::uint32_t foundAt_ = 0;
@@ -58,9 +60,11 @@ public:
     bool IsEmpty() const { return announced_.empty(); }
     /// The member that a name means among those of a class and of all that it extends.
     Member Find(Record& record, const Symbol& name);
+    /// The same among those of what the class extends.
+    Member FindAbove(Record& record, const Symbol& name);
 
 private:
-    void Add(Record& record, const MemberNode& member);
+    void Add(Record& record, const MemberNode& node);
     const Node* Kept(const Node& name);
     std::optional<Member> Known(Record& record, const Symbol& name) const;
     Member Search(Record& record, const Symbol& name);

@@ -62,7 +62,7 @@ private:
         Byte Key = 0;
     };
     /// Where a value lies.
-    enum class PlaceKind : Byte { Register, Variable, Property, Member, Index, Named };
+    enum class PlaceKind : Byte { Register, Variable, Property, Member, Accessor, Index, Named };
     struct Place {
         PlaceKind Kind = PlaceKind::Variable;
         Byte Register = 0;
@@ -180,6 +180,7 @@ private:
     void PushObject(const Place& place);
     void PushObjectWithin(const Place& place);
     void PushOwnObject(const Place& place);
+    void CallAccessor(const Place& place, bool isGetter);
     bool HasSharedRegisters() const;
     void PushPlaceUnderValue(const Place& place);
     void PushOwner(const Place& place);
@@ -253,6 +254,13 @@ private:
     void Members(const ClassNode& node, bool isStatic, Skip& skip);
     void Hop(Skip& skip, Spot spot);
     void Accessors(const ClassNode& node, bool isStatic, Skip& skip);
+    void AccessorMethod(const ClassNode& node, const MemberNode& accessor);
+    void AccessorFunction(const ClassNode& node, const MemberNode* accessor, Symbol* name,
+                          bool isGetter);
+    void Forwarder(Symbol* method, bool isGetter, Spot spot);
+    void EmptyFunction(Spot spot);
+    Symbol* AccessorName(const Symbol& name, bool isGetter);
+    bool IsAccessorOfBase(const Node& node);
     void HideMembers(const ClassNode& node);
     bool Cast(const Node& node);
     ClassTable::Member FindMember(const Symbol* name);

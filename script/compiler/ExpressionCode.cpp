@@ -382,7 +382,8 @@ void CodeGenerator::MakeNumber() {
 }
 
 void CodeGenerator::Delete(const Node& target) {
-    if (target.Kind == NodeKind::Member || target.Kind == NodeKind::Index) {
+    const bool isElement = target.Kind == NodeKind::Member || target.Kind == NodeKind::Index;
+    if (isElement && !IsAccessorOfBase(target)) {
         PushPlace(PlaceOf(target));
         return code_->Emit(Opcode::Delete);
     }

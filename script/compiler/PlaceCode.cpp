@@ -35,6 +35,7 @@ CodeGenerator::Place CodeGenerator::PlaceOf(const Node& told) {
         case NodeKind::SlashPath:
             return {.Name = node.Name};
         case NodeKind::Member:
+            if (IsAccessorOfBase(node)) return {.Kind = PlaceKind::Accessor, .Name = node.Name};
             if (node.Flag) return {.Kind = PlaceKind::Member, .Name = node.Name, .Class = node.A};
             return {PlaceKind::Member, 0, 0, node.Name, node.A};
         case NodeKind::Index:
@@ -109,6 +110,7 @@ bool CodeGenerator::SlashPathOf(const Node& node, std::string& path) const {
 void CodeGenerator::PushPlace(const Place& place) {
     switch (place.Kind) {
         case PlaceKind::Register:
+        case PlaceKind::Accessor:
             return;
         case PlaceKind::Variable:
             return code_->PushText(place.Name);
@@ -163,6 +165,14 @@ void CodeGenerator::PushObjectWithin(const Place& place) {
     code_->Place(found);
 }
 
+/// The value to be set lies on the stack, and what the method gives comes there.
+void CodeGenerator::CallAccessor(const Place& place, bool isGetter) {
+    Numeric(isGetter ? 0 : 1);
+    Super();
+    code_->PushText(AccessorName(*place.Name, isGetter));
+    code_->Emit(Opcode::CallMethod);
+}
+
 void CodeGenerator::LoadPlace(const Place& place) {
     PushPlace(place);
     Load(place);
@@ -174,6 +184,8 @@ void CodeGenerator::Load(const Place& place) {
             return code_->PushRegister(place.Register);
         case PlaceKind::Property:
             return code_->Emit(Opcode::GetProperty);
+        case PlaceKind::Accessor:
+            return CallAccessor(place, true);
         case PlaceKind::Member:
         case PlaceKind::Index:
             return code_->Emit(Opcode::GetMember);
@@ -188,6 +200,9 @@ void CodeGenerator::Store(const Place& place) {
             return code_->Emit(ItemKind::StoreRegister, place.Register);
         case PlaceKind::Property:
             return code_->Emit(Opcode::SetProperty);
+        case PlaceKind::Accessor:
+            CallAccessor(place, false);
+            return code_->Emit(Opcode::Pop);
         case PlaceKind::Member:
         case PlaceKind::Index:
             return code_->Emit(Opcode::SetMember);
@@ -255,8 +270,10 @@ void CodeGenerator::LoadWithOwner(const Place& place) {
         return Load(place);
     }
     PushOwner(place);
-    if (place.Kind != PlaceKind::Variable) code_->Emit(Opcode::PushDuplicate);
-    if (place.Kind != PlaceKind::Named) code_->PushText(place.Name);
+    const bool hasOwner = place.Kind == PlaceKind::Member || place.Kind == PlaceKind::Named;
+    const bool isByName = place.Kind == PlaceKind::Member || place.Kind == PlaceKind::Variable;
+    if (hasOwner) code_->Emit(Opcode::PushDuplicate);
+    if (isByName) code_->PushText(place.Name);
     Load(place);
 }
 
@@ -266,11 +283,13 @@ void CodeGenerator::StoreKeeping(const Place& place, Operator step) {
     const auto makeStep = [&] {
         if (step != Operator::None) ApplyChange(nullptr, step);
     };
-    if (place.Kind == PlaceKind::Variable) {
+    if (place.Kind == PlaceKind::Variable || place.Kind == PlaceKind::Accessor) {
         code_->Emit(Opcode::PushDuplicate);
         makeStep();
-        code_->PushText(place.Name);
-        code_->Emit(Opcode::StackSwap);
+        if (place.Kind == PlaceKind::Variable) {
+            code_->PushText(place.Name);
+            code_->Emit(Opcode::StackSwap);
+        }
         return Store(place);
     }
     code_->Emit(ItemKind::StoreRegister, 0);
@@ -357,6 +376,7 @@ void CodeGenerator::PushKeptPlace(const Place& place) {
 
 /// What Store needs below the value that lies on the stack.
 void CodeGenerator::PushPlaceUnderValue(const Place& place) {
+    if (place.Kind == PlaceKind::Accessor) return;
     PushPlace(place);
     if (place.Kind != PlaceKind::Member && place.Kind != PlaceKind::Index)
         return code_->Emit(Opcode::StackSwap);
