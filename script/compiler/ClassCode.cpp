@@ -37,8 +37,7 @@ void CodeGenerator::Class(const Node& node) {
     if (definition.Base != nullptr) Inherit(definition);
     if (definition.Interfaces.Count > 0) Implement(definition);
     class_ = &record;
-    Members(definition, false, skip);
-    Members(definition, true, skip);
+    Members(definition, skip);
     HideMembers(definition);
     class_ = nullptr;
     code_->Place(skip.End);
@@ -135,20 +134,24 @@ void CodeGenerator::Implement(const ClassNode& node) {
     code_->Emit(Opcode::ImplementsOp);
 }
 
-/// Methods and values of the prototype, or of the class itself.
-void CodeGenerator::Members(const ClassNode& node, bool isStatic, Skip& skip) {
+/// What functions there are comes before the values, which may call them.
+void CodeGenerator::Members(const ClassNode& node, Skip& skip) {
+    MembersOfKind(node, MemberKind::Method, skip);
+    Accessors(node, false, skip);
+    Accessors(node, true, skip);
+    MembersOfKind(node, MemberKind::Field, skip);
+}
+
+/// In the order of the text, members of the prototype and of the class itself.
+void CodeGenerator::MembersOfKind(const ClassNode& node, MemberKind kind, Skip& skip) {
     for (const MemberNode* member = node.FirstMember; member; member = member->Next) {
+        if (member->Kind != kind || member->Value == nullptr) continue;
         Hop(skip, member->At);
-        if (member->IsStatic != isStatic) continue;
-        const bool isAccessor =
-            member->Kind == MemberKind::Getter || member->Kind == MemberKind::Setter;
-        if (isAccessor || member->Value == nullptr) continue;
-        isStatic ? ClassPath(*node.Name) : Prototype(*node.Name);
+        member->IsStatic ? ClassPath(*node.Name) : Prototype(*node.Name);
         code_->PushText(member->Name);
         Expression(*member->Value);
         code_->Emit(Opcode::SetMember);
     }
-    Accessors(node, isStatic, skip);
 }
 
 /// Where one jump may be too short for a class, it lands between two members and goes on.

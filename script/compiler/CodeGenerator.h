@@ -251,7 +251,8 @@ private:
     void Constructor(const ClassNode& node);
     void Inherit(const ClassNode& node);
     void Implement(const ClassNode& node);
-    void Members(const ClassNode& node, bool isStatic, Skip& skip);
+    void Members(const ClassNode& node, Skip& skip);
+    void MembersOfKind(const ClassNode& node, MemberKind kind, Skip& skip);
     void Hop(Skip& skip, Spot spot);
     void Accessors(const ClassNode& node, bool isStatic, Skip& skip);
     void AccessorMethod(const ClassNode& node, const MemberNode& accessor);

@@ -89,3 +89,5 @@ class Told extends Listed { function Told() { trace("told " + super.size()); } }
 trace(new Filled(2).list.join("|")); //= 1|2
 trace(new Filled(3).list.join("|")); //= 1|3
 t = new Told();                  //= told 1
+class Const { static var A:Number = 2; static var B:Number = A * 3; var own = A + B + made(); static var LIST:Array = [A, B, made()]; function f() { return LIST.length; } static function made() { return B * 10; } }
+trace(new Const().own + "," + Const.LIST + "," + new Const().f()); //= 68,2,6,60,3
