@@ -2,6 +2,7 @@
 
 #include "document/clsPropertySprite.h"
 #include "platform/text.h"
+#include "swf/LayerCharacter.h"
 #include "swf/mdlSWFTag.h"
 
 namespace tamber {
@@ -31,8 +32,8 @@ std::int64_t DepthsOf(const Collection<clsLayer>& layers) {
 std::int64_t PlacementsOf(const clsLayer& layer) {
     const bool koma = layer.SymbolData()->eTypeEx() == KindKoma;
     std::int64_t placements = 0;
-    for (const auto& object : layer.colObject)
-        placements += koma || object->blTween ? object->DispCount() : 1;
+    for (Long index = 1; index <= layer.ObjectCount(); ++index)
+        placements += koma || layer.Object(index)->blTween ? SpanOf(layer, index) : 1;
     return placements;
 }
 
