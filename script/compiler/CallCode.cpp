@@ -20,6 +20,13 @@ constexpr std::size_t MaxUrlRecord = 60000;
 constexpr std::string_view VersionPath = "/:$version";
 constexpr std::string_view LevelName = "_level";
 
+/// 0 for what names no way to send variables.
+std::uint32_t MethodNamed(std::string_view name) {
+    const std::string lower = Lower(name);
+    if (lower == "get") return MethodGet;
+    return lower == "post" ? MethodPost : 0;
+}
+
 bool IsWhole(const Node& node, double low, double high) {
     return node.Kind == NodeKind::Number && node.Value >= low && node.Value <= high &&
            node.Value == static_cast<double>(static_cast<std::int64_t>(node.Value));
@@ -68,16 +75,11 @@ bool CodeGenerator::HasMethodArguments(const Builtin& builtin, const Node& call)
             return (call.Count > 2 && call.Count < 6) || call.B->Kind == NodeKind::Boolean;
         case BuiltinForm::LoadMovie:
         case BuiltinForm::LoadVariables:
-            return call.Count == 2 && IsSendingMethod(*call.B->Next);
+            return call.Count == 2 && call.B->Next->Kind == NodeKind::Text &&
+                   MethodNamed(call.B->Next->Name->Text) != 0;
         default:
             return false;
     }
-}
-
-bool CodeGenerator::IsSendingMethod(const Node& node) {
-    if (node.Kind != NodeKind::Text) return false;
-    const std::string name = Lower(node.Name->Text);
-    return name == "get" || name == "post";
 }
 
 bool CodeGenerator::IsMethodOfClip(const Builtin& builtin) const {
@@ -303,11 +305,11 @@ void CodeGenerator::Goto(const Node& node, bool isPlay) {
 std::uint32_t CodeGenerator::Method(const Node* node) {
     if (node == nullptr) return 0;
     const bool isName = node->Kind == NodeKind::Text || node->Kind == NodeKind::Name;
-    const std::string name = isName ? Lower(node->Name->Text) : std::string();
-    if (name == "get") return MethodGet;
-    if (name == "post") return MethodPost;
-    if (!isName || !name.empty()) Complain(*node, u"送信方法は \"GET\" または \"POST\" です。");
-    return 0;
+    const std::string_view name = isName ? node->Name->Text : std::string_view();
+    const std::uint32_t method = MethodNamed(name);
+    if (method == 0 && (!isName || !name.empty()))
+        Complain(*node, u"送信方法は \"GET\" または \"POST\" です。");
+    return method;
 }
 
 /// url, then a window or target, then a method.

@@ -97,10 +97,7 @@ void CodeGenerator::Constructor(const ClassNode& node) {
             function.UsesSuper = true;
             function.Body = &call;
         }
-        tamber::Node made;
-        made.Kind = NodeKind::Function;
-        made.Function = &function;
-        Function(made);
+        MadeFunction(function);
     }
     code_->Emit(Opcode::SetMember);
 }
@@ -220,7 +217,9 @@ void CodeGenerator::AccessorFunction(const ClassNode& node, const MemberNode* ac
         code_->PushText(method);
         code_->Emit(Opcode::GetMember);
     } else if (isGetter) {
-        EmptyFunction(node.At);
+        FunctionNode empty;
+        empty.At = node.At;
+        MadeFunction(empty);
     } else {
         code_->Emit(ItemKind::PushNull);
     }
@@ -258,15 +257,11 @@ void CodeGenerator::Forwarder(Symbol* method, bool isGetter, Spot spot) {
         function.Declared = function.LastDeclared = &parameter;
         function.ParameterCount = 1;
     }
-    tamber::Node made;
-    made.Kind = NodeKind::Function;
-    made.Function = &function;
-    Function(made);
+    MadeFunction(function);
 }
 
-void CodeGenerator::EmptyFunction(Spot spot) {
-    FunctionNode function;
-    function.At = spot;
+/// A function that the text does not have.
+void CodeGenerator::MadeFunction(FunctionNode& function) {
     tamber::Node made;
     made.Kind = NodeKind::Function;
     made.Function = &function;

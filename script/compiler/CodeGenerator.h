@@ -235,7 +235,6 @@ private:
     bool IsMethodWithin(const Builtin& builtin, const Node& call) const;
     bool IsMethodOfClip(const Builtin& builtin) const;
     static bool HasMethodArguments(const Builtin& builtin, const Node& call);
-    static bool IsSendingMethod(const Node& node);
 
     // Functions and classes.
     void Function(const Node& node);
@@ -259,7 +258,7 @@ private:
     void AccessorFunction(const ClassNode& node, const MemberNode* accessor, Symbol* name,
                           bool isGetter);
     void Forwarder(Symbol* method, bool isGetter, Spot spot);
-    void EmptyFunction(Spot spot);
+    void MadeFunction(FunctionNode& function);
     Symbol* AccessorName(const Symbol& name, bool isGetter);
     bool IsAccessorOfBase(const Node& node);
     void HideMembers(const ClassNode& node);

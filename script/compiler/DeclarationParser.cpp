@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include <utility>
 
 #include "script/compiler/Parser.h"
