@@ -37,11 +37,10 @@ Long SignedOperand(std::uint32_t operand) {
 
 }  // namespace
 
-Bytes ActionEncoder::Encode(const ActionCode& first, const ActionCode& second) {
+Bytes ActionEncoder::Encode(std::initializer_list<const ActionCode*> codes) {
     bytes_.clear();
     if (version_ >= FirstObjectVersion) WritePool();
-    Write(first);
-    Write(second);
+    for (const ActionCode* code : codes) Write(*code);
     return std::move(bytes_);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <unordered_set>
@@ -17,8 +18,8 @@ public:
     ActionEncoder(SymbolTable& symbols, Long version, FaultReport& faults)
         : symbols_(symbols), version_(version), faults_(faults) {}
 
-    /// The constant pool that both codes share, then the one code, then the other.
-    Bytes Encode(const ActionCode& first, const ActionCode& second);
+    /// The constant pool that all codes share, then the codes.
+    Bytes Encode(std::initializer_list<const ActionCode*> codes);
 
 private:
     /// A block whose length stands in front of it.

@@ -249,7 +249,7 @@ void CodeGenerator::PlainCall(const Node& node) {
 bool CodeGenerator::IsMemberPlace(const Node& callee) {
     if (IsAccessorOfBase(callee)) return false;
     return callee.Kind == NodeKind::Member || callee.Kind == NodeKind::Index ||
-           (callee.Kind == NodeKind::Name && FindMember(callee.Name).IsFound);
+           (callee.Kind == NodeKind::Name && PlaceOf(callee).Kind == PlaceKind::Member);
 }
 
 /// A value that is no member is called by a method without a name.
@@ -258,7 +258,7 @@ void CodeGenerator::MethodCall(const Node& node) {
     PushArgumentsBackward(node.B, node.Count);
     Numeric(node.Count);
     if (IsMemberPlace(callee)) {
-        PushPlace(PlaceOf(callee));
+        PushCallee(PlaceOf(callee));
     } else {
         Expression(callee);
         code_->Emit(ItemKind::PushUndefined);
@@ -276,7 +276,7 @@ void CodeGenerator::New(const Node& node) {
         return code_->Emit(Opcode::NewObject);
     }
     if (isMember) {
-        PushPlace(PlaceOf(callee));
+        PushCallee(PlaceOf(callee));
     } else {
         Expression(callee);
         code_->Emit(ItemKind::PushUndefined);

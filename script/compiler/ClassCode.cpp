@@ -16,29 +16,31 @@ constexpr std::size_t ItemsPerHop = 2000;
 
 }  // namespace
 
-void CodeGenerator::Announce(const std::vector<Symbol*>& path) {
-    std::string dotted;
-    for (const Symbol* name : path) (dotted += dotted.empty() ? "" : ".") += name->Text;
-    classes_.Announce(std::move(dotted));
+void CodeGenerator::GenerateClasses() {
+    code_ = &classCode_;
+    const std::vector<const ClassNode*> order = classes_.InOrder();
+    for (const ClassNode* definition : order) Class(*definition);
+    for (const ClassNode* definition : order) LateFields(*definition);
+    code_ = &main_;
 }
 
 /// A class is made once, unless it is there. Its packages are objects of the global one.
-void CodeGenerator::Class(const Node& node) {
-    const ClassNode& definition = *node.Class;
-    ClassTable::Record& record = classes_.Define(definition);
-    if (definition.IsIntrinsic) return;
+void CodeGenerator::Class(const ClassNode& node) {
+    if (node.IsIntrinsic) return;
+    if (IsFull()) return TooLong(*node.Name);
     Skip skip{code_->NewLabel(node.At), code_->Items.size()};
-    ClassPath(*definition.Name);
+    ClassPath(*node.Name);
     code_->JumpIf(skip.End);
-    if (definition.Name->Kind == NodeKind::Member) Package(*definition.Name->A);
-    class_ = &record;
-    Constructor(definition);
+    if (node.Name->Kind == NodeKind::Member) Package(*node.Name->A);
+    ClassTable::Record* const record = classes_.At(*node.Name);
+    class_ = record;
+    Constructor(node);
     class_ = nullptr;
-    if (definition.Base != nullptr) Inherit(definition);
-    if (definition.Interfaces.Count > 0) Implement(definition);
-    class_ = &record;
-    Members(definition, skip);
-    HideMembers(definition);
+    if (node.Base != nullptr) Inherit(node);
+    if (node.Interfaces.Count > 0) Implement(node);
+    class_ = record;
+    Members(node, skip);
+    HideMembers(node);
     class_ = nullptr;
     code_->Place(skip.End);
 }
@@ -133,21 +135,92 @@ void CodeGenerator::Implement(const ClassNode& node) {
 
 /// What functions there are comes before the values, which may call them.
 void CodeGenerator::Members(const ClassNode& node, Skip& skip) {
-    MembersOfKind(node, MemberKind::Method, skip);
+    Methods(node, skip);
     Accessors(node, false, skip);
     Accessors(node, true, skip);
-    MembersOfKind(node, MemberKind::Field, skip);
+    Fields(node, false, skip);
+    if (!HasLateFields(node)) return;
+    PushMark(node);
+    code_->Emit(ItemKind::PushBoolean, 1);
+    code_->Emit(Opcode::SetMember);
 }
 
-/// In the order of the text, members of the prototype and of the class itself.
-void CodeGenerator::MembersOfKind(const ClassNode& node, MemberKind kind, Skip& skip) {
-    for (const MemberNode* member = node.FirstMember; member; member = member->Next) {
-        if (member->Kind != kind || member->Value == nullptr) continue;
-        Hop(skip, member->At);
-        member->IsStatic ? ClassPath(*node.Name) : Prototype(*node.Name);
-        code_->PushText(member->Name);
-        Expression(*member->Value);
-        code_->Emit(Opcode::SetMember);
+void CodeGenerator::Methods(const ClassNode& node, Skip& skip) {
+    for (const MemberNode* member = node.FirstMember; member; member = member->Next)
+        if (member->Kind == MemberKind::Method) SetMember(node, *member, skip);
+}
+
+void CodeGenerator::Fields(const ClassNode& node, bool isLate, Skip& skip) {
+    for (const MemberNode* member = node.FirstMember; member; member = member->Next)
+        if (member->Kind == MemberKind::Field && member->Value != nullptr &&
+            IsLate(*member) == isLate)
+            SetMember(node, *member, skip);
+}
+
+/// A member of the prototype, or of the class itself.
+void CodeGenerator::SetMember(const ClassNode& node, const MemberNode& member, Skip& skip) {
+    Hop(skip, member.At);
+    member.IsStatic ? ClassPath(*node.Name) : Prototype(*node.Name);
+    code_->PushText(member.Name);
+    Expression(*member.Value);
+    code_->Emit(Opcode::SetMember);
+}
+
+/// Where all classes are there, the values that may need them, of a class that was made just now.
+void CodeGenerator::LateFields(const ClassNode& node) {
+    if (node.IsIntrinsic || !HasLateFields(node)) return;
+    Skip skip{code_->NewLabel(node.At), code_->Items.size()};
+    PushMark(node);
+    code_->Emit(Opcode::GetMember);
+    code_->Emit(Opcode::Not);
+    code_->JumpIf(skip.End);
+    PushMark(node);
+    code_->Emit(Opcode::Delete);
+    code_->Emit(Opcode::Pop);
+    class_ = classes_.At(*node.Name);
+    Fields(node, true, skip);
+    class_ = nullptr;
+    code_->Place(skip.End);
+}
+
+/// The member that a class has until its late fields are set.
+void CodeGenerator::PushMark(const ClassNode& node) {
+    ClassPath(*node.Name);
+    Text("$new");
+}
+
+bool CodeGenerator::HasLateFields(const ClassNode& node) {
+    for (const MemberNode* member = node.FirstMember; member; member = member->Next)
+        if (member->Kind == MemberKind::Field && IsLate(*member)) return true;
+    return false;
+}
+
+bool CodeGenerator::IsLate(const MemberNode& field) {
+    return field.Value != nullptr && !IsPlainValue(*field.Value);
+}
+
+/// Whether a value needs nothing that the script defines.
+bool CodeGenerator::IsPlainValue(const Node& node) {
+    switch (node.Kind) {
+        case NodeKind::Number:
+        case NodeKind::Text:
+        case NodeKind::Boolean:
+        case NodeKind::Null:
+        case NodeKind::Undefined:
+        case NodeKind::Function:
+            return true;
+        case NodeKind::Unary:
+            return IsPlainValue(*node.A);
+        case NodeKind::Array:
+            for (const Node* one = node.A; one != nullptr; one = one->Next)
+                if (!IsPlainValue(*one)) return false;
+            return true;
+        case NodeKind::Object:
+            for (const Node* entry = node.A; entry != nullptr; entry = entry->Next)
+                if (!IsPlainValue(*entry->A)) return false;
+            return true;
+        default:
+            return false;
     }
 }
 
@@ -284,57 +357,6 @@ void CodeGenerator::HideMembers(const ClassNode& node) {
     Text("ASSetPropFlags");
     code_->Emit(Opcode::CallFunction);
     code_->Emit(Opcode::Pop);
-}
-
-/// A call of a class without new is a cast. Version 7 checks it; before, the value stays as it is.
-bool CodeGenerator::Cast(const Node& node) {
-    if (version_ < FirstStrictVersion || node.Count != 1) return false;
-    const Node& callee = Meant(*node.A);
-    const Symbol* first = FirstName(callee);
-    if (first == nullptr || (!callee.Flag && IsHidden(callee))) return false;
-    const bool isName = callee.Kind == NodeKind::Name;
-    const bool isClass =
-        callee.Flag || (!classes_.IsEmpty() && classes_.Contains(DottedPath(callee)));
-    if (!isClass) {
-        if (!isName || !IsPlayerClass(first->Text)) return false;
-        Expression(*node.B);
-        code_->CastOrCall(callee.Name);
-        return true;
-    }
-    if (version_ >= FirstRegisterVersion) Expression(callee);
-    Expression(*node.B);
-    if (version_ >= FirstRegisterVersion) code_->Emit(Opcode::CastOp);
-    return true;
-}
-
-/// Within a class a bare name that no function around declares is a member's, when the class or
-/// one that it extends has such a member. Those of the player's classes are only known in what runs
-/// for one object.
-ClassTable::Member CodeGenerator::FindMember(const Symbol* name) {
-    if (class_ == nullptr || name->Declarations > 0) return {};
-    const ClassTable::Member found = classes_.Find(*class_, *name);
-    const bool isForOne = function_.Node != nullptr && function_.Node->IsMethod;
-    return found.IsOfPlayer && !isForOne ? ClassTable::Member() : found;
-}
-
-/// The name of a class as a value, though something else may be called so where the code stands.
-void CodeGenerator::PushClass(const Node& name) {
-    version_ < FirstCaseVersion || IsHidden(name) ? ClassPath(name) : Expression(name);
-}
-
-/// Whether the name that a path begins with is that of a variable or a member here.
-bool CodeGenerator::IsHidden(const Node& path) {
-    const Symbol* first = FirstName(path);
-    return first->Declarations > 0 || FindMember(first).IsFound;
-}
-
-/// Whether a call names a method of the class and no built-in function: one that an author's class
-/// has, or one of the player's classes that acts on a timeline in a clip, or with other arguments
-/// than the function's.
-bool CodeGenerator::IsOwnMethod(const Builtin& builtin, const Node& call) {
-    const ClassTable::Member found = FindMember(call.A->Name);
-    return found.IsFound &&
-           (!found.IsOfPlayer || IsMethodOfClip(builtin) || HasMethodArguments(builtin, call));
 }
 
 }  // namespace tamber

@@ -1,5 +1,7 @@
 #include "script/compiler/ClassTable.h"
 
+#include <utility>
+
 #include "script/compiler/DottedPath.h"
 #include "script/compiler/PlayerClasses.h"
 
@@ -11,21 +13,17 @@ constexpr std::string_view RootClass = "Object";
 
 }  // namespace
 
-ClassTable::Record& ClassTable::Define(const ClassNode& definition) {
-    const std::string path = DottedPath(*definition.Name);
-    std::string base = definition.Base == nullptr ? std::string() : DottedPath(*definition.Base);
-    Record& record = records_[path];
-    const bool isNew = record.Name == nullptr;
-    if (isNew) record.Name = Kept(*definition.Name);
-    const bool changesTree = awaited_.erase(path) > 0 || (!isNew && record.Base != base);
-    if (changesTree) ++tree_;
-    if (changesTree || !isNew) ++state_;
-    record.Base = std::move(base);
-    announced_.insert(path);
-    if (!record.Base.empty() && BaseOf(record) == nullptr) awaited_.insert(record.Base);
+void ClassTable::Define(const ClassNode& definition) {
+    Record& record = records_[DottedPath(*definition.Name)];
+    if (record.Name == nullptr) {
+        inText_.push_back(&record);
+        firstNames_.insert(FirstName(*definition.Name));
+        record.Name = definition.Name;
+        if (definition.Base != nullptr) record.Base = DottedPath(*definition.Base);
+    }
+    record.definitions_.push_back(&definition);
     for (const MemberNode* member = definition.FirstMember; member; member = member->Next)
         Add(record, *member);
-    return record;
 }
 
 void ClassTable::Add(Record& record, const MemberNode& node) {
@@ -36,19 +34,55 @@ void ClassTable::Add(Record& record, const MemberNode& node) {
     if (isNew) declarers_[node.Name].push_back(&record);
 }
 
-/// A copy of a class's name that stays.
-const Node* ClassTable::Kept(const Node& name) {
-    Node& kept = names_.emplace_back(name);
-    if (name.Kind == NodeKind::Member) kept.A = const_cast<Node*>(Kept(*name.A));
-    return &kept;
+ClassTable::Record* ClassTable::At(const Node& path) {
+    const Symbol* first = FirstName(path);
+    return first != nullptr && firstNames_.contains(first) ? At(DottedPath(path)) : nullptr;
+}
+
+ClassTable::Record* ClassTable::At(const std::string& path) {
+    const auto found = records_.find(path);
+    return found == records_.end() ? nullptr : &found->second;
+}
+
+/// What a class needs comes onto the stack above it; met there again, it has all that it needs, or
+/// stands in a circle.
+std::vector<const ClassNode*> ClassTable::InOrder() {
+    for (Record* record : inText_) record->isOrdered_ = record->isOpen_ = false;
+    std::vector<const ClassNode*> order;
+    std::vector<Record*> waiting(inText_.rbegin(), inText_.rend());
+    while (!waiting.empty()) {
+        Record& record = *waiting.back();
+        if (!record.isOpen_) {
+            record.isOpen_ = true;
+            PushNeeded(record, waiting);
+            continue;
+        }
+        waiting.pop_back();
+        if (std::exchange(record.isOrdered_, true)) continue;
+        order.insert(order.end(), record.definitions_.begin(), record.definitions_.end());
+    }
+    for (Record* record : inText_) record->isOpen_ = false;
+    return order;
+}
+
+void ClassTable::PushNeeded(const Record& record, std::vector<Record*>& waiting) {
+    const auto need = [&](const Node* name) {
+        Record* needed = name == nullptr ? nullptr : At(*name);
+        if (needed != nullptr && !needed->isOpen_) waiting.push_back(needed);
+    };
+    for (const ClassNode* definition : record.definitions_) {
+        for (const Node* name = definition->Interfaces.First; name != nullptr; name = name->Next)
+            need(name);
+        need(definition->Base);
+    }
 }
 
 /// Each answer is kept for the class and for its base, which has other classes ask the same.
 ClassTable::Member ClassTable::Find(Record& record, const Symbol& name) {
-    if (const auto known = Known(record, name)) return *known;
+    if (const Member* known = Known(record, name)) return *known;
     Settle(record);
     if (record.base_ != nullptr)
-        if (const auto known = Known(*record.base_, name)) return record.found_[&name] = *known;
+        if (const Member* known = Known(*record.base_, name)) return record.found_[&name] = *known;
     const Member found = Search(record, name);
     if (record.base_ != nullptr) record.base_->found_[&name] = found;
     return record.found_[&name] = found;
@@ -59,15 +93,18 @@ ClassTable::Member ClassTable::FindAbove(Record& record, const Symbol& name) {
     return record.base_ == nullptr ? OfPlayer(record.Base, name) : Find(*record.base_, name);
 }
 
-/// What the class itself has, or was found for it before.
-std::optional<ClassTable::Member> ClassTable::Known(Record& record, const Symbol& name) const {
+bool ClassTable::HasUnknownBase(Record& record) {
+    Settle(record);
+    const std::string& base = record.root_->Base;
+    return !base.empty() && At(base) == nullptr && !HasPlayerClass(base);
+}
+
+/// What the class itself has, or was found for it before; null for nothing yet.
+const ClassTable::Member* ClassTable::Known(const Record& record, const Symbol& name) const {
     const auto own = record.members_.find(&name);
-    if (own != record.members_.end()) return own->second;
-    if (record.foundAt_ != state_) record.found_.clear();
-    record.foundAt_ = state_;
+    if (own != record.members_.end()) return &own->second;
     const auto found = record.found_.find(&name);
-    if (found == record.found_.end()) return std::nullopt;
-    return found->second;
+    return found == record.found_.end() ? nullptr : &found->second;
 }
 
 ClassTable::Member ClassTable::Search(Record& record, const Symbol& name) {
@@ -103,18 +140,12 @@ ClassTable::Member ClassTable::OfPlayer(const std::string& base, const Symbol& n
     return {.IsFound = isFound, .IsOfPlayer = isFound};
 }
 
-/// The class that a class extends; null for one that the script does not have so far.
-ClassTable::Record* ClassTable::BaseOf(const Record& record) {
-    const auto base = records_.find(record.Base);
-    return base == records_.end() ? nullptr : &base->second;
-}
-
 /// Finds the places of a class and of those above it. Classes that are told to extend each other
 /// in a circle are cut apart where the circle was met.
 void ClassTable::Settle(Record& record) {
     std::vector<Record*> open;
-    for (Record* at = &record; at != nullptr && at->settledAt_ != tree_; at = BaseOf(*at)) {
-        at->settledAt_ = tree_;
+    for (Record* at = &record; at != nullptr && !at->isSettled_; at = BaseOf(*at)) {
+        at->isSettled_ = true;
         at->isOpen_ = true;
         open.push_back(at);
     }
@@ -126,7 +157,7 @@ void ClassTable::Settle(Record& record) {
 }
 
 /// Two jumps of one length make one of their sum.
-void ClassTable::SettleBelow(Record& record, Record* base) const {
+void ClassTable::SettleBelow(Record& record, Record* base) {
     record.base_ = base;
     record.root_ = base == nullptr ? &record : base->root_;
     record.depth_ = base == nullptr ? 0 : base->depth_ + 1;

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <deque>
-#include <optional>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
@@ -12,12 +10,13 @@
 
 namespace tamber {
 
-/// The classes of a script as far as it has been read, and what members their names have.
+/// The classes of a script, and what members their names have. All are defined before any is asked
+/// for; their nodes must stay.
 class ClassTable {
 public:
     struct Member {
         bool IsFound = false;
-        /// Of a static member, the name of the class that has it; it stays with the table.
+        /// Of a static member, the name of the class that has it.
         const Node* Class = nullptr;
         /// Whether functions get and set it.
         bool IsAccessor = false;
@@ -34,14 +33,15 @@ public:
     private:
         friend class ClassTable;
 
+        /// More than one when the script has it again.
+        std::vector<const ClassNode*> definitions_;
         /// Its own members.
         std::unordered_map<const Symbol*, Member> members_;
-        /// What has been found for other names, while `foundAt_` is the table's.
+        /// What has been found for other names.
         std::unordered_map<const Symbol*, Member> found_;
-        std::uint32_t foundAt_ = 0;
 
-        // Its place in the tree of classes, while `settledAt_` is the table's.
-        std::uint32_t settledAt_ = 0;
+        // Its place in the tree of classes, once it is settled.
+        bool isSettled_ = false;
         bool isOpen_ = false;
         /// Classes above it in the script.
         std::uint32_t depth_ = 0;
@@ -50,41 +50,46 @@ public:
         /// One further up, so that any is reached in steps that grow with the logarithm of the
         /// depth.
         Record* jump_ = nullptr;
+
+        /// Whether it stands in an order that is being made.
+        bool isOrdered_ = false;
     };
 
-    /// Lets a class be known by its path before its definition comes.
-    void Announce(std::string path) { announced_.insert(std::move(path)); }
-    /// Adds what a definition says to what is known of its class. The record stays where it is.
-    Record& Define(const ClassNode& definition);
-    bool Contains(const std::string& path) const { return announced_.contains(path); }
-    bool IsEmpty() const { return announced_.empty(); }
+    /// Adds what a definition says to what is known of its class.
+    void Define(const ClassNode& definition);
+    bool IsEmpty() const { return records_.empty(); }
+    /// Null for a path that is no class's.
+    Record* At(const Node& path);
+    /// Each class behind those that it extends or implements, and otherwise as they were defined.
+    std::vector<const ClassNode*> InOrder();
     /// The member that a name means among those of a class and of all that it extends.
     Member Find(Record& record, const Symbol& name);
     /// The same among those of what the class extends.
     Member FindAbove(Record& record, const Symbol& name);
+    /// Whether a class extends one of which neither the script nor the player tells, so that it may
+    /// have members of any name.
+    bool HasUnknownBase(Record& record);
 
 private:
+    Record* At(const std::string& path);
     void Add(Record& record, const MemberNode& node);
-    const Node* Kept(const Node& name);
-    std::optional<Member> Known(Record& record, const Symbol& name) const;
+    const Member* Known(const Record& record, const Symbol& name) const;
     Member Search(Record& record, const Symbol& name);
     Record* Declarer(Record& record, const Symbol& name);
     static Member OfPlayer(const std::string& base, const Symbol& name);
+    void PushNeeded(const Record& record, std::vector<Record*>& waiting);
     void Settle(Record& record);
-    void SettleBelow(Record& record, Record* base) const;
-    Record* BaseOf(const Record& record);
+    static void SettleBelow(Record& record, Record* base);
+    Record* BaseOf(const Record& record) { return At(record.Base); }
     static Record* Above(Record& record, std::uint32_t depth);
 
     std::unordered_map<std::string, Record> records_;
-    std::unordered_set<std::string> announced_;
-    /// Paths that classes extend and that no class has had so far.
-    std::unordered_set<std::string> awaited_;
+    /// In the order of their first definitions.
+    std::vector<Record*> inText_;
+    /// The names that their paths begin with.
+    std::unordered_set<const Symbol*> firstNames_;
     /// Of each name, the classes that have such a member.
     std::unordered_map<const Symbol*, std::vector<Record*>> declarers_;
-    /// Counts what changes the tree, and what changes what has been found.
-    std::uint32_t tree_ = 1;
-    std::uint32_t state_ = 1;
-    std::deque<Node> names_;
 };
 
 }  // namespace tamber

@@ -13,18 +13,20 @@ namespace tamber {
 
 struct Builtin;
 
-/// Makes code of statements as they are read. Functions declared at the top go into a code of their
-/// own, which runs first.
+/// Makes code of classes and statements. Functions declared at the top go into a code of their own,
+/// which runs first, classes into one that runs behind it.
 class CodeGenerator {
 public:
     /// The key tells scripts apart that may run within each other.
-    CodeGenerator(SymbolTable& symbols, Long version, std::uint32_t key, FaultReport& faults);
+    CodeGenerator(SymbolTable& symbols, Long version, std::uint32_t key, ClassTable& classes,
+                  FaultReport& faults);
 
-    /// Tells of a class that the script defines, by the names of its path.
-    void Announce(const std::vector<Symbol*>& path);
+    /// The script's classes, before its statements.
+    void GenerateClasses();
     /// One statement at the top.
     void Generate(const Node& statement);
     const ActionCode& Functions() const { return functions_; }
+    const ActionCode& Classes() const { return classCode_; }
     const ActionCode& Main() const { return main_; }
 
 private:
@@ -75,8 +77,12 @@ private:
         /// Of a static member that is named alone, the class that has it; of an imported class, its
         /// package.
         const Node* Class = nullptr;
+        /// Whether it is that class, in the object that has it.
+        bool IsClass = false;
         /// Whether a member is named alone where an object of a `with` may have it.
         bool IsWithin = false;
+        /// Whether it is a variable's name when the object has no such member.
+        bool IsUncertain = false;
     };
 
     /// The jump that passes over the code of a class: where it leads, and the size of the code when
@@ -175,8 +181,12 @@ private:
     // Places.
     const Node& Meant(const Node& node);
     Place PlaceOf(const Node& node);
+    Place PlaceOfClass(const Node& path);
     Place PlaceOfVersion4(const Node& node);
     void PushPlace(const Place& place);
+    void PushCallee(const Place& place);
+    void LoadUncertain(const Place& place);
+    void JumpIfDefined(Label label);
     void PushObject(const Place& place);
     void PushObjectWithin(const Place& place);
     void PushOwnObject(const Place& place);
@@ -242,7 +252,7 @@ private:
     void ChoosePreloads(FunctionState& state, ActionCode::FunctionRecord& record) const;
     static void Bind(const FunctionNode& function);
     static void Unbind(const FunctionNode& function);
-    void Class(const Node& node);
+    void Class(const ClassNode& node);
     void Package(const Node& node);
     void ClassPath(const Node& node);
     void ClassOwner(const Node& node);
@@ -251,7 +261,14 @@ private:
     void Inherit(const ClassNode& node);
     void Implement(const ClassNode& node);
     void Members(const ClassNode& node, Skip& skip);
-    void MembersOfKind(const ClassNode& node, MemberKind kind, Skip& skip);
+    void Methods(const ClassNode& node, Skip& skip);
+    void Fields(const ClassNode& node, bool isLate, Skip& skip);
+    void LateFields(const ClassNode& node);
+    static bool HasLateFields(const ClassNode& node);
+    static bool IsLate(const MemberNode& field);
+    static bool IsPlainValue(const Node& node);
+    void SetMember(const ClassNode& node, const MemberNode& member, Skip& skip);
+    void PushMark(const ClassNode& node);
     void Hop(Skip& skip, Spot spot);
     void Accessors(const ClassNode& node, bool isStatic, Skip& skip);
     void AccessorMethod(const ClassNode& node, const MemberNode& accessor);
@@ -262,8 +279,14 @@ private:
     Symbol* AccessorName(const Symbol& name, bool isGetter);
     bool IsAccessorOfBase(const Node& node);
     void HideMembers(const ClassNode& node);
+
+    // What names mean in and of classes.
     bool Cast(const Node& node);
     ClassTable::Member FindMember(const Symbol* name);
+    bool MayBeInherited(const Symbol& name);
+    ClassTable::Record* ClassNamed(const Node& path);
+    const Node* ClassWithMember(const Node& member);
+    bool IsReachedByPath(const Node& node);
     void PushClass(const Node& name);
     bool IsHidden(const Node& path);
     bool IsOwnMethod(const Builtin& builtin, const Node& call);
@@ -274,6 +297,9 @@ private:
     }
     Symbol* Known(std::string_view text) { return symbols_.Intern(text); }
     void Complain(const Node& node, String text);
+    bool IsFull() const {
+        return code_->IsFull() || symbols_.All().size() > ActionCode::MaxOperand;
+    }
     void TooLong(const Node& node);
     void NeedVersion5(const Node& node);
 
@@ -283,6 +309,7 @@ private:
     FaultReport& faults_;
     ConstantFolder folder_;
     ActionCode functions_;
+    ActionCode classCode_;
     ActionCode main_;
     /// Texts of small integers, made when first needed.
     std::array<Symbol*, 10000> digits_{};
@@ -291,7 +318,7 @@ private:
     std::vector<Scope> scopes_;
     std::vector<const Node*> spine_;
     std::vector<ActionCode::Parameter> parameters_;
-    ClassTable classes_;
+    ClassTable& classes_;
     ClassTable::Record* class_ = nullptr;
     int depth_ = 0;
     /// Assignments and increments in each other.

@@ -224,6 +224,7 @@ Node* Parser::ClassStatement() {
     ClassMembers(*definition);
     inClass_ = false;
     imports_.EndClass();
+    classes_.push_back(definition);
     return node;
 }
 

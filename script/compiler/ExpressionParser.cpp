@@ -115,7 +115,8 @@ Node* Parser::Assignment() {
     const bool isCompound = token_.Kind >= FirstCompound && token_.Kind <= LastCompound;
     if (!isCompound && !Is(TokenKind::Assign)) return left;
     CheckTarget(*left);
-    if (left->Kind == NodeKind::Name && left->Name->DeclaredIn == 0) left->Name->IsOwn = true;
+    const bool isVariable = left->Kind == NodeKind::Name && left->Name->DeclaredIn == 0;
+    if (isVariable && !inClass_) left->Name->IsOwn = true;
     Node* node = Make(NodeKind::Assign, token_.At);
     if (isCompound) {
         node->Op =

@@ -21,6 +21,8 @@ public:
     /// The next statement at the top, or null at the end. After an error it goes on with the next
     /// statement that can be read; after too many it ends.
     Node* NextStatement();
+    /// The classes that were read so far.
+    const std::vector<const ClassNode*>& Classes() const { return classes_; }
     /// Whether the statement that was given last was read without an error.
     bool IsSound() const { return isSound_; }
 
@@ -203,6 +205,7 @@ private:
     std::size_t firstGuard_ = 0;
     std::vector<Use> uses_;
     Imports imports_;
+    std::vector<const ClassNode*> classes_;
 };
 
 }  // namespace tamber

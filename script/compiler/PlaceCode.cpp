@@ -25,17 +25,23 @@ CodeGenerator::Place CodeGenerator::PlaceOf(const Node& told) {
         case NodeKind::Name: {
             if (node.Name->Register != Symbol::NoRegister)
                 return {PlaceKind::Register, node.Name->Register, 0, node.Name};
+            if (IsReachedByPath(node)) return PlaceOfClass(node);
             const ClassTable::Member found = FindMember(node.Name);
-            if (!found.IsFound) return {.Name = Called(node)};
+            const bool isUncertain = !found.IsFound && !node.Flag && MayBeInherited(*node.Name);
+            if (!found.IsFound && !isUncertain) return {.Name = Called(node)};
             return {.Kind = PlaceKind::Member,
                     .Name = node.Name,
                     .Class = found.Class,
-                    .IsWithin = function_.Withs > 0};
+                    .IsWithin = function_.Withs > 0,
+                    .IsUncertain = isUncertain};
         }
         case NodeKind::SlashPath:
             return {.Name = node.Name};
         case NodeKind::Member:
             if (IsAccessorOfBase(node)) return {.Kind = PlaceKind::Accessor, .Name = node.Name};
+            if (IsReachedByPath(node)) return PlaceOfClass(node);
+            if (const Node* owner = ClassWithMember(node))
+                return {.Kind = PlaceKind::Member, .Name = node.Name, .Class = owner};
             if (node.Flag) return {.Kind = PlaceKind::Member, .Name = node.Name, .Class = node.A};
             return {PlaceKind::Member, 0, 0, node.Name, node.A};
         case NodeKind::Index:
@@ -43,6 +49,11 @@ CodeGenerator::Place CodeGenerator::PlaceOf(const Node& told) {
         default:
             return {PlaceKind::Named, 0, 0, nullptr, node.B};
     }
+}
+
+/// A class as what its package or the global object has.
+CodeGenerator::Place CodeGenerator::PlaceOfClass(const Node& path) {
+    return {.Kind = PlaceKind::Member, .Name = path.Name, .Class = &path, .IsClass = true};
 }
 
 /// Dots become slashes: a.b.x is "a/b:x". A property is one of a clip, which its path names.
@@ -130,6 +141,43 @@ void CodeGenerator::PushPlace(const Place& place) {
     }
 }
 
+/// What a call or a construction needs on the stack: an object and the name of its method, or a
+/// function and no name.
+void CodeGenerator::PushCallee(const Place& place) {
+    if (!place.IsUncertain) return PushPlace(place);
+    const Label member = code_->NewLabel({});
+    const Label end = code_->NewLabel({});
+    LoadPlace(place);
+    JumpIfDefined(member);
+    code_->PushText(place.Name);
+    code_->Emit(Opcode::GetVariable);
+    code_->Emit(ItemKind::PushUndefined);
+    code_->Jump(end);
+    code_->Place(member);
+    PushPlace(place);
+    code_->Place(end);
+}
+
+/// The member that the object has, or the variable.
+void CodeGenerator::LoadUncertain(const Place& place) {
+    const Label end = code_->NewLabel({});
+    LoadPlace(place);
+    code_->Emit(Opcode::PushDuplicate);
+    JumpIfDefined(end);
+    code_->Emit(Opcode::Pop);
+    code_->PushText(place.Name);
+    code_->Emit(Opcode::GetVariable);
+    code_->Place(end);
+}
+
+/// Takes a value off the stack, and jumps unless it is undefined.
+void CodeGenerator::JumpIfDefined(Label label) {
+    code_->Emit(ItemKind::PushUndefined);
+    code_->Emit(Opcode::StrictEquals);
+    code_->Emit(Opcode::Not);
+    code_->JumpIf(label);
+}
+
 /// The object that has a member.
 void CodeGenerator::PushObject(const Place& place) {
     if (place.IsWithin)
@@ -142,6 +190,7 @@ void CodeGenerator::PushObject(const Place& place) {
 
 /// The object whose code names a member alone, or the class or package.
 void CodeGenerator::PushOwnObject(const Place& place) {
+    if (place.IsClass) return ClassOwner(*place.Class);
     place.Class != nullptr ? PushClass(*place.Class) : This();
 }
 
@@ -155,10 +204,7 @@ void CodeGenerator::PushObjectWithin(const Place& place) {
         code_->Emit(Opcode::PushDuplicate);
         code_->PushText(place.Name);
         code_->Emit(Opcode::GetMember);
-        code_->Emit(ItemKind::PushUndefined);
-        code_->Emit(Opcode::StrictEquals);
-        code_->Emit(Opcode::Not);
-        code_->JumpIf(found);
+        JumpIfDefined(found);
         code_->Emit(Opcode::Pop);
     }
     PushOwnObject(place);

@@ -112,6 +112,16 @@ constexpr std::string_view CastClasses[] = {
     "TextField",  "TextFormat", "Video",     "XML",           "XMLNode",      "XMLSocket",
 };
 
+/// Those of which no members are told, beside the ones above.
+constexpr std::string_view OtherClasses[] = {"Accessibility", "Boolean", "Function",  "Key",
+                                             "Math",          "Mouse",   "Number",    "Selection",
+                                             "Stage",         "System",  "StyleSheet"};
+
+constexpr std::string_view Globals[] = {"ASSetPropFlags", "Infinity",   "NaN",      "clearInterval",
+                                        "clearTimeout",   "escape",     "flash",    "isFinite",
+                                        "isNaN",          "parseFloat", "parseInt", "setInterval",
+                                        "setTimeout",     "unescape"};
+
 constexpr std::string_view DisplayClasses[] = {"BitmapData"};
 constexpr std::string_view ExternalClasses[] = {"ExternalInterface"};
 constexpr std::string_view FilterClasses[] = {
@@ -151,9 +161,16 @@ Names Split(std::string_view text) {
     return names;
 }
 
-std::unordered_map<std::string_view, KnownClass> MakeClasses() {
-    std::unordered_map<std::string_view, KnownClass> classes;
+using KnownClasses = std::unordered_map<std::string_view, KnownClass>;
+
+KnownClasses MakeClasses() {
+    KnownClasses classes;
     for (const PlayerClass& one : Classes) classes[one.Name] = {one.Base, Split(one.Members)};
+    return classes;
+}
+
+const KnownClasses& AllClasses() {
+    static const KnownClasses classes = MakeClasses();
     return classes;
 }
 
@@ -164,10 +181,20 @@ bool Contains(const List& list, std::string_view name) {
 
 }  // namespace
 
+bool HasPlayerClass(std::string_view className) {
+    if (AllClasses().contains(className) || Contains(CastClasses, className)) return true;
+    const std::size_t dot = className.rfind('.');
+    if (dot == className.npos) return Contains(OtherClasses, className);
+    return Contains(ClassesOfPackage(className.substr(0, dot)), className.substr(dot + 1));
+}
+
+bool HasPlayerGlobal(std::string_view name) {
+    return HasPlayerClass(name) || Contains(Globals, name);
+}
+
 bool HasPlayerMember(std::string_view className, std::string_view member) {
-    static const std::unordered_map<std::string_view, KnownClass> classes = MakeClasses();
-    const auto found = classes.find(className);
-    if (found == classes.end()) return false;
+    const auto found = AllClasses().find(className);
+    if (found == AllClasses().end()) return false;
     const KnownClass& known = found->second;
     return known.Members.contains(member) || HasPlayerMember(known.Base, member);
 }

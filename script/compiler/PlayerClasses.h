@@ -5,6 +5,12 @@
 
 namespace tamber {
 
+/// Whether the player has a class of that whole name.
+bool HasPlayerClass(std::string_view className);
+
+/// Whether a name is that of one of the player's classes, global functions or values.
+bool HasPlayerGlobal(std::string_view name);
+
 /// Whether objects of a class of the player, told by its whole name, have a member: one that its
 /// instances have beside those that a version 4 property number stands for. Those of Object are not
 /// told for the others.

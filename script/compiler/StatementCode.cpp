@@ -5,14 +5,16 @@
 namespace tamber {
 
 CodeGenerator::CodeGenerator(SymbolTable& symbols, Long version, std::uint32_t key,
-                             FaultReport& faults)
+                             ClassTable& classes, FaultReport& faults)
     : symbols_(symbols),
       version_(version),
       key_(key),
       faults_(faults),
       folder_(symbols, version),
       functions_(version >= FirstObjectVersion),
-      main_(version >= FirstObjectVersion) {}
+      classCode_(version >= FirstObjectVersion),
+      main_(version >= FirstObjectVersion),
+      classes_(classes) {}
 
 void CodeGenerator::Generate(const Node& statement) {
     if (statement.Kind == NodeKind::Function && statement.Flag) {
@@ -38,9 +40,10 @@ void CodeGenerator::Statements(const Node* first) {
 }
 
 void CodeGenerator::Statement(const Node& node) {
-    if (code_->IsFull() || symbols_.All().size() > ActionCode::MaxOperand) return TooLong(node);
+    if (IsFull()) return TooLong(node);
     switch (node.Kind) {
         case NodeKind::Empty:
+        case NodeKind::Class:
             return;
         case NodeKind::Expression:
             return Effect(*node.A);
@@ -78,8 +81,6 @@ void CodeGenerator::Statement(const Node& node) {
             return Throw();
         case NodeKind::Function:
             return Function(node);
-        case NodeKind::Class:
-            return Class(node);
         default:
             return Effect(node);
     }
