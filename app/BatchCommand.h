@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <limits>
+#include <memory>
 #include <span>
 #include <string>
 #include <vector>
@@ -19,6 +20,9 @@ struct BatchContext {
     BatchUserInterface& Interface;
     /// Gets what `Print` shows.
     std::function<void(const std::string& text)> Output;
+    /// The key frame that stayed selected when a frame was chosen that no key frame of its row
+    /// covers; null behind a choice of one that is covered.
+    std::shared_ptr<const clsLayerObject> PassedOver = nullptr;
 };
 
 /// A command of a batch.

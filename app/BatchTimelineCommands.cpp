@@ -26,14 +26,33 @@ bool SelectLayers(BatchContext& context, const BatchArguments& arguments) {
     return true;
 }
 
+std::shared_ptr<clsLayerObject> SelectedKeyFrame(const BatchContext& context) {
+    const auto layer = context.Controller.EditLayer();
+    return layer ? layer->SelectObject() : nullptr;
+}
+
+void NoteSelection(BatchContext& context) {
+    const auto selected = SelectedKeyFrame(context);
+    const bool isThere = selected && selected->CheckFrame(context.Controller.SelFrame1);
+    context.PassedOver = isThere ? nullptr : selected;
+}
+
+/// Whether a value would be set where the lines of the batch do not point to.
+bool IsPassedOver(const BatchContext& context) {
+    return context.PassedOver != nullptr && SelectedKeyFrame(context) == context.PassedOver;
+}
+
 bool SelectFrames(BatchContext& context, const BatchArguments& arguments) {
     context.Controller.SelectFrames(ToLong(arguments[0]), ToLong(arguments.back()));
+    NoteSelection(context);
     return true;
 }
 
 bool Jump(BatchContext& context, const BatchArguments& arguments) {
-    if (!IsNumeric(arguments[0])) return context.Controller.mnuJump(arguments[0]);
-    context.Controller.mnuJump(ToLong(arguments[0]));
+    const bool isNumber = IsNumeric(arguments[0]);
+    if (!isNumber && !context.Controller.mnuJump(arguments[0])) return false;
+    if (isNumber) context.Controller.mnuJump(ToLong(arguments[0]));
+    NoteSelection(context);
     return true;
 }
 
@@ -55,18 +74,20 @@ bool AddFolder(BatchContext& context, const BatchArguments& arguments) {
 }
 
 bool Fixed(BatchContext& context, const BatchArguments& arguments) {
+    if (IsPassedOver(context)) return false;
     context.Controller.chkFixed(ToBoolean(arguments[0]));
     return true;
 }
 
 bool Tween(BatchContext& context, const BatchArguments& arguments) {
+    if (IsPassedOver(context)) return false;
     context.Controller.chkTween(ToBoolean(arguments[0]));
     return true;
 }
 
 bool CopyElement(BatchContext& context, const BatchArguments& arguments) {
     const Long index = ToLong(arguments[0]);
-    if (index != 0 && index != 1) return false;
+    if ((index != 0 && index != 1) || IsPassedOver(context)) return false;
     context.Controller.cmdCopyLObject(index);
     return true;
 }
@@ -79,6 +100,7 @@ StringView ValueOf(const BatchArguments& arguments) {
 bool Element(BatchContext& context, const BatchArguments& arguments) {
     const StringView field = arguments[0];
     const StringView value = ValueOf(arguments);
+    if (IsPassedOver(context)) return false;
     if (field == u"StartFrame") return context.Controller.ChangeStartFrame(ToLong(value));
     if (field == u"DispCount") return context.Controller.ChangeDispCount(ToLong(value));
     return context.Controller.ChangeKeyFrame(field, [field, value](clsLayerObject& object) {
@@ -102,7 +124,9 @@ bool ScriptFile(BatchContext& context, const BatchArguments& arguments) {
     const String text = DecodeText(bytes);
     const auto layer = context.Controller.EditLayer();
     if (!layer || !layer->SymbolData()) return false;
-    if (layer->SymbolData()->eType() == KindFrameAction)
+    const bool isFrameAction = layer->SymbolData()->eType() == KindFrameAction;
+    if (isFrameAction && IsPassedOver(context)) return false;
+    if (isFrameAction)
         return context.Controller.ChangeKeyFrame({}, [&text](clsLayerObject& object) {
             return SetKeyFrameField(object, u"Script", text);
         });

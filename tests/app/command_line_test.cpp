@@ -149,11 +149,12 @@ TEST_F(CommandLineTest, batch_edits_a_timeline_with_what_its_lines_tell) {
            "Layer InstanceName box1\nLayer ClippingDepth 1000\n"
            "ChangeSprite 1\nAddToLayer 1\nmnuAddLayer_FrameAction\n"
            "ScriptFile a.as\nElement Comment\nmnuJump nowhere\n"
-           "SelectFrames 4 6\nmnuAddKeyFrame\nPrint\n";
+           "SelectFrames 4 6\nElement Comment lost\nmnuAddKeyFrame\n"
+           "Element Comment four\nPrint\n";
     const Outcome run = Tamber("batch script.txt");
     EXPECT_EQ(run.Code, 1);
     for (const char* line : {"5行目：", "インスタンス名: ・半角", "6行目：", "8行目：",
-                             "循環参照: 「箱」", "14行目："})
+                             "循環参照: 「箱」", "14行目：", "16行目："})
         EXPECT_NE(run.Errors.find(line), std::string::npos) << line << "\n" << run.Errors;
     const auto state = nlohmann::json::parse(run.Output);
     EXPECT_EQ(state["editIndex"], 1);
@@ -163,7 +164,9 @@ TEST_F(CommandLineTest, batch_edits_a_timeline_with_what_its_lines_tell) {
     ASSERT_EQ(rows.size(), 1u);
     ASSERT_EQ(rows[0]["keyFrames"].size(), 2u);
     EXPECT_EQ(rows[0]["keyFrames"][0]["values"]["Script"], "stop();\ntrace(1);\n");
+    EXPECT_EQ(rows[0]["keyFrames"][0]["values"]["Comment"], "");
     EXPECT_EQ(rows[0]["keyFrames"][1]["StartFrame"], 4);
+    EXPECT_EQ(rows[0]["keyFrames"][1]["values"]["Comment"], "four");
 }
 
 TEST_F(CommandLineTest, info_tells_what_the_project_holds) {
