@@ -28,7 +28,33 @@ std::string Script(std::int64_t functions) {
     return text;
 }
 
-/// Functions in thousands, and the movie's version. Bytes a function are told beside the time.
+/// Classes that each extend the one behind, with a static and members of others named alone.
+std::string ClassScript(std::int64_t classes) {
+    std::string text;
+    for (std::int64_t i = 0; i < classes; ++i) {
+        const std::string n = std::to_string(i);
+        const std::string base = std::to_string(i + 1);
+        text += "class a.C" + n + (i + 1 < classes ? " extends a.C" + base : "") +
+                " {\n  static var list" + n + " = new Array(3);\n  var v" + n + " = " + n +
+                ";\n  function m" + n + "(x) {\n    return v" + base + " + m" + base +
+                "(x) + list" + base + ".length + unknown" + n + ";\n  }\n}\n";
+    }
+    return text;
+}
+
+/// Classes, and the movie's version: the time grows with their number only.
+void CompileClasses(benchmark::State& state) {
+    const std::string text = ClassScript(state.range(0));
+    const ActionCompiler compiler(static_cast<Long>(state.range(1)));
+    for (auto _ : state)
+        if (!compiler.Compile(text).IsCompiled()) state.SkipWithError("not compiled");
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+BENCHMARK(CompileClasses)
+    ->ArgsProduct({{1000, 10000, 50000}, {6, 8}})
+    ->Unit(benchmark::kMillisecond);
+
+/// Functions, and the movie's version. Bytes a function are told beside the time.
 void Compile(benchmark::State& state) {
     const std::int64_t functions = state.range(0);
     const std::string text = Script(functions);
