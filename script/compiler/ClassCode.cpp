@@ -19,9 +19,40 @@ constexpr std::size_t ItemsPerHop = 2000;
 void CodeGenerator::GenerateClasses() {
     code_ = &classCode_;
     const std::vector<const ClassNode*> order = classes_.InOrder();
-    for (const ClassNode* definition : order) Class(*definition);
-    for (const ClassNode* definition : order) LateFields(*definition);
+    for (const ClassNode* definition : order)
+        if (!StandsBehindBase(*definition)) Class(*definition);
+    for (const ClassNode* definition : order)
+        if (!StandsBehindBase(*definition) && !UsesVariables(*definition)) LateFields(*definition);
     code_ = &main_;
+}
+
+/// What of a class may need code that stands above it.
+void CodeGenerator::ClassInPlace(const ClassNode& node) {
+    const bool isSetUpHere = StandsBehindBase(node);
+    if (isSetUpHere) Class(node);
+    if (isSetUpHere || UsesVariables(node)) LateFields(node);
+}
+
+/// Whether the script's code may make the class that a class extends.
+bool CodeGenerator::StandsBehindBase(const ClassNode& node) {
+    return classes_.HasUnknownBase(*classes_.At(*node.Name));
+}
+
+/// Whether values of fields name variables of the script.
+bool CodeGenerator::UsesVariables(const ClassNode& node) {
+    std::vector<const Node*> open;
+    for (const MemberNode* member = node.FirstMember; member; member = member->Next)
+        if (member->Kind == MemberKind::Field && IsLate(*member)) open.push_back(member->Value);
+    while (!open.empty()) {
+        const Node& part = *open.back();
+        open.pop_back();
+        if (part.Next != nullptr) open.push_back(part.Next);
+        if (part.Kind == NodeKind::Name && part.Name->IsOwn) return true;
+        if (part.Kind == NodeKind::Name || part.Kind == NodeKind::Function) continue;
+        for (const Node* child : {part.A, part.B, part.C})
+            if (child != nullptr) open.push_back(child);
+    }
+    return false;
 }
 
 /// A class is made once, unless it is there. Its packages are objects of the global one.

@@ -14,7 +14,7 @@ namespace tamber {
 struct Builtin;
 
 /// Makes code of classes and statements. Functions declared at the top go into a code of their own,
-/// which runs first, classes into one that runs behind it.
+/// which runs first, most of the classes into one that runs behind it.
 class CodeGenerator {
 public:
     /// The key tells scripts apart that may run within each other.
@@ -252,6 +252,9 @@ private:
     void ChoosePreloads(FunctionState& state, ActionCode::FunctionRecord& record) const;
     static void Bind(const FunctionNode& function);
     static void Unbind(const FunctionNode& function);
+    void ClassInPlace(const ClassNode& node);
+    bool StandsBehindBase(const ClassNode& node);
+    static bool UsesVariables(const ClassNode& node);
     void Class(const ClassNode& node);
     void Package(const Node& node);
     void ClassPath(const Node& node);

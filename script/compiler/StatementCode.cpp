@@ -43,7 +43,6 @@ void CodeGenerator::Statement(const Node& node) {
     if (IsFull()) return TooLong(node);
     switch (node.Kind) {
         case NodeKind::Empty:
-        case NodeKind::Class:
             return;
         case NodeKind::Expression:
             return Effect(*node.A);
@@ -81,6 +80,8 @@ void CodeGenerator::Statement(const Node& node) {
             return Throw();
         case NodeKind::Function:
             return Function(node);
+        case NodeKind::Class:
+            return ClassInPlace(*node.Class);
         default:
             return Effect(node);
     }

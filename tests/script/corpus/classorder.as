@@ -40,6 +40,16 @@ ball2 = new Ball();
 trace(ball2.id + " " + ball.twin().id + " " + Ball.n + " " + ball.total()); //= 2 3 3 3
 trace((ball instanceof Ball) + typeof Ball); //= truefunction
 
+// What a class takes from the script's code stands above it.
+Old = function(n) { this.n = n; };
+Old.prototype.twice = function() { return this.n * 2; };
+class New extends Old { var m = 1; function New(n) { super(n); } function all() { return n + twice() + m; } }
+class Newer extends New { function Newer() { super(5); } static var one = new Newer(); }
+trace(new New(3).all() + " " + Newer.one.all()); //= 10 16
+var width = 550;
+class Field { static var right = width - 20; static var list = [right, width]; var half = Field.right / 2; }
+trace(Field.list + " " + new Field().half); //= 530,550 265
+
 class lib.Base { var v = 4; var u; function Base() { u = 1; } function m() { return "m" + v; } function plus(n) { return v + n; } }
 score = 50;
 function helper(x) { return "h" + x; }
