@@ -194,6 +194,7 @@ bool Parser::IsClassAhead() {
 
 Node* Parser::ClassStatement() {
     Node* node = Make(NodeKind::Class, token_.At);
+    const std::size_t errors = diagnostics_.Errors().size();
     NeedVersion(6, token_.Text, token_.At);
     if (function_ != nullptr || inClass_) Fail(u"クラスは関数の外に書いて下さい。");
     ClassNode* definition = arena_.Make<ClassNode>();
@@ -224,7 +225,7 @@ Node* Parser::ClassStatement() {
     ClassMembers(*definition);
     inClass_ = false;
     imports_.EndClass();
-    classes_.push_back(definition);
+    if (IsSoundSince(errors)) classes_.push_back(definition);
     return node;
 }
 

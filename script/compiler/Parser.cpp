@@ -34,7 +34,7 @@ Node* Parser::NextStatement() {
         const std::size_t errors = diagnostics_.Errors().size();
         try {
             Node* statement = GuardedStatement();
-            isSound_ = !diagnostics_.IsFull() && diagnostics_.Errors().size() == errors;
+            isSound_ = IsSoundSince(errors);
             if (statement != nullptr) return statement;
         } catch (const HopelessError&) {
             isHopeless_ = true;

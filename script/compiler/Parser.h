@@ -21,7 +21,7 @@ public:
     /// The next statement at the top, or null at the end. After an error it goes on with the next
     /// statement that can be read; after too many it ends.
     Node* NextStatement();
-    /// The classes that were read so far.
+    /// The classes that were read without an error so far.
     const std::vector<const ClassNode*>& Classes() const { return classes_; }
     /// Whether the statement that was given last was read without an error.
     bool IsSound() const { return isSound_; }
@@ -46,6 +46,10 @@ private:
     Token Peek();
     [[noreturn]] void Fail(const String& text);
     void Complain(Spot spot, std::string_view token, String text);
+    /// Whether nothing was wrong since there were so many errors.
+    bool IsSoundSince(std::size_t errors) const {
+        return !diagnostics_.IsFull() && diagnostics_.Errors().size() == errors;
+    }
     void NeedVersion(Long version, std::string_view token, Spot spot);
     Symbol* TakeName(StringView what);
     Symbol* TakeMemberName();

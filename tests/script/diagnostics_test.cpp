@@ -46,6 +46,7 @@ TEST(Diagnostics, NameTheLineAndTheToken) {
         {6, "return 1;", 1, "return"},
         {6, "1 = 2;", 1, "="},
         {6, "eval() = 2;", 1, "="},
+        {6, "class A {\n  function f() { eval() = 2; } }\nclass B extends A { }", 2, "="},
         {6, "delete eval();", 1, "eval"},
         {6, "with (a) { removeMovieClip(); }\nremoveMovieClip();", 2, "removeMovieClip"},
         {6, "with (a) { trace(); }", 1, "trace"},
