@@ -211,14 +211,6 @@ void CodeGenerator::PushObjectWithin(const Place& place) {
     code_->Place(found);
 }
 
-/// The value to be set lies on the stack, and what the method gives comes there.
-void CodeGenerator::CallAccessor(const Place& place, bool isGetter) {
-    Numeric(isGetter ? 0 : 1);
-    Super();
-    code_->PushText(AccessorName(*place.Name, isGetter));
-    code_->Emit(Opcode::CallMethod);
-}
-
 void CodeGenerator::LoadPlace(const Place& place) {
     PushPlace(place);
     Load(place);
