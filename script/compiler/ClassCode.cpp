@@ -1,4 +1,6 @@
+#include "script/compiler/ClassChecker.h"
 #include "script/compiler/CodeGenerator.h"
+#include "script/compiler/DottedPath.h"
 #include "script/compiler/Versions.h"
 
 namespace tamber {
@@ -12,42 +14,32 @@ constexpr std::size_t ItemsPerHop = 2000;
 }  // namespace
 
 void CodeGenerator::GenerateClasses() {
-    code_ = &classCode_;
+    ClassChecker checker(classes_, faults_);
     const std::vector<const ClassNode*> order = classes_.InOrder();
+    for (const ClassNode* definition : order) checker.Check(*definition);
+    for (const ClassNode* definition : order) plans_[definition] = PlanOf(*definition);
+    code_ = &classCode_;
     for (const ClassNode* definition : order)
-        if (!StandsBehindBase(*definition)) Class(*definition);
-    for (const ClassNode* definition : order)
-        if (!StandsBehindBase(*definition) && !UsesVariables(*definition)) LateFields(*definition);
+        if (!plans_[definition].IsInPlace) Class(*definition);
+    for (const ClassNode* definition : classes_.InOrderOfValues())
+        if (!plans_[definition].HasValuesInPlace) LateFields(*definition);
     code_ = &main_;
 }
 
 /// What of a class may need code that stands above it.
 void CodeGenerator::ClassInPlace(const ClassNode& node) {
-    const bool isSetUpHere = StandsBehindBase(node);
-    if (isSetUpHere) Class(node);
-    if (isSetUpHere || UsesVariables(node)) LateFields(node);
+    const ClassPlan plan = plans_[&node];
+    if (plan.IsInPlace) Class(node);
+    if (plan.HasValuesInPlace) LateFields(node);
 }
 
-/// Whether the script's code may make the class that a class extends.
-bool CodeGenerator::StandsBehindBase(const ClassNode& node) {
-    return classes_.HasUnknownBase(*classes_.At(*node.Name));
-}
-
-/// Whether values of fields name variables of the script.
-bool CodeGenerator::UsesVariables(const ClassNode& node) {
-    std::vector<const Node*> open;
-    for (const MemberNode* member = node.FirstMember; member; member = member->Next)
-        if (member->Kind == MemberKind::Field && IsLate(*member)) open.push_back(member->Value);
-    while (!open.empty()) {
-        const Node& part = *open.back();
-        open.pop_back();
-        if (part.Next != nullptr) open.push_back(part.Next);
-        if (part.Kind == NodeKind::Name && part.Name->IsOwn) return true;
-        if (part.Kind == NodeKind::Name || part.Kind == NodeKind::Function) continue;
-        for (const Node* child : {part.A, part.B, part.C})
-            if (child != nullptr) open.push_back(child);
-    }
-    return false;
+/// A base that no class is, but a variable of the script, may be made above.
+CodeGenerator::ClassPlan CodeGenerator::PlanOf(const ClassNode& node) {
+    ClassTable::Record& record = *classes_.At(*node.Name);
+    const Node* base = classes_.UnknownBase(record);
+    const bool isInPlace = base != nullptr && FirstName(*base)->IsOwn;
+    const ValueNeeds needs = NoteLateFields(node, record);
+    return {isInPlace, isInPlace || needs == ValueNeeds::Code, needs != ValueNeeds::Nothing};
 }
 
 /// A class is made once, unless it is there. Its packages are objects of the global one.
@@ -65,8 +57,7 @@ void CodeGenerator::Class(const ClassNode& node) {
     if (node.Base != nullptr) Inherit(node);
     if (node.Interfaces.Count > 0) Implement(node);
     class_ = record;
-    Members(node, skip);
-    HideMembers(node);
+    if (!node.IsInterface) Members(node, skip);
     class_ = nullptr;
     code_->Place(skip.End);
 }
@@ -140,13 +131,26 @@ void CodeGenerator::Inherit(const ClassNode& node) {
     Prototype(*node.Name);
     code_->Emit(Opcode::PushDuplicate);
     Text("__proto__");
-    Expression(*node.Base);
+    PushBase(*node.Base);
     Text("prototype");
     code_->Emit(Opcode::GetMember);
     code_->Emit(Opcode::SetMember);
     Text("__constructor__");
-    Expression(*node.Base);
+    PushBase(*node.Base);
     code_->Emit(Opcode::SetMember);
+}
+
+/// Where names are the same in any case, an object may be called like a class of another script.
+void CodeGenerator::PushBase(const Node& base) {
+    const bool isOfOther = ClassNamed(base) == nullptr && !FirstName(base)->IsOwn;
+    if (!isOfOther) return Expression(base);
+    const Label end = code_->NewLabel({});
+    ClassPath(base);
+    code_->Emit(Opcode::PushDuplicate);
+    JumpIfDefined(end);
+    code_->Emit(Opcode::Pop);
+    Expression(base);
+    code_->Place(end);
 }
 
 /// Before version 7 players know no interfaces.
@@ -161,26 +165,13 @@ void CodeGenerator::Implement(const ClassNode& node) {
 
 /// What functions there are comes before the values, which may call them.
 void CodeGenerator::Members(const ClassNode& node, Skip& skip) {
-    Methods(node, skip);
+    for (const MemberNode* member = node.FirstMember; member; member = member->Next)
+        if (member->Kind == MemberKind::Method) SetMember(node, *member, skip);
     Accessors(node, false, skip);
     Accessors(node, true, skip);
     Fields(node, false, skip);
-    if (!HasLateFields(node)) return;
-    PushMark(node);
-    code_->Emit(ItemKind::PushBoolean, 1);
-    code_->Emit(Opcode::SetMember);
-}
-
-void CodeGenerator::Methods(const ClassNode& node, Skip& skip) {
-    for (const MemberNode* member = node.FirstMember; member; member = member->Next)
-        if (member->Kind == MemberKind::Method) SetMember(node, *member, skip);
-}
-
-void CodeGenerator::Fields(const ClassNode& node, bool isLate, Skip& skip) {
-    for (const MemberNode* member = node.FirstMember; member; member = member->Next)
-        if (member->Kind == MemberKind::Field && member->Value != nullptr &&
-            IsLate(*member) == isLate)
-            SetMember(node, *member, skip);
+    if (plans_[&node].HasLateFields) Mark(node);
+    HideMembers(node);
 }
 
 /// A member of the prototype, or of the class itself.
@@ -190,64 +181,6 @@ void CodeGenerator::SetMember(const ClassNode& node, const MemberNode& member, S
     code_->PushText(member.Name);
     Expression(*member.Value);
     code_->Emit(Opcode::SetMember);
-}
-
-/// Where all classes are there, the values that may need them, of a class that was made just now.
-void CodeGenerator::LateFields(const ClassNode& node) {
-    if (node.IsIntrinsic || !HasLateFields(node)) return;
-    Skip skip{code_->NewLabel(node.At), code_->Items.size()};
-    PushMark(node);
-    code_->Emit(Opcode::GetMember);
-    code_->Emit(Opcode::Not);
-    code_->JumpIf(skip.End);
-    PushMark(node);
-    code_->Emit(Opcode::Delete);
-    code_->Emit(Opcode::Pop);
-    class_ = classes_.At(*node.Name);
-    Fields(node, true, skip);
-    class_ = nullptr;
-    code_->Place(skip.End);
-}
-
-/// The member that a class has until its late fields are set.
-void CodeGenerator::PushMark(const ClassNode& node) {
-    ClassPath(*node.Name);
-    Text("$new");
-}
-
-bool CodeGenerator::HasLateFields(const ClassNode& node) {
-    for (const MemberNode* member = node.FirstMember; member; member = member->Next)
-        if (member->Kind == MemberKind::Field && IsLate(*member)) return true;
-    return false;
-}
-
-bool CodeGenerator::IsLate(const MemberNode& field) {
-    return field.Value != nullptr && !IsPlainValue(*field.Value);
-}
-
-/// Whether a value needs nothing that the script defines.
-bool CodeGenerator::IsPlainValue(const Node& node) {
-    switch (node.Kind) {
-        case NodeKind::Number:
-        case NodeKind::Text:
-        case NodeKind::Boolean:
-        case NodeKind::Null:
-        case NodeKind::Undefined:
-        case NodeKind::Function:
-            return true;
-        case NodeKind::Unary:
-            return IsPlainValue(*node.A);
-        case NodeKind::Array:
-            for (const Node* one = node.A; one != nullptr; one = one->Next)
-                if (!IsPlainValue(*one)) return false;
-            return true;
-        case NodeKind::Object:
-            for (const Node* entry = node.A; entry != nullptr; entry = entry->Next)
-                if (!IsPlainValue(*entry->A)) return false;
-            return true;
-        default:
-            return false;
-    }
 }
 
 /// Where one jump may be too short for a class, it lands between two members and goes on.

@@ -4,6 +4,7 @@
 
 #include "script/compiler/DottedPath.h"
 #include "script/compiler/PlayerClasses.h"
+#include "script/compiler/ValueParts.h"
 
 namespace tamber {
 
@@ -14,14 +15,19 @@ constexpr std::string_view RootClass = "Object";
 }  // namespace
 
 void ClassTable::Define(const ClassNode& definition) {
-    Record& record = records_[DottedPath(*definition.Name)];
+    std::string path = DottedPath(*definition.Name);
+    Record& record = records_[path];
     if (record.Name == nullptr) {
         inText_.push_back(&record);
         firstNames_.insert(FirstName(*definition.Name));
         record.Name = definition.Name;
-        if (definition.Base != nullptr) record.Base = DottedPath(*definition.Base);
+        record.Base = definition.Base;
+        record.IsInterface = definition.IsInterface;
+        record.IsIntrinsic = definition.IsIntrinsic;
+        record.path_ = std::move(path);
+        if (record.Base != nullptr) record.basePath_ = DottedPath(*record.Base);
     }
-    record.definitions_.push_back(&definition);
+    record.Definitions.push_back(&definition);
     for (const MemberNode* member = definition.FirstMember; member; member = member->Next)
         Add(record, *member);
 }
@@ -46,35 +52,43 @@ ClassTable::Record* ClassTable::At(const std::string& path) {
 
 /// What a class needs comes onto the stack above it; met there again, it has all that it needs, or
 /// stands in a circle.
-std::vector<const ClassNode*> ClassTable::InOrder() {
-    for (Record* record : inText_) record->isOrdered_ = record->isOpen_ = false;
+template <class Needs>
+std::vector<const ClassNode*> ClassTable::Ordered(const Needs& needs) {
     std::vector<const ClassNode*> order;
+    std::unordered_set<const Record*> open;
+    std::unordered_set<const Record*> done;
     std::vector<Record*> waiting(inText_.rbegin(), inText_.rend());
+    const auto need = [&](const Node* path) {
+        Record* needed = path == nullptr ? nullptr : At(*path);
+        if (needed != nullptr && !open.contains(needed)) waiting.push_back(needed);
+    };
     while (!waiting.empty()) {
-        Record& record = *waiting.back();
-        if (!record.isOpen_) {
-            record.isOpen_ = true;
-            PushNeeded(record, waiting);
+        const Record& record = *waiting.back();
+        if (open.insert(&record).second) {
+            for (const ClassNode* definition : record.Definitions) needs(*definition, need);
             continue;
         }
         waiting.pop_back();
-        if (std::exchange(record.isOrdered_, true)) continue;
-        order.insert(order.end(), record.definitions_.begin(), record.definitions_.end());
+        if (done.insert(&record).second)
+            order.insert(order.end(), record.Definitions.begin(), record.Definitions.end());
     }
-    for (Record* record : inText_) record->isOpen_ = false;
     return order;
 }
 
-void ClassTable::PushNeeded(const Record& record, std::vector<Record*>& waiting) {
-    const auto need = [&](const Node* name) {
-        Record* needed = name == nullptr ? nullptr : At(*name);
-        if (needed != nullptr && !needed->isOpen_) waiting.push_back(needed);
-    };
-    for (const ClassNode* definition : record.definitions_) {
-        for (const Node* name = definition->Interfaces.First; name != nullptr; name = name->Next)
-            need(name);
-        need(definition->Base);
-    }
+std::vector<const ClassNode*> ClassTable::InOrder() {
+    return Ordered([](const ClassNode& definition, const auto& need) {
+        for (const Node* name = definition.Interfaces.First; name; name = name->Next) need(name);
+        need(definition.Base);
+    });
+}
+
+std::vector<const ClassNode*> ClassTable::InOrderOfValues() {
+    return Ordered([](const ClassNode& definition, const auto& need) {
+        for (const MemberNode* member = definition.FirstMember; member; member = member->Next)
+            if (member->Kind == MemberKind::Field && member->Value != nullptr)
+                ForEachPart(*member->Value, [&](const Node& part) { need(&part); });
+        need(definition.Base);
+    });
 }
 
 /// Each answer is kept for the class and for its base, which has other classes ask the same.
@@ -90,13 +104,20 @@ ClassTable::Member ClassTable::Find(Record& record, const Symbol& name) {
 
 ClassTable::Member ClassTable::FindAbove(Record& record, const Symbol& name) {
     Settle(record);
-    return record.base_ == nullptr ? OfPlayer(record.Base, name) : Find(*record.base_, name);
+    return record.base_ == nullptr ? OfPlayer(record.basePath_, name) : Find(*record.base_, name);
 }
 
-bool ClassTable::HasUnknownBase(Record& record) {
+const Node* ClassTable::UnknownBase(Record& record) {
     Settle(record);
-    const std::string& base = record.root_->Base;
-    return !base.empty() && At(base) == nullptr && !HasPlayerClass(base);
+    const Record& root = *record.root_;
+    const bool isKnown =
+        root.Base == nullptr || At(root.basePath_) != nullptr || HasPlayerClass(root.basePath_);
+    return isKnown ? nullptr : root.Base;
+}
+
+bool ClassTable::IsCut(Record& record) {
+    Settle(record);
+    return record.isCut_;
 }
 
 /// What the class itself has, or was found for it before; null for nothing yet.
@@ -109,8 +130,10 @@ const ClassTable::Member* ClassTable::Known(const Record& record, const Symbol& 
 
 ClassTable::Member ClassTable::Search(Record& record, const Symbol& name) {
     const Record* declarer = Declarer(record, name);
-    if (declarer == nullptr) return OfPlayer(record.root_->Base, name);
-    return declarer->members_.at(&name);
+    if (declarer != nullptr) return declarer->members_.at(&name);
+    const Record& root = *record.root_;
+    const Member found = root.IsIntrinsic ? OfPlayer(root.path_, name) : Member();
+    return found.IsFound ? found : OfPlayer(root.basePath_, name);
 }
 
 /// The nearest class above that has a member of its own; null for none. As many as have one are
@@ -133,10 +156,10 @@ ClassTable::Record* ClassTable::Declarer(Record& record, const Symbol& name) {
     return nearest;
 }
 
-ClassTable::Member ClassTable::OfPlayer(const std::string& base, const Symbol& name) {
-    const bool isProperty = name.Property != Symbol::NoProperty && IsOnStage(base);
+ClassTable::Member ClassTable::OfPlayer(const std::string& path, const Symbol& name) {
+    const bool isProperty = name.Property != Symbol::NoProperty && IsOnStage(path);
     const bool isFound =
-        isProperty || HasPlayerMember(base, name.Text) || HasPlayerMember(RootClass, name.Text);
+        isProperty || HasPlayerMember(path, name.Text) || HasPlayerMember(RootClass, name.Text);
     return {.IsFound = isFound, .IsOfPlayer = isFound};
 }
 
@@ -151,7 +174,8 @@ void ClassTable::Settle(Record& record) {
     }
     for (; !open.empty(); open.pop_back()) {
         Record* base = BaseOf(*open.back());
-        SettleBelow(*open.back(), base != nullptr && base->isOpen_ ? nullptr : base);
+        open.back()->isCut_ = base != nullptr && base->isOpen_;
+        SettleBelow(*open.back(), open.back()->isCut_ ? nullptr : base);
         open.back()->isOpen_ = false;
     }
 }

@@ -27,14 +27,19 @@ public:
     class Record {
     public:
         const Node* Name = nullptr;
-        /// Path of the base class; empty for none.
-        std::string Base;
+        /// The class that it extends, or null.
+        const Node* Base = nullptr;
+        bool IsInterface = false;
+        bool IsIntrinsic = false;
+        /// More than one when the script has it again.
+        std::vector<const ClassNode*> Definitions;
 
     private:
         friend class ClassTable;
 
-        /// More than one when the script has it again.
-        std::vector<const ClassNode*> definitions_;
+        std::string path_;
+        /// Path of the base class; empty for none.
+        std::string basePath_;
         /// Its own members.
         std::unordered_map<const Symbol*, Member> members_;
         /// What has been found for other names.
@@ -43,6 +48,7 @@ public:
         // Its place in the tree of classes, once it is settled.
         bool isSettled_ = false;
         bool isOpen_ = false;
+        bool isCut_ = false;
         /// Classes above it in the script.
         std::uint32_t depth_ = 0;
         Record* base_ = nullptr;
@@ -50,9 +56,6 @@ public:
         /// One further up, so that any is reached in steps that grow with the logarithm of the
         /// depth.
         Record* jump_ = nullptr;
-
-        /// Whether it stands in an order that is being made.
-        bool isOrdered_ = false;
     };
 
     /// Adds what a definition says to what is known of its class.
@@ -62,13 +65,17 @@ public:
     Record* At(const Node& path);
     /// Each class behind those that it extends or implements, and otherwise as they were defined.
     std::vector<const ClassNode*> InOrder();
+    /// Each class behind those that it extends or that values of its fields name.
+    std::vector<const ClassNode*> InOrderOfValues();
     /// The member that a name means among those of a class and of all that it extends.
     Member Find(Record& record, const Symbol& name);
     /// The same among those of what the class extends.
     Member FindAbove(Record& record, const Symbol& name);
-    /// Whether a class extends one of which neither the script nor the player tells, so that it may
-    /// have members of any name.
-    bool HasUnknownBase(Record& record);
+    /// What a class or one above it extends, when neither the script nor the player tells of it, so
+    /// that the class may have members of any name; null otherwise.
+    const Node* UnknownBase(Record& record);
+    /// Whether a class extends itself, be it over others, and is where the circle was cut.
+    bool IsCut(Record& record);
 
 private:
     Record* At(const std::string& path);
@@ -76,11 +83,12 @@ private:
     const Member* Known(const Record& record, const Symbol& name) const;
     Member Search(Record& record, const Symbol& name);
     Record* Declarer(Record& record, const Symbol& name);
-    static Member OfPlayer(const std::string& base, const Symbol& name);
-    void PushNeeded(const Record& record, std::vector<Record*>& waiting);
+    static Member OfPlayer(const std::string& path, const Symbol& name);
+    template <class Needs>
+    std::vector<const ClassNode*> Ordered(const Needs& needs);
     void Settle(Record& record);
     static void SettleBelow(Record& record, Record* base);
-    Record* BaseOf(const Record& record) { return At(record.Base); }
+    Record* BaseOf(const Record& record) { return At(record.basePath_); }
     static Record* Above(Record& record, std::uint32_t depth);
 
     std::unordered_map<std::string, Record> records_;

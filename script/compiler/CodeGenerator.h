@@ -2,6 +2,8 @@
 
 #include <array>
 #include <string>
+#include <unordered_map>
+#include <unordered_set>
 
 #include "script/compiler/ActionCode.h"
 #include "script/compiler/ClassTable.h"
@@ -83,6 +85,17 @@ private:
         bool IsWithin = false;
         /// Whether it is a variable's name when the object has no such member.
         bool IsUncertain = false;
+    };
+
+    /// What must be there before the value of a field is worked out: nothing that the player does
+    /// not have, all classes, or what code stands above the class.
+    enum class ValueNeeds : Byte { Nothing, Classes, Code };
+    /// Where a class is set up: it, and those of its fields that are late, where it stands, or with
+    /// all others before the script's code.
+    struct ClassPlan {
+        bool IsInPlace = false;
+        bool HasValuesInPlace = false;
+        bool HasLateFields = false;
     };
 
     /// The jump that passes over the code of a class: where it leads, and the size of the code when
@@ -185,8 +198,8 @@ private:
     Place PlaceOfVersion4(const Node& node);
     void PushPlace(const Place& place);
     void PushCallee(const Place& place);
-    void LoadUncertain(const Place& place);
     void JumpIfDefined(Label label);
+    void LoadVariableIfUndefined(Symbol& name);
     void PushObject(const Place& place);
     void PushObjectWithin(const Place& place);
     void PushOwnObject(const Place& place);
@@ -253,8 +266,7 @@ private:
     static void Bind(const FunctionNode& function);
     static void Unbind(const FunctionNode& function);
     void ClassInPlace(const ClassNode& node);
-    bool StandsBehindBase(const ClassNode& node);
-    static bool UsesVariables(const ClassNode& node);
+    ClassPlan PlanOf(const ClassNode& node);
     void Class(const ClassNode& node);
     void Package(const Node& node);
     void ClassPath(const Node& node);
@@ -262,15 +274,16 @@ private:
     void Prototype(const Node& name);
     void Constructor(const ClassNode& node);
     void Inherit(const ClassNode& node);
+    void PushBase(const Node& base);
     void Implement(const ClassNode& node);
     void Members(const ClassNode& node, Skip& skip);
-    void Methods(const ClassNode& node, Skip& skip);
-    void Fields(const ClassNode& node, bool isLate, Skip& skip);
-    void LateFields(const ClassNode& node);
-    static bool HasLateFields(const ClassNode& node);
-    static bool IsLate(const MemberNode& field);
-    static bool IsPlainValue(const Node& node);
     void SetMember(const ClassNode& node, const MemberNode& member, Skip& skip);
+    ValueNeeds NoteLateFields(const ClassNode& node, ClassTable::Record& record);
+    ValueNeeds NeedsOf(const Node& value, ClassTable::Record& record);
+    ValueNeeds NeedsOfName(const Symbol& name, ClassTable::Record& record);
+    void Fields(const ClassNode& node, bool areLate, Skip& skip);
+    void LateFields(const ClassNode& node);
+    void Mark(const ClassNode& node);
     void PushMark(const ClassNode& node);
     void Hop(Skip& skip, Spot spot);
     void Accessors(const ClassNode& node, bool isStatic, Skip& skip);
@@ -286,6 +299,8 @@ private:
     // What names mean in and of classes.
     bool Cast(const Node& node);
     ClassTable::Member FindMember(const Symbol* name);
+    void CheckStatic(const Node& name, const ClassTable::Member& found);
+    bool IsInFieldValue() const { return class_ != nullptr && function_.Node == nullptr; }
     bool MayBeInherited(const Symbol& name);
     ClassTable::Record* ClassNamed(const Node& path);
     const Node* ClassWithMember(const Node& member);
@@ -323,6 +338,8 @@ private:
     std::vector<ActionCode::Parameter> parameters_;
     ClassTable& classes_;
     ClassTable::Record* class_ = nullptr;
+    std::unordered_map<const ClassNode*, ClassPlan> plans_;
+    std::unordered_set<const MemberNode*> lateFields_;
     int depth_ = 0;
     /// Assignments and increments in each other.
     int changes_ = 0;

@@ -217,11 +217,13 @@ Node* Parser::ClassStatement() {
             definition->Base = ClassReference();
     }
     if (IsSpecial(SpecialName::Implements)) {
+        if (definition->IsInterface) Fail(u"インターフェイスは extends で継承して下さい。");
         Advance();
         Interfaces(*definition);
     }
     Expect(TokenKind::OpenBrace, u"{");
     inClass_ = true;
+    members_.clear();
     ClassMembers(*definition);
     inClass_ = false;
     imports_.EndClass();
@@ -289,6 +291,8 @@ void Parser::ClassMember(ClassNode& node) {
         Advance();
     }
     if (Accept(TokenKind::Semicolon)) return;
+    if (node.IsInterface && !Is(TokenKind::Function))
+        Fail(u"インターフェイスのメンバーは function です。");
     if (Is(TokenKind::Var)) return Field(node, isStatic);
     if (Is(TokenKind::Function)) return Method(node, isStatic);
     Fail(u"クラスのメンバーは var または function です。");
@@ -302,7 +306,10 @@ void Parser::Field(ClassNode& node, bool isStatic) {
         member.At = token_.At;
         member.Name = TakeName(u"変数名");
         SkipType();
-        if (Accept(TokenKind::Assign)) member.Value = Assignment();
+        if (Accept(TokenKind::Assign)) {
+            isMethodNext_ = !isStatic && Is(TokenKind::Function);
+            member.Value = Assignment();
+        }
         AddMember(node, member);
     } while (Is(TokenKind::Comma));
     EndStatement();
@@ -323,21 +330,29 @@ void Parser::Method(ClassNode& node, bool isStatic) {
     const bool isConstructor =
         member.Kind == MemberKind::Method && !isStatic && member.Name == node.Name->Name;
     if (node.IsInterface || node.IsIntrinsic) {
-        Signature();
-        if (node.IsIntrinsic && !isConstructor) AddMember(node, member);
+        CheckAccessor(member, Signature());
+        if (!isConstructor) AddMember(node, member);
         return EndStatement();
     }
     isMethodNext_ = !isStatic;
     isDerivedNext_ = isConstructor && node.Base != nullptr;
     member.Value = FunctionRest(nullptr, member.At);
+    CheckAccessor(member, member.Value->Function->ParameterCount);
     if (!isConstructor) return AddMember(node, member);
     if (node.Constructor != nullptr)
         Complain(member.At, member.Name->Text, u"コンストラクタは一つだけです。");
     node.Constructor = member.Value;
 }
 
-/// The parameters and the type of a function that has no body.
-void Parser::Signature() {
+void Parser::CheckAccessor(const MemberNode& member, std::uint32_t parameters) {
+    if (member.Kind == MemberKind::Getter && parameters != 0)
+        Complain(member.At, member.Name->Text, u"get の関数に引数は書けません。");
+    if (member.Kind == MemberKind::Setter && parameters != 1)
+        Complain(member.At, member.Name->Text, u"set の関数には引数が一つ必要です。");
+}
+
+/// The parameters and the type of a function that has no body; gives the number of parameters.
+std::uint32_t Parser::Signature() {
     FunctionNode signature;
     signature.Number = ++functionCount_;
     signature.Depth = 1;
@@ -346,9 +361,20 @@ void Parser::Signature() {
     SkipType();
     function_ = outer;
     CloseFunction(signature, uses_.size());
+    return signature.ParameterCount;
 }
 
+/// A name stands for one member, or for what gets and what sets one.
 void Parser::AddMember(ClassNode& node, const MemberNode& member) {
+    constexpr unsigned Gets = 1;
+    constexpr unsigned Sets = 2;
+    const unsigned roles = member.Kind == MemberKind::Getter   ? Gets
+                           : member.Kind == MemberKind::Setter ? Sets
+                                                               : Gets | Sets;
+    unsigned& taken = members_[member.Name];
+    if ((taken & roles) != 0)
+        Complain(member.At, member.Name->Text, u"同じ名前のメンバーがあります。");
+    taken |= roles;
     MemberNode* kept = arena_.Make<MemberNode>(member);
     (node.FirstMember == nullptr ? node.FirstMember : node.LastMember->Next) = kept;
     node.LastMember = kept;

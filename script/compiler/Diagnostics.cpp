@@ -30,7 +30,14 @@ void MergeLists(std::vector<Diagnostic>& list, const std::vector<Diagnostic>& ot
     if (list.size() > limit) list.resize(limit);
 }
 
-/// One line without single quotes, which enclose a token.
+String Place(const Diagnostic& diagnostic, Long version) {
+    String text = ToText(diagnostic.Line) + u"行目";
+    if (!diagnostic.Token.empty()) text += u" [" + TokenText(diagnostic.Token, version) + u"]";
+    return text + u" " + diagnostic.Text;
+}
+
+}  // namespace
+
 String TokenText(const std::string& token, Long version) {
     const ByteView bytes(reinterpret_cast<const Byte*>(token.data()), token.size());
     String text = version >= FirstUtf8Version ? DecodeUtf8(bytes) : DecodeAnsi(bytes);
@@ -41,14 +48,6 @@ String TokenText(const std::string& token, Long version) {
     }
     return text;
 }
-
-String Place(const Diagnostic& diagnostic, Long version) {
-    String text = ToText(diagnostic.Line) + u"行目";
-    if (!diagnostic.Token.empty()) text += u" [" + TokenText(diagnostic.Token, version) + u"]";
-    return text + u" " + diagnostic.Text;
-}
-
-}  // namespace
 
 void Diagnostics::Error(Spot spot, std::string_view token, String text) {
     if (!IsFull()) errors_.push_back(Made(spot, token, std::move(text)));

@@ -29,6 +29,10 @@ private:
     std::vector<Diagnostic> warnings_;
 };
 
+/// A token of the source as a message shows it: one line, not too long, without single quotes,
+/// which enclose a token.
+String TokenText(const std::string& token, Long version);
+
 /// The text of a failed run, in code page 932, lines ended by LF: "Error: " and the first error's
 /// text, a line for each further error, "Line N: 'token'" for the first, then, when there are
 /// warnings, "Warning: " and the first, and a line for each other.

@@ -133,7 +133,7 @@ void CodeGenerator::Name(const Node& node) {
     const Place place = PlaceOf(node);
     if (number != Symbol::NoRegister && place.Kind == PlaceKind::Variable)
         return code_->PushRegister(number);
-    place.IsUncertain ? LoadUncertain(place) : LoadPlace(place);
+    LoadPlace(place);
 }
 
 void CodeGenerator::This() {

@@ -14,9 +14,12 @@ public:
 
     void Error(Spot spot, String text);
     void Warn(Spot spot, String text);
+    /// A name of the source as messages show it.
+    String Shown(std::string_view name) const { return TokenText(std::string(name), version_); }
     const Diagnostics& Found() const { return found_; }
 
 private:
+    bool IsTold(Spot spot, const String& text) const;
     std::string_view TokenAt(Spot spot) const;
 
     std::string_view source_;

@@ -35,14 +35,21 @@ ClassTable::Member CodeGenerator::FindMember(const Symbol* name) {
     return found.IsOfPlayer && !isForOne ? ClassTable::Member() : found;
 }
 
+/// There is no object whose member a static function could mean.
+void CodeGenerator::CheckStatic(const Node& name, const ClassTable::Member& found) {
+    const bool isStatic = function_.Node != nullptr && !function_.Node->IsMethod;
+    if (isStatic && found.Class == nullptr && !found.IsOfPlayer)
+        Complain(name, u"static の関数の中では使用できません。インスタンスのメンバーです。");
+}
+
 /// Whether an object of the class may have a member of the name from a class that the script does
 /// not tell of, and no variable of the script is meant.
 bool CodeGenerator::MayBeInherited(const Symbol& name) {
     const bool isForOne = function_.Node != nullptr && function_.Node->IsMethod;
     if (class_ == nullptr || !isForOne || name.Declarations > 0 || name.IsOwn) return false;
-    const bool isGlobal = name.Special != SpecialName::None || name.Text.starts_with("_level") ||
-                          HasPlayerGlobal(name.Text);
-    return !isGlobal && classes_.HasUnknownBase(*class_);
+    const bool isMember = name.Special == SpecialName::None || name.Special == SpecialName::Parent;
+    const bool isGlobal = name.Text.starts_with("_level") || HasPlayerGlobal(name.Text);
+    return isMember && !isGlobal && classes_.UnknownBase(*class_) != nullptr;
 }
 
 /// The class of the script that a path names here; null when it names something else.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <unordered_map>
+
 #include "script/compiler/ConstantFolder.h"
 #include "script/compiler/Imports.h"
 #include "script/compiler/Lexer.h"
@@ -109,6 +111,7 @@ private:
     // Expressions.
     Node* Expression();
     Node* Assignment();
+    void NoteAssignment(const Node& target);
     Node* ConditionalRest(Node* condition);
     Node* BinaryChain(int lowest);
     Node* Unary();
@@ -160,7 +163,8 @@ private:
     bool IsModifier() const;
     void Field(ClassNode& node, bool isStatic);
     void Method(ClassNode& node, bool isStatic);
-    void Signature();
+    std::uint32_t Signature();
+    void CheckAccessor(const MemberNode& member, std::uint32_t parameters);
     void AddMember(ClassNode& node, const MemberNode& member);
     bool IsClassAhead();
 
@@ -210,6 +214,8 @@ private:
     std::vector<Use> uses_;
     Imports imports_;
     std::vector<const ClassNode*> classes_;
+    /// What the names of the class that is read are taken for.
+    std::unordered_map<const Symbol*, unsigned> members_;
 };
 
 }  // namespace tamber

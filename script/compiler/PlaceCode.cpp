@@ -27,6 +27,7 @@ CodeGenerator::Place CodeGenerator::PlaceOf(const Node& told) {
                 return {PlaceKind::Register, node.Name->Register, 0, node.Name};
             if (IsReachedByPath(node)) return PlaceOfClass(node);
             const ClassTable::Member found = FindMember(node.Name);
+            if (found.IsFound) CheckStatic(node, found);
             const bool isUncertain = !found.IsFound && !node.Flag && MayBeInherited(*node.Name);
             if (!found.IsFound && !isUncertain) return {.Name = Called(node)};
             return {.Kind = PlaceKind::Member,
@@ -147,7 +148,8 @@ void CodeGenerator::PushCallee(const Place& place) {
     if (!place.IsUncertain) return PushPlace(place);
     const Label member = code_->NewLabel({});
     const Label end = code_->NewLabel({});
-    LoadPlace(place);
+    PushPlace(place);
+    code_->Emit(Opcode::GetMember);
     JumpIfDefined(member);
     code_->PushText(place.Name);
     code_->Emit(Opcode::GetVariable);
@@ -155,18 +157,6 @@ void CodeGenerator::PushCallee(const Place& place) {
     code_->Jump(end);
     code_->Place(member);
     PushPlace(place);
-    code_->Place(end);
-}
-
-/// The member that the object has, or the variable.
-void CodeGenerator::LoadUncertain(const Place& place) {
-    const Label end = code_->NewLabel({});
-    LoadPlace(place);
-    code_->Emit(Opcode::PushDuplicate);
-    JumpIfDefined(end);
-    code_->Emit(Opcode::Pop);
-    code_->PushText(place.Name);
-    code_->Emit(Opcode::GetVariable);
     code_->Place(end);
 }
 
@@ -191,6 +181,7 @@ void CodeGenerator::PushObject(const Place& place) {
 /// The object whose code names a member alone, or the class or package.
 void CodeGenerator::PushOwnObject(const Place& place) {
     if (place.IsClass) return ClassOwner(*place.Class);
+    if (place.Class == nullptr && IsInFieldValue()) return Prototype(*class_->Name);
     place.Class != nullptr ? PushClass(*place.Class) : This();
 }
 
@@ -226,10 +217,23 @@ void CodeGenerator::Load(const Place& place) {
             return CallAccessor(place, true);
         case PlaceKind::Member:
         case PlaceKind::Index:
-            return code_->Emit(Opcode::GetMember);
+            code_->Emit(Opcode::GetMember);
+            if (place.IsUncertain) LoadVariableIfUndefined(*place.Name);
+            return;
         default:
             return code_->Emit(Opcode::GetVariable);
     }
+}
+
+/// The value on the stack, or instead of none that of the variable.
+void CodeGenerator::LoadVariableIfUndefined(Symbol& name) {
+    const Label end = code_->NewLabel({});
+    code_->Emit(Opcode::PushDuplicate);
+    JumpIfDefined(end);
+    code_->Emit(Opcode::Pop);
+    code_->PushText(&name);
+    code_->Emit(Opcode::GetVariable);
+    code_->Place(end);
 }
 
 void CodeGenerator::Store(const Place& place) {

@@ -59,7 +59,7 @@ interface One { function one(); }
 interface Two { function two(); }
 interface Three { function three(); }
 interface All extends One, Two, Three { function all(); }
-class Does implements All { function one() { return 1; } }
+class Does implements All { function one() { return 1; } function two() { } function three() { } function all() { } }
 does = new Does();
 trace(does.one());           //= 1
 trace(does instanceof All);  //=6-6 false

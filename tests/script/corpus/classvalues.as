@@ -1,0 +1,50 @@
+// versions: 6-8
+// Values of fields: when they are worked out, and what their names mean.
+class Bag { var list = new Array(); var own; function Bag() { own = 1; } }
+names = "";
+for (k in new Bag()) names += k + " ";
+trace(names);                              //= own 
+trace(Half.v + " " + Last.x);              //= 180 13
+class Half { static var v = Full.v * 90; }
+class Full { static var v = Math.max(1, 2); }
+class Last { static var x = Mid.q + 1; }
+class Mid { static var n = 4; static var q = n * 3; }
+class App { static var store = new Store(); }
+class Store { var items = new Array(); function Store() { items.push("a"); } }
+trace(App.store.items.length);             //= 1
+trace(Area.total + " " + Area.options.w);  //= 12 4
+class Area { static var size = 4; static var total = Area.size * 3; static var options = { w: size }; var w = 3; var double = w * 2; }
+size = 10;
+trace(new Area().double);                  //= 6
+var names2 = "";
+class Seen { static var at = list(); static function list() { var s = ""; for (var k in Bag) s += k; return s; } }
+trace("[" + Seen.at + "]");                //= []
+
+intrinsic dynamic class MovieClip { var _x:Number; function play():Void; }
+class Mover extends MovieClip { var go = function() { _x = 33; }; function up() { _y = 4; return this._y; } }
+Object.registerClass("Sym", Mover);
+m = attachMovie("Sym", "mover", 1);
+m.go();
+trace(m.up() + " " + m._x + " " + _x + _y); //= 4 33 00
+
+class far.Base extends MovieClip { var a = "a"; var n = 4; }
+class Enemy { var hp = 2; }
+enemy = new Enemy();
+score = 50;
+//@ frame 2
+b = new far.Second();
+trace(b.f());                              //= CBa
+class far.Second extends far.First { function f() { return "C" + super.f(); } }
+class far.First extends far.Base { function f() { return "B" + a; } }
+class far.Sum extends far.Base {
+  function grow() { n += 10; n++; return n; }
+  function total() { return score + n; }
+  function above() { _parent.tag = 4; return _parent._name; }
+}
+Object.registerClass("Sym", far.Sum);
+createEmptyMovieClip("holder", 7);
+var inner = holder.attachMovie("Sym", "inner", 1);
+trace(inner.grow() + " " + inner.total()); //= 15 65
+trace(inner.above() + holder.tag);         //= holder4
+class Imp extends Enemy { function go() { return hp; } }
+trace(new Imp().go());                     //= 2
