@@ -17,6 +17,7 @@
 #include "platform/UserInterface.h"
 #include "platform/paths.h"
 #include "platform/text.h"
+#include "platform/twips.h"
 #include "swf/TextDefinition.h"
 #include "swf/mdlSWFAuthoring.h"
 
@@ -41,8 +42,7 @@ Single FrameRateOf(StringView text) {
 
 /// Sizes beyond the range give its ends.
 Long ToTwips(Long pixels) {
-    constexpr std::int64_t TwipsPerPixel = 20;
-    return static_cast<Long>(std::clamp<std::int64_t>(pixels * TwipsPerPixel,
+    return static_cast<Long>(std::clamp<std::int64_t>(std::int64_t{TwipsPerPixel} * pixels,
                                                       std::numeric_limits<Long>::min(),
                                                       std::numeric_limits<Long>::max()));
 }

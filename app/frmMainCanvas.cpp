@@ -7,6 +7,7 @@
 #include "document/clsSymbolData.h"
 #include "platform/files.h"
 #include "platform/paths.h"
+#include "platform/twips.h"
 #include "swf/TextDefinition.h"
 
 // What the canvas shows: a small movie of one frame.
@@ -17,7 +18,6 @@ namespace {
 
 constexpr StringView SnapshotName = u"_edit.swf";
 constexpr Long White = 0xFFFFFF;
-constexpr double TwipsPerPixel = 20;
 
 }  // namespace
 
@@ -32,8 +32,8 @@ Long frmMain::CanvasHeight() const {
 }
 
 void frmMain::SetCanvasSize() {
-    snapshot_.SetDimension(0, mdlSWFTag::ToField(CanvasWidth() * TwipsPerPixel), 0,
-                           mdlSWFTag::ToField(CanvasHeight() * TwipsPerPixel), 0);
+    snapshot_.SetDimension(0, mdlSWFTag::ToField(CanvasWidth() * double{TwipsPerPixel}), 0,
+                           mdlSWFTag::ToField(CanvasHeight() * double{TwipsPerPixel}), 0);
     view_->SetCanvasSize(CanvasWidth(), CanvasHeight());
 }
 

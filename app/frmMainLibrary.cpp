@@ -13,6 +13,7 @@
 #include "document/clsPropertyButton.h"
 #include "document/clsPropertyClass.h"
 #include "document/clsPropertyKoma.h"
+#include "document/clsPropertyLinkSymbol.h"
 #include "document/clsPropertyMovieEmp.h"
 #include "document/clsPropertySprite.h"
 #include "document/clsPropertySymbolFolder.h"
@@ -170,7 +171,13 @@ bool frmMain::mnuAddSymbolItem_MovieEmp(const EditSymbolData& edit) {
 }
 
 bool frmMain::mnuAddSymbolItem_Link(const EditSymbolData& edit) {
-    return AddNewSymbol(NewSymbol(KindLink, u""), edit);
+    return AddNewSymbol(NewSymbol(KindLink, u""), [&](clsSymbolData& symbol) {
+        if (!edit(symbol)) return false;
+        auto& link = *symbol.Property<clsPropertyLinkSymbol>();
+        const bool isBare = !link.SymbolName.starts_with(ClassExportPrefix);
+        if (link.eTypeEx() == KindClass && isBare) link.SymbolName.insert(0, ClassExportPrefix);
+        return true;
+    });
 }
 
 bool frmMain::mnuAddSymbolItem_Class(const EditSymbolData& edit) {

@@ -10,15 +10,13 @@ namespace tamber {
 
 namespace {
 
-constexpr StringView PackagePrefix = u"__Packages.";
-
 /// Empty for a symbol that is no class.
 StringView ClassNameOf(const clsSymbolData& symbol) {
     if (const auto* record = symbol.Property<clsPropertyClass>()) return record->className;
     const auto* link = symbol.Property<clsPropertyLinkSymbol>();
     if (link == nullptr || link->eTypeEx() != KindClass) return {};
     StringView name = link->SymbolName;
-    if (name.starts_with(PackagePrefix)) name.remove_prefix(PackagePrefix.size());
+    if (name.starts_with(ClassExportPrefix)) name.remove_prefix(ClassExportPrefix.size());
     return name;
 }
 

@@ -7,6 +7,9 @@
 
 namespace tamber {
 
+/// Begins the name by which a class is exported and imported, before the class's own.
+inline constexpr StringView ClassExportPrefix = u"__Packages.";
+
 /// Names that a class can extend, and that its own must differ from: "MovieClip", then the other
 /// classes of the library and those that its links bring from other movies.
 std::vector<String> OtherClassNames(const Collection<clsSymbolData>& library,

@@ -1,6 +1,7 @@
 #include "document/clsPropertyVector.h"
 
 #include "document/clsSymbolData.h"
+#include "platform/twips.h"
 #include "swf/mdlSWFTag.h"
 #include "vector/MorphCheck.h"
 #include "vector/ShapeFlattening.h"
@@ -10,7 +11,6 @@ namespace tamber {
 namespace {
 /// Lines have caps, joins and flags from this version of the movie on.
 constexpr Long LineOptionVersion = 8;
-constexpr Long TwipsPerPixel = 20;
 }  // namespace
 
 void clsPropertyVector::Load(clsCSV& csv) {

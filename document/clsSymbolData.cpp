@@ -1,5 +1,6 @@
 #include "document/clsSymbolData.h"
 
+#include "document/ClassNames.h"
 #include "document/ProjectFileVersion.h"
 #include "document/clsPropertyButton.h"
 #include "document/clsPropertyClass.h"
@@ -132,7 +133,7 @@ String clsSymbolData::Value() const {
 String clsSymbolData::ExportName() const {
     if (!ObjectName.empty()) return ObjectName;
     if (const auto* record = Property<clsPropertyClass>())
-        return u"__Packages." + record->className;
+        return String(ClassExportPrefix) + record->className;
     return Value();
 }
 

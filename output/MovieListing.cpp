@@ -5,6 +5,7 @@
 #include "platform/text.h"
 #include "script/compiler/ActionDisassembler.h"
 #include "swf/mdlZlib.h"
+#include "swf/tags/SwfEventActions.h"
 #include "swf/tags/TagCodes.h"
 
 namespace tamber {
@@ -16,7 +17,6 @@ constexpr std::size_t MaxInflated = std::size_t{256} << 20;
 constexpr std::uint32_t LongLength = 63;
 /// Sprites stand in no other sprite; a file may say so all the same.
 constexpr std::size_t MaxDepth = 8;
-constexpr Long FirstWideEventVersion = 6;
 
 enum PlaceFlag : std::uint32_t {
     HasCharacter = 2,
@@ -35,8 +35,6 @@ enum PlaceFlag3 : std::uint32_t {
     HasCache = 4,
     HasClassName = 8
 };
-
-constexpr std::uint32_t KeyPressEvent = 0x20000;
 
 struct TagName {
     Long Code;
@@ -251,14 +249,14 @@ void MovieListing::ListClip(ByteView body, bool hasMoreFlags, std::size_t depth)
 
 /// Events that the clip has, then for each its flags, a length and actions; zero flags end it.
 void MovieListing::ListClipEvents(MovieBits& bits, std::size_t depth) {
-    const bool isWide = version_ >= FirstWideEventVersion;
+    const bool isWide = version_ >= WideEventVersion;
     const auto flags = [&] { return isWide ? bits.U32() : bits.U16(); };
     flags();
     for (std::uint32_t events = flags(); events != 0; events = flags()) {
         MovieBits actions(bits.Take(bits.U32()));
         if (bits.IsDamaged()) return Damage(offset_);
         std::string line = "events " + std::to_string(events);
-        if (isWide && (events & KeyPressEvent) != 0) line += " key " + std::to_string(actions.U8());
+        if (isWide && (events & ClipKeyPress) != 0) line += " key " + std::to_string(actions.U8());
         Line(depth, line);
         ListActions(actions.Rest(), depth + 1);
     }

@@ -6,6 +6,7 @@
 #include "platform/codepage.h"
 #include "platform/paths.h"
 #include "platform/rounding.h"
+#include "platform/twips.h"
 #include "swf/VectorDefinition.h"
 
 namespace tamber {
@@ -13,7 +14,6 @@ namespace tamber {
 namespace {
 
 constexpr Long PreviewDepth = 256;
-constexpr Long TwipsPerPixel = 20;
 constexpr Long FullRatio = 65535;
 
 SwfRect Union(const SwfRect& a, const SwfRect& b) {

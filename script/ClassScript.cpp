@@ -47,7 +47,7 @@ bool ReadFunction(StringView body, Long& pos, ClassMember& member, StringView ow
 bool ReadVariable(StringView body, Long& pos, ClassMember& member) {
     const Long end = FindStatementEnd(body, pos);
     const Long start = SkipToToken(body, pos);
-    if (end == 0 || (AtEnd(body, start) && start < end)) return false;
+    if (end == 0 || AtEnd(body, start)) return false;
     member.Kind = ClassMember::KindOf::Variable;
     member.Name.clear();
     member.Text = start < end ? Between(body, start, end + 1) : String();

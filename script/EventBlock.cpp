@@ -5,6 +5,7 @@
 #include "platform/codepage.h"
 #include "platform/text.h"
 #include "script/ScriptScanner.h"
+#include "swf/tags/SwfEventActions.h"
 
 namespace tamber {
 
@@ -26,9 +27,9 @@ struct ButtonEvent {
 };
 
 constexpr ButtonEvent ButtonEvents[] = {
-    {u"press", 4, 1024},     {u"release", 8, 2048},   {u"releaseoutside", 64, 4096},
-    {u"rollover", 1, 8192},  {u"rollout", 2, 16384},  {u"dragover", 32, 32768},
-    {u"dragout", 16, 65536}, {KeyPress, 512, 131072},
+    {u"press", 4, 1024},     {u"release", 8, 2048},         {u"releaseoutside", 64, 4096},
+    {u"rollover", 1, 8192},  {u"rollout", 2, 16384},        {u"dragover", 32, 32768},
+    {u"dragout", 16, 65536}, {KeyPress, 512, ClipKeyPress},
 };
 
 struct ClipEvent {

@@ -6,6 +6,9 @@
 
 namespace tamber {
 
+/// First version in which scripts have init blocks.
+inline constexpr Long InitClipVersion = 6;
+
 /// A block between "#initclip" and "#endinitclip". Positions count from 1.
 struct InitBlock {
     Long StartPos = 0;   ///< of the "#initclip"

@@ -15,9 +15,10 @@ struct ScriptCheckResult {
 };
 
 /// Looks through a script as a generation would, for a movie of a version, and tells its first
-/// fault. Included texts of frame scripts are compiled by themselves, and so are the init blocks in
-/// them, so that lines stay right.
+/// fault, with the line of the script given; a fault in an included file is one of the line that
+/// includes it. Included texts of frame scripts are compiled by themselves too. `hasInitBlocks`:
+/// whether the script is one of frame 1, from which init blocks are taken.
 ScriptCheckResult CheckScript(StringView script, ScriptKind kind, Long version,
-                              StringView projectFolder);
+                              StringView projectFolder, bool hasInitBlocks = true);
 
 }  // namespace tamber

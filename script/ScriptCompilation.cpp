@@ -11,8 +11,7 @@ namespace tamber {
 namespace {
 
 constexpr Long UnicodeVersion = 6;
-/// Events of clips have 16 bits below this version.
-constexpr Long WideEventVersion = 6;
+constexpr char16_t Substitute = 0x1A;
 constexpr Long NarrowEvents = 0xFFFF;
 
 /// Takes the first line off a text; its end is LF.
@@ -47,7 +46,9 @@ StringView BetweenQuotes(StringView text) {
 }  // namespace
 
 bool CompileActionScript(Bytes& result, StringView text, Long version, bool unicodeAllowed) {
-    const String source = ReplaceAll(ReplaceAll(text, u"\r\n", u"\n"), u"\r", u"\n");
+    String source = ReplaceAll(ReplaceAll(text, u"\r\n", u"\n"), u"\r", u"\n");
+    // A NUL would end the text there without a word; this is no part of the language.
+    std::replace(source.begin(), source.end(), u'\0', Substitute);
     Bytes bytes =
         unicodeAllowed && version >= UnicodeVersion ? EncodeUtf8(source) : EncodeAnsi(source);
     bytes.push_back(0);

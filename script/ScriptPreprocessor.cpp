@@ -65,12 +65,17 @@ public:
     /// 0, or the line as PreprocessScript tells it.
     Long Run() {
         while (result_ == 0 && !AtEnd(text_, pos_)) Step();
-        output_ += Between(text_, copied_, static_cast<Long>(text_.size()) + 1);
+        Put(Between(text_, copied_, static_cast<Long>(text_.size()) + 1));
         return result_;
     }
     String TakeOutput() { return std::move(output_); }
 
 private:
+    void Put(StringView part) {
+        output_ += part;
+        outputLine_ += LineOf(part, static_cast<Long>(part.size()) + 1) - 1;
+    }
+
     void Step() {
         const char16_t c = At(text_, pos_);
         if (IsLineEnd(c)) {
@@ -157,7 +162,7 @@ private:
         const String name(Between(text_, pos_ + 1, end));
         MoveTo(std::min(end + 1, static_cast<Long>(text_.size()) + 1));
         if (name.empty()) return;
-        output_ += Between(text_, copied_, start);
+        Put(Between(text_, copied_, start));
         copied_ = pos_;
         Include(name, encoding, line);
     }
@@ -195,10 +200,12 @@ private:
         }
         settings_.chain_ = outer;
         const String included = inner.TakeOutput();
+        const Long first = outputLine_;
         if (!compile)
-            output_ += included;
+            Put(included);
         else if (!compile(included))
             Fail(line, {});
+        if (depth_ == 0) settings_.included_.push_back({first, outputLine_, line, line_});
     }
 
     /// False when there is no such file: `path` is then the place that was looked at last.
@@ -227,6 +234,8 @@ private:
     Long pos_ = 1;
     Long copied_ = 1;
     Long line_ = 1;
+    /// The line that the output ends on.
+    Long outputLine_ = 1;
     /// What NextBracket found last.
     Long bracket_ = 0;
     Long result_ = 0;
@@ -236,11 +245,21 @@ private:
 Long ScriptPreprocessor::PreprocessScript(String& script, StringView baseDir) {
     chain_.clear();
     expandedSize_ = 0;
+    included_.clear();
     if (script.empty()) return 0;
     ScriptExpansion expansion(*this, script, baseDir, 0);
     const Long result = expansion.Run();
     if (result == 0) script = expansion.TakeOutput();
     return result;
+}
+
+Long ScriptPreprocessor::OuterLine(Long line) const {
+    const auto behind = std::upper_bound(
+        included_.begin(), included_.end(), line,
+        [](Long wanted, const IncludedLines& included) { return wanted < included.First; });
+    if (behind == included_.begin()) return line;
+    const IncludedLines& included = *(behind - 1);
+    return line <= included.Last ? included.Directive : included.Behind + line - included.Last;
 }
 
 }  // namespace tamber

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 #include "platform/TextEncoding.h"
 #include "platform/types.h"
@@ -27,10 +28,26 @@ public:
     /// it. Empty when an included text did not compile.
     const String& Chain() const { return chain_; }
 
+    /// Whether the last script had files put into it.
+    bool HasIncluded() const { return !included_.empty(); }
+    /// The line of the last script given that a line of what was made of it comes from: that of
+    /// the directive for what was included.
+    Long OuterLine(Long line) const;
+
 private:
     friend class ScriptExpansion;
 
+    /// The lines that an included text begins and ends on, the line of its directive, and the line
+    /// that the directive ends on.
+    struct IncludedLines {
+        Long First;
+        Long Last;
+        Long Directive;
+        Long Behind;
+    };
+
     String chain_;
+    std::vector<IncludedLines> included_;
     std::size_t expandedSize_ = 0;
 };
 

@@ -90,7 +90,7 @@ private:
     void WriteBackground(const Timeline& timeline, const clsLayer& layer);
     void WriteLabels(const Timeline& timeline, const clsLayer& layer);
     void PlaceLayer(const Timeline& timeline, Long index, Long depth);
-    void DefineExport(clsSWFAdmin& admin, clsSymbolData& symbol, Long lateFrame);
+    void DefineExport(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
     void WriteFrameActions(const Timeline& timeline, const clsLayer& layer);
     /// Defines the button of one layer, with the layer's script. 0 for a layer without key frames.
     Long DefineButton(const Timeline& timeline, const clsLayer& layer, Long depth);

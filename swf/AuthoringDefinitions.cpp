@@ -9,7 +9,10 @@
 #include "document/clsPropertySprite.h"
 #include "document/clsPropertyVector.h"
 #include "platform/UserInterface.h"
+#include "platform/twips.h"
+#include "script/InitBlock.h"
 #include "swf/Authoring.h"
+#include "swf/ExportFrames.h"
 #include "swf/FitText.h"
 #include "swf/FramePlacement.h"
 #include "swf/MovieLimits.h"
@@ -22,7 +25,6 @@ namespace tamber {
 
 namespace {
 
-constexpr Long TwipsPerPixel = 20;
 constexpr Long BitmapExportVersion = 8;
 
 /// Kinds whose exports are not generated yet.
@@ -91,25 +93,24 @@ void Authoring::PreDefineFrameOne(clsSWFAdmin& admin) {
 }
 
 void Authoring::DefineExports(clsSWFAdmin& admin, Long mode) {
-    const Long lateFrame = std::min(mode, 2);
+    ExportFrames frames(*request_.Library, std::min(mode, 2));
     std::vector<std::shared_ptr<clsSymbolData>> classes;
     for (const auto& symbol : *request_.Library) {
-        if (!symbol->blExportEx() || symbol->eType() == KindBackGround) continue;
+        if (!IsExported(*symbol)) continue;
         if (symbol->eTypeEx() == KindClass)
             classes.push_back(symbol);
         else
-            DefineExport(admin, *symbol, lateFrame);
+            DefineExport(admin, *symbol, frames.FrameOf(*symbol));
     }
-    for (const auto& symbol : classes) DefineExport(admin, *symbol, lateFrame);
+    for (const auto& symbol : classes) DefineExport(admin, *symbol, frames.FrameOf(*symbol));
 }
 
-void Authoring::DefineExport(clsSWFAdmin& admin, clsSymbolData& symbol, Long lateFrame) {
+void Authoring::DefineExport(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
     if (LacksExport(symbol.eType())) {
         ShowMessage(u"「" + symbol.ExportName() +
                     u"」は書き出せません。\r\nこの種類のシンボルの生成には対応していません。");
         return;
     }
-    const Long frame = symbol.blExportTop ? 1 : lateFrame;
     if (symbol.eType() == KindVector) symbol.DefineNum = VectorForm::Clip;
     if (symbol.DefineID() == 0) DefineSymbol(admin, symbol, frame);
     symbol.DefineNum = VectorForm::Plain;
@@ -274,8 +275,8 @@ void Authoring::DefineLink(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame
     if (mdlSWFTag::swfVersion() < LinkVersion) return;
     admin.AddTag(frame, admin.GetNewImport(link.URL, link.SymbolName), true);
     symbol.DefineID(admin.DefineID);
-    if (link.eTypeEx() != KindClass) return;
-    Scripts.CompileClassLinks(admin, link.SymbolName);
+    if (link.eTypeEx() != KindClass || mdlSWFTag::swfVersion() < InitClipVersion) return;
+    Scripts.CompileClassLinks(admin, link.SymbolName, symbol.DefineID());
     admin.AddColInitAction(frame);
 }
 

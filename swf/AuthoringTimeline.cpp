@@ -45,6 +45,20 @@ bool CanPlace(Long kind) {
     }
 }
 
+namespace {
+
+/// Buttons are made for layers, and komas have no character of their own.
+bool CanBeKoma(Long kind) {
+    return CanPlace(kind) && kind != KindButton && kind != KindKoma;
+}
+
+bool IsEverSeen(const clsLayer& layer) {
+    return std::any_of(layer.colObject.begin(), layer.colObject.end(),
+                       [](const auto& object) { return object->blVisible; });
+}
+
+}  // namespace
+
 void Authoring::WriteTimeline(const Timeline& timeline) {
     const Long count = timeline.Layers.Count();
     const bool falling = request_.blTopToBottom;
@@ -111,7 +125,7 @@ void Authoring::LeaveOut(const clsLayer& layer) {
 void Authoring::LeaveOutKomas(const clsLayer& layer) {
     const auto& komas = *layer.SymbolData()->Property<clsPropertyKoma>()->colKomas;
     const bool whole = std::all_of(komas.begin(), komas.end(),
-                                   [](const auto& koma) { return CanPlace(koma->eType()); });
+                                   [](const auto& koma) { return CanBeKoma(koma->eType()); });
     if (whole || !leftOut_.insert(&layer).second) return;
     ShowMessage(
         u"生成に対応していない種類のコマがあります。\r\nコマ動画（" + layer.LayerNameView() + u"）",
@@ -172,6 +186,8 @@ void Authoring::WriteLabels(const Timeline& timeline, const clsLayer& layer) {
 
 void Authoring::PlaceLayer(const Timeline& timeline, Long index, Long depth) {
     const clsLayer& layer = *timeline.Layers(index);
+    // What is never seen takes no frame.
+    if (snapshot_ == nullptr && !IsEverSeen(layer)) return;
     clsSymbolData& symbol = *layer.SymbolData();
     LayerCharacter character;
     character.Depth = depth;

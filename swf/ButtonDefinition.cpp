@@ -2,22 +2,17 @@
 
 #include "document/clsPropertySprite.h"
 #include "document/clsPropertyVector.h"
+#include "platform/twips.h"
 
 namespace tamber {
 
 namespace {
 
-constexpr Long TwipsPerPixel = 20;
 constexpr Long Black = static_cast<Long>(0xFF000000);
-
-/// Below 16 bits of colour: what a button's colour field takes.
-Long ColorField(std::int64_t value) {
-    return static_cast<Long>(std::clamp<std::int64_t>(value, -0x4000, 0x3FFF));
-}
 
 /// 100 percent is 255 here, other than in placements.
 Long Factor(Long percent) {
-    return ColorField(std::int64_t{percent} * 255 / 100);
+    return mdlSWFTag::ToColorField(std::int64_t{percent} * 255 / 100);
 }
 
 SwfButtonMatrix ToSwf(const clsButtonMatrix& matrix) {
@@ -25,9 +20,14 @@ SwfButtonMatrix ToSwf(const clsButtonMatrix& matrix) {
     SwfButtonMatrix result;
     result.Translate = {mdlSWFTag::ToField(double{TwipsPerPixel} * matrix.TranslatePosX),
                         mdlSWFTag::ToField(double{TwipsPerPixel} * matrix.TranslatePosY)};
-    result.Color = {Factor(color.MultR),    Factor(color.MultG),    Factor(color.MultB),
-                    Factor(color.MultA),    ColorField(color.AddR), ColorField(color.AddG),
-                    ColorField(color.AddB), ColorField(color.AddA)};
+    result.Color = {Factor(color.MultR),
+                    Factor(color.MultG),
+                    Factor(color.MultB),
+                    Factor(color.MultA),
+                    mdlSWFTag::ToColorField(color.AddR),
+                    mdlSWFTag::ToColorField(color.AddG),
+                    mdlSWFTag::ToColorField(color.AddB),
+                    mdlSWFTag::ToColorField(color.AddA)};
     return result;
 }
 

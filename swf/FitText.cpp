@@ -8,14 +8,13 @@
 #include "document/clsLayerObjElement.h"
 #include "document/clsPropertySprite.h"
 #include "document/clsPropertyVector.h"
+#include "platform/twips.h"
 #include "swf/OutlinePath.h"
 #include "swf/TextDefinition.h"
 
 namespace tamber {
 
 namespace {
-
-constexpr double TwipsPerPixel = 20;
 
 /// Values of `eBasePos`: which part of the characters lies on the outline.
 constexpr Long BaseTop = 0;
@@ -49,7 +48,7 @@ public:
         const double space = SpaceBetween();
         double way = StartOfLine();
         for (std::size_t i = 0; i < glyphs.size(); ++i) {
-            const double advance = glyphs[i].Advance / TwipsPerPixel;
+            const double advance = glyphs[i].Advance / double{TwipsPerPixel};
             PlaceCharacter(line_[i], way + advance / 2, advance);
             way += advance + space;
         }
@@ -62,13 +61,14 @@ private:
         const auto& glyphs = layout_.Lines().front().Glyphs;
         if (!text_.blFitEven || glyphs.size() < 2) return text_.FontCharSpace;
         double widths = 0;
-        for (const TextLayout::Glyph& glyph : glyphs) widths += glyph.Advance / TwipsPerPixel;
+        for (const TextLayout::Glyph& glyph : glyphs)
+            widths += glyph.Advance / double{TwipsPerPixel};
         return (path_.Length() - widths) / static_cast<double>(glyphs.size() - 1);
     }
 
     double StartOfLine() const {
         if (text_.blFitEven) return 0;
-        const double room = path_.Length() - layout_.Width() / TwipsPerPixel;
+        const double room = path_.Length() - layout_.Width() / double{TwipsPerPixel};
         if (text_.Alignment == clsSWFTagDefineText::Right) return room;
         return text_.Alignment == clsSWFTagDefineText::Centre ? room / 2 : 0;
     }

@@ -14,9 +14,10 @@ namespace tamber {
 
 namespace {
 
-constexpr Long InitClipVersion = 6;
 constexpr Long ClipActionVersion = 5;
 constexpr StringView FaultTitle = u"スクリプトエラー";
+constexpr StringView TooLongActions =
+    u"一つのイベントのアクションが長すぎます。64KB までです。関数に分けて下さい。";
 
 String ClipPlace(const clsLayer& layer) {
     return u"クリップアクション（" + layer.LayerNameView() + u"）";
@@ -27,7 +28,7 @@ String FramePlace(Long frame) {
 }
 
 /// The place and what the check of the script tells, in one line.
-String FaultLine(const String& where, const String& fault) {
+String FaultLine(const String& where, StringView fault) {
     String line = where + u"：";
     for (const char16_t c : fault) {
         if (c == u'\n') continue;
@@ -45,26 +46,28 @@ bool MovieScripts::Expand(String& script) const {
 }
 
 /// False when the check finds nothing to tell.
-bool MovieScripts::TellFault(const String& script, ScriptKind kind, const String& where) const {
+bool MovieScripts::TellsReason(const String& script, ScriptKind kind, const String& where,
+                               bool hasInitBlocks) const {
     const ScriptCheckResult check =
-        CheckScript(script, kind, mdlSWFTag::swfVersion(), ProjectFolder);
+        CheckScript(script, kind, mdlSWFTag::swfVersion(), ProjectFolder, hasInitBlocks);
     if (!check.Ok) CurrentUserInterface().Status(FaultLine(where, check.Message));
     return !check.Ok;
 }
 
-void MovieScripts::Tell(const String& script, ScriptKind kind, const String& where) const {
+void MovieScripts::Tell(const String& script, ScriptKind kind, const String& where,
+                        bool hasInitBlocks) const {
     if (kind == ScriptKind::Clip && !blMessages) return;
-    TellFault(script, kind, where);
+    TellsReason(script, kind, where, hasInitBlocks);
     TellBox(where);
 }
 
 void MovieScripts::TellClass(const String& body, const clsPropertyClass& record) const {
     const String where = u"クラス（" + record.className + u"）";
-    if (!TellFault(body, ScriptKind::Frame, where)) {
+    if (!TellsReason(body, ScriptKind::Frame, where)) {
         String expanded = body;
         // What the body cannot show lies in the text made of it, whose lines are its own.
         if (Expand(expanded))
-            TellFault(ClassScript(expanded, record), ScriptKind::Frame, where + u"の生成コード");
+            TellsReason(ClassScript(expanded, record), ScriptKind::Frame, where + u"の生成コード");
     }
     TellBox(FramePlace(1));
 }
@@ -96,7 +99,7 @@ void MovieScripts::CompileFrameAction(clsSWFAdmin& timeline, bool isMovie, Long 
     if (inClass != nullptr)
         TellClass(source, *inClass);
     else
-        Tell(source, ScriptKind::Frame, FramePlace(frame));
+        Tell(source, ScriptKind::Frame, FramePlace(frame), frame == 1);
 }
 
 String MovieScripts::ClassBody(const clsPropertyClass& record) const {
@@ -123,15 +126,17 @@ void MovieScripts::CompileClass(clsSWFAdmin& timeline, const clsPropertyClass& r
     CompileFrameAction(timeline, false, 1, ClassBody(record), &record);
 }
 
-void MovieScripts::CompileClassLinks(clsSWFAdmin& timeline, StringView symbolName) {
-    // Classes are exported as "__Packages." and their name.
+void MovieScripts::CompileClassLinks(clsSWFAdmin& timeline, StringView symbolName,
+                                     Long identifier) {
+    // The class's own name stands behind the first dot, where there is one.
     symbolName.remove_prefix(symbolName.find(u'.') + 1);
     const auto links = colClassLinks.find(String(symbolName));
     if (links == colClassLinks.end()) return;
     String script;
     AppendRegisterClass(script, symbolName, links->second);
     bool ok = true;
-    timeline.AddInitAction(timeline.GetNewDoAction(script, ok), -1, -1);
+    timeline.AddInitAction(timeline.GetNewDoAction(script, ok), -1, identifier);
+    if (!ok) Tell(script, ScriptKind::Frame, u"クラス（" + String(symbolName) + u"）");
 }
 
 bool MovieScripts::CompileEvents(std::vector<SwfEventActions>& actions, const String& script,
@@ -148,7 +153,9 @@ std::vector<SwfEventActions> MovieScripts::ButtonActions(const clsLayer& layer) 
         return one.Actions.size() <= clsSWFTagDefineButton::LongestActions;
     });
     if (compiled && fits) return actions;
-    Tell(script, ScriptKind::Button, u"ボタンアクション（" + layer.LayerNameView() + u"）");
+    const String where = u"ボタンアクション（" + layer.LayerNameView() + u"）";
+    if (compiled) CurrentUserInterface().Status(FaultLine(where, TooLongActions));
+    Tell(script, ScriptKind::Button, where);
     return {};
 }
 

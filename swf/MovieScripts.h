@@ -29,16 +29,16 @@ public:
     bool AllValid() const { return allValid_; }
 
     /// Puts a frame's script into a timeline. In frame 1 of a sprite or class, from version 6 on,
-    /// its
-    /// "#initclip" blocks become an init action; in the movie itself, `isMovie`, they are left out.
-    /// With `inClass` the script is the body of that class.
+    /// its "#initclip" blocks become an init action; in the movie itself, `isMovie`, they are left
+    /// out. With `inClass` the script is the body of that class.
     void CompileFrameAction(clsSWFAdmin& timeline, bool isMovie, Long frame, String script,
                             const clsPropertyClass* inClass = nullptr);
     /// Puts the script of a class into its timeline. Below version 6 it is an ordinary frame
     /// script.
     void CompileClass(clsSWFAdmin& timeline, const clsPropertyClass& record);
-    /// Ties sprites to a class of another movie, as an init action.
-    void CompileClassLinks(clsSWFAdmin& timeline, StringView symbolName);
+    /// Ties sprites to a class of another movie, as an init action of the character that the class
+    /// was imported as.
+    void CompileClassLinks(clsSWFAdmin& timeline, StringView symbolName, Long identifier);
 
     std::vector<SwfEventActions> ButtonActions(const clsLayer& layer);
     std::vector<SwfEventActions> ClipActions(const clsLayer& layer);
@@ -48,8 +48,10 @@ private:
     bool CompileInitClip(clsSWFAdmin& timeline, bool isMovie, String& script);
     bool CompileEvents(std::vector<SwfEventActions>& actions, const String& script,
                        EventScript kind);
-    bool TellFault(const String& script, ScriptKind kind, const String& where) const;
-    void Tell(const String& script, ScriptKind kind, const String& where) const;
+    bool TellsReason(const String& script, ScriptKind kind, const String& where,
+                     bool hasInitBlocks = true) const;
+    void Tell(const String& script, ScriptKind kind, const String& where,
+              bool hasInitBlocks = true) const;
     void TellClass(const String& body, const clsPropertyClass& record) const;
     static void TellBox(const String& where);
     String ClassBody(const clsPropertyClass& record) const;

@@ -3,12 +3,11 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include "platform/twips.h"
 
 namespace tamber {
 
 namespace {
-
-constexpr double TwipsPerPixel = 20;
 
 double AngleOf(CurvePoint from, CurvePoint to) {
     return std::atan2(to.Y - from.Y, to.X - from.X) * 180 / std::numbers::pi;
@@ -27,7 +26,7 @@ CurvePoint Mix(CurvePoint a, CurvePoint b, double share) {
 OutlinePath::OutlinePath(const clsSWFTShapeRecords& records, Single scaleX, Single scaleY) {
     CurvePoint pen;
     const auto point = [scaleX, scaleY](Long x, Long y) {
-        return CurvePoint{x / TwipsPerPixel * scaleX, y / TwipsPerPixel * scaleY};
+        return CurvePoint{x / double{TwipsPerPixel} * scaleX, y / double{TwipsPerPixel} * scaleY};
     };
     for (const clsSWFTShapeRecord& record : records.colShapeRecords) {
         if (const auto* change = std::get_if<std::shared_ptr<clsSWFTShapeStyleChange>>(&record)) {

@@ -1,10 +1,10 @@
 #include "swf/TextDefinition.h"
+#include "platform/twips.h"
 
 namespace tamber {
 
 namespace {
 
-constexpr Long TwipsPerPixel = 20;
 /// Pixels that players keep between a field's border and its text.
 constexpr Long FieldMargin = 2;
 constexpr Long SmoothingVersion = 8;

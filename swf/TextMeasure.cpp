@@ -4,13 +4,13 @@
 
 #include "document/clsPropertyVector.h"
 #include "document/clsSymbolData.h"
+#include "platform/twips.h"
 #include "swf/TextDefinition.h"
 
 namespace tamber {
 
 namespace {
 
-constexpr Long TwipsPerPixel = 20;
 /// Pixels between a text field's border and its text, on each side.
 constexpr Long FieldMargin = 2;
 /// Measures in place of the player's own fonts, which only the player has.

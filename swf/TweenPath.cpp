@@ -4,12 +4,12 @@
 #include <cmath>
 
 #include "platform/rounding.h"
+#include "platform/twips.h"
 
 namespace tamber {
 
 namespace {
 
-constexpr double TwipsPerPixel = 20.0;
 constexpr Long FullRatio = 65535;
 
 Single ToTwips(Single pixels, Single origin) {

@@ -4,6 +4,7 @@
 
 #include "platform/UserInterface.h"
 #include "platform/text.h"
+#include "platform/twips.h"
 #include "vector/MorphCheck.h"
 
 namespace tamber {
@@ -11,7 +12,6 @@ namespace tamber {
 namespace {
 
 constexpr Long PlainShapeVersion = 3;
-constexpr Long TwipsPerPixel = 20;
 
 using BitmapMap = std::unordered_map<const BitmapReference*, std::shared_ptr<clsVectorBitmap>>;
 

@@ -6,6 +6,7 @@
 #include "platform/files.h"
 #include "platform/rounding.h"
 #include "platform/text.h"
+#include "platform/twips.h"
 #include "script/ScriptCompilation.h"
 #include "swf/mdlZlib.h"
 #include "swf/tags/clsSWFTagDefineEditText.h"
@@ -24,7 +25,6 @@ constexpr Long CompressionVersion = 5;
 constexpr Long AttributesVersion = 8;
 /// DefineShape4 and DefineMorphShape2 come with this version.
 constexpr Long Shape4Version = 8;
-constexpr Long TwipsPerPixel = 20;
 
 Bytes CompressMovie(const Bytes& movie) {
     Bytes result(movie.begin(), movie.begin() + PlainHeaderSize);

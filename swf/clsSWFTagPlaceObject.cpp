@@ -10,16 +10,8 @@ namespace tamber {
 
 namespace {
 
-constexpr Long WideEventVersion = 6;
-constexpr Long KeyPressEvent = 0x20000;
-
 Single TangentOf(Single degrees) {
     return static_cast<Single>(std::tan(static_cast<double>(degrees) * 3.14159265358979 / 180.0));
-}
-
-/// Fields of a colour transform have 15 bits at most.
-Long ColorField(std::int64_t value) {
-    return static_cast<Long>(std::clamp<std::int64_t>(value, -0x4000, 0x3FFF));
 }
 
 Long EventBytes() {
@@ -29,7 +21,7 @@ Long EventBytes() {
 void SetClipEvent(const SwfEventActions& event) {
     const auto length = static_cast<Long>(event.Actions.size());
     mdlSWFTag::SetBytes(EventBytes(), event.Flags);
-    if ((event.Flags & KeyPressEvent) != 0) {
+    if ((event.Flags & ClipKeyPress) != 0) {
         mdlSWFTag::SetBytes(4, length + 2);
         mdlSWFTag::SetBytes(1, event.KeyCode);
     } else {
@@ -80,14 +72,14 @@ void clsSWFTagPlaceObject::SetEditColorFilter(const clsFilterEditColor& editColo
     const std::int64_t b = bright * 255 / 100;
     const std::int64_t opacity = toumei;
     SwfColorTransform t;
-    t.MultR = ColorField(std::int64_t{editColor.MultR} * 256 / 100);
-    t.MultG = ColorField(std::int64_t{editColor.MultG} * 256 / 100);
-    t.MultB = ColorField(std::int64_t{editColor.MultB} * 256 / 100);
-    t.MultA = ColorField(editColor.MultA * opacity * 256 / 10000);
-    t.AddR = ColorField(std::min<std::int64_t>(b + editColor.AddR, 255));
-    t.AddG = ColorField(std::min<std::int64_t>(b + editColor.AddG, 255));
-    t.AddB = ColorField(std::min<std::int64_t>(b + editColor.AddB, 255));
-    t.AddA = ColorField(editColor.AddA);
+    t.MultR = mdlSWFTag::ToColorField(std::int64_t{editColor.MultR} * 256 / 100);
+    t.MultG = mdlSWFTag::ToColorField(std::int64_t{editColor.MultG} * 256 / 100);
+    t.MultB = mdlSWFTag::ToColorField(std::int64_t{editColor.MultB} * 256 / 100);
+    t.MultA = mdlSWFTag::ToColorField(editColor.MultA * opacity * 256 / 10000);
+    t.AddR = mdlSWFTag::ToColorField(std::min<std::int64_t>(b + editColor.AddR, 255));
+    t.AddG = mdlSWFTag::ToColorField(std::min<std::int64_t>(b + editColor.AddG, 255));
+    t.AddB = mdlSWFTag::ToColorField(std::min<std::int64_t>(b + editColor.AddB, 255));
+    t.AddA = mdlSWFTag::ToColorField(editColor.AddA);
     SetColorTransform(t);
 }
 

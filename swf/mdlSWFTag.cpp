@@ -208,6 +208,10 @@ Long ToField(double value) {
         std::clamp(value, static_cast<double>(-MaxField), static_cast<double>(MaxField)));
 }
 
+Long ToColorField(std::int64_t value) {
+    return static_cast<Long>(std::clamp<std::int64_t>(value, -0x4000, 0x3FFF));
+}
+
 void SetMatrixTransform(Single scaleX, Single scaleY, Single angle, SwfPoint translate,
                         SwfPoint centre, Single skewX, Single skewY) {
     SetAlign();

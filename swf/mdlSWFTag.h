@@ -72,6 +72,8 @@ Long swfBitPos();
 inline constexpr Long MaxField = 0x3FFFFFFF;
 /// Rounds to the range of such a field.
 Long ToField(double value);
+/// Cuts to the range of a field of a colour transform, 15 bits.
+Long ToColorField(std::int64_t value);
 
 /// Moves to the next byte boundary.
 void SetAlign();

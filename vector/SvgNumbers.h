@@ -8,11 +8,10 @@
 #include <span>
 #include <vector>
 
+#include "platform/twips.h"
 #include "vector/SvgScanner.h"
 
 namespace tamber {
-
-constexpr Long TwipsPerPixel = 20;
 
 /// Coordinates beyond this many twips either way are cut to it, so that sums of a few fit a Long.
 constexpr Long SvgFarthest = Long{1} << 29;

@@ -7,6 +7,7 @@
 #include "platform/RuntimeError.h"
 #include "platform/files.h"
 #include "platform/paths.h"
+#include "platform/twips.h"
 #include "swf/mdlZlib.h"
 #include "swf/tags/TagCodes.h"
 #include "vector/LoadProgress.h"
@@ -23,7 +24,6 @@ constexpr std::size_t MaxInflated = std::size_t{256} << 20;
 constexpr std::size_t MaxRectBytes = 17;
 constexpr std::size_t RateAndCountBytes = 4;
 constexpr std::uint32_t LongLength = 63;
-constexpr Long TwipsPerPixel = 20;
 /// Definitions and placements of one frame are 65535 each at most.
 constexpr Long MaxTags = 1 << 20;
 

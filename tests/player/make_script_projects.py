@@ -144,6 +144,17 @@ def write_imports():
         write(name, version, [link], [], [], [clip(1, [key(1, 9, 30, 20)]), frame_actions((5, attach))])
 
 
+def write_class_imports():
+    """A class that comes from another movie, and a sprite of this one that is of it."""
+    body = [layer(1, [key(1, 1, 0, 0)])]
+    walker = 'function Walker() { trace("made " + this._name); }\nfunction go() { this._x += 50; return this._x; }\n'
+    link = f"3,,{LINK},,,ExportTop,__Packages.zoo.Walker,classes.swf,0,0,{CLASS},zoo.Walker,,1\r\n,,"
+    attach = 'attachMovie("walker", "w", 1);\ntrace(w.go());'
+    write("import-class", 6, [class_of(1, "zoo.Walker", "MovieClip", walker)], [], [], [], project="classes")
+    write("import-class", 6, [picture(1, RED), sprite(2, "歩く", link="walker", class_name="zoo.Walker"), link], [], [body],
+          [frame_actions((1, attach))])
+
+
 def write_komas():
     """A sprite with a picture list, as a button's up state and by itself."""
     pictures = [picture(1, RED), picture(2, GREEN), picture(3, BLUE)]
@@ -215,6 +226,7 @@ if __name__ == "__main__":
     write_clips()
     write_linkage()
     write_imports()
+    write_class_imports()
     write_komas()
     write_grids()
     write_classes()

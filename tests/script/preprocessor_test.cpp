@@ -174,6 +174,42 @@ TEST_F(Includes, are_told_by_the_check_with_their_line) {
                   u"/self.as");
 }
 
+TEST_F(Includes, do_not_move_the_lines_of_faults) {
+    Write(u"three.as", u"on (press) {\r\n  stop();\r\n}\r\n");
+    Write(u"bad.as", u"\r\n\r\non (press) { x = ; }");
+    const auto check = [this](StringView script) {
+        return CheckScript(script, ScriptKind::Button, 6, folder_);
+    };
+    const ScriptCheckResult twice = check(
+        u"#include \"three.as\"\r\n#include\r\n\"three.as\"\r\non (release) {\r\n y = ;\r\n z = "
+        u";\r\n}");
+    EXPECT_EQ(twice.Line, 5) << ToNarrow(twice.Message);
+    EXPECT_NE(twice.Message.find(u"\r\n6行目"), String::npos) << ToNarrow(twice.Message);
+    EXPECT_EQ(check(u"#include \"three.as\"\r\n#include \"bad.as\"\r\n").Line, 2);
+    EXPECT_EQ(check(u"#include \"three.as\"\r\non (pres) { }").Line, 2);
+}
+
+TEST_F(Includes, are_looked_through_where_they_stand_too) {
+    Write(u"half.as", u"x = 1");
+    Write(u"lines.as", u"a = 1;\r\nb = 2;\r\n");
+    const ScriptCheckResult joined = CheckScript(
+        u"#include \"lines.as\"\r\n#include \"half.as\" y = 2;", ScriptKind::Frame, 6, folder_);
+    EXPECT_FALSE(joined.Ok);
+    EXPECT_EQ(joined.Line, 2);
+}
+
+TEST(Checks, take_init_blocks_from_the_first_frame_only) {
+    const StringView script = u"stop();\r\n#initclip\r\nplay();\r\n#endinitclip\r\n";
+    EXPECT_TRUE(CheckScript(script, ScriptKind::Frame, 6, {}).Ok);
+    EXPECT_EQ(CheckScript(script, ScriptKind::Frame, 6, {}, false).Line, 2);
+}
+
+TEST(Checks, find_a_nul_in_the_text) {
+    const ScriptCheckResult result =
+        CheckScript(StringView(u"a = 1;\r\nb\0c = 2;", 16), ScriptKind::Frame, 6, {});
+    EXPECT_EQ(result.Line, 2);
+}
+
 TEST(Checks, tell_the_line_of_a_fault_wherever_it_is) {
     struct {
         ScriptKind Kind;

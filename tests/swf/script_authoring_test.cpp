@@ -204,9 +204,49 @@ TEST_F(ScriptAuthoring, a_class_of_another_movie_gets_its_sprites_wherever_it_is
     sprite->ObjectName = u"link";
     sprite->LinkClassName = u"a.B";
     symbol->blExport = true;
-    const Bytes exported = Build().Bodies(TagCode::DoAction).at(0);
+    // The sprite is character 1, the class character 2.
+    const Bytes exported = Build().Bodies(TagCode::DoInitAction).at(0);
+    EXPECT_EQ(exported[0], 2);
     AddKeyFrame(*AddLayer(symbol), 1, 1);
-    EXPECT_EQ(Build().Bodies(TagCode::DoAction), (std::vector<Bytes>{exported}));
+    const Bytes placed = Build().Bodies(TagCode::DoInitAction).at(0);
+    EXPECT_EQ(placed[0], 1);
+    EXPECT_EQ(Bytes(placed.begin() + 2, placed.end()), Bytes(exported.begin() + 2, exported.end()));
+    EXPECT_TRUE(Build(5).Bodies(TagCode::DoAction).empty());
+}
+
+TEST_F(ScriptAuthoring, a_part_of_an_early_export_stands_before_a_late_one_that_has_it) {
+    const auto part = AddSprite();
+    const auto exported = [&](StringView name, bool onTop) {
+        const auto symbol = AddSprite();
+        const auto layer = LayerOf(part);
+        AddKeyFrame(*layer, 1, 1);
+        symbol->Property<clsPropertySprite>()->colLayer->Add(layer);
+        symbol->blExport = true;
+        symbol->blExportTop = onTop;
+        symbol->ObjectName = name;
+    };
+    exported(u"late", false);
+    exported(u"early", true);
+    const auto alone = AddSprite();
+    alone->blExport = true;
+    alone->blExportTop = false;
+    alone->ObjectName = u"alone";
+    AddFrameAction(2, u"stop();");
+    // Part, late and early with their names, the first frame; the one by itself, the second.
+    EXPECT_EQ(Build().Codes(), (std::vector<Long>{9, 39, 39, 56, 39, 56, 1, 39, 56, 12, 1, 0}));
+}
+
+TEST_F(ScriptAuthoring, a_layer_that_is_never_seen_takes_no_frame_and_has_no_faults) {
+    const auto hide = [](clsLayer& layer) { layer.Object(1)->blVisible = false; };
+    const auto shown = AddLayer(AddSprite());
+    AddKeyFrame(*shown, 1, 1);
+    hide(*PlaceScripted(AddSprite(), u"onClipEvent(nothing) { }"));
+    const auto button = AddLayer(std::make_shared<clsSymbolData>(KindButton));
+    AddKeyFrame(*button, 50, 1);
+    hide(*button);
+    // The first frame has what its layers begin with.
+    EXPECT_EQ(Build().Codes(), (std::vector<Long>{9, 39, 39, 26, 1, 0}));
+    EXPECT_EQ(Texts(), std::vector<String>{});
 }
 
 TEST_F(ScriptAuthoring, an_exported_koma_is_no_fault) {
