@@ -300,6 +300,8 @@ private:
     bool Cast(const Node& node);
     ClassTable::Member FindMember(const Symbol* name);
     void CheckStatic(const Node& name, const ClassTable::Member& found);
+    /// Whether the code is that of a function which is called for an object of the class.
+    bool RunsForObject() const { return function_.Node != nullptr && function_.Node->IsMethod; }
     bool IsInFieldValue() const { return class_ != nullptr && function_.Node == nullptr; }
     bool MayBeInherited(const Symbol& name);
     ClassTable::Record* ClassNamed(const Node& path);

@@ -48,6 +48,7 @@ Node* Parser::FunctionRest(Symbol* name, Spot spot) {
     const bool inMethod = function_ != nullptr && function_->IsMethod;
     const bool isDerived = std::exchange(isDerivedNext_, false);
     function->IsMethod = std::exchange(isMethodNext_, false) || inMethod;
+    function->IsStatic = std::exchange(isStaticNext_, false);
     function->At = spot;
     function->Number = ++functionCount_;
     function->Depth = function_ == nullptr ? 1 : function_->Depth + 1;
@@ -335,6 +336,7 @@ void Parser::Method(ClassNode& node, bool isStatic) {
         return EndStatement();
     }
     isMethodNext_ = !isStatic;
+    isStaticNext_ = isStatic;
     isDerivedNext_ = isConstructor && node.Base != nullptr;
     member.Value = FunctionRest(nullptr, member.At);
     CheckAccessor(member, member.Value->Function->ParameterCount);

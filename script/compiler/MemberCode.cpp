@@ -31,13 +31,12 @@ bool CodeGenerator::Cast(const Node& node) {
 ClassTable::Member CodeGenerator::FindMember(const Symbol* name) {
     if (class_ == nullptr || name->Declarations > 0) return {};
     const ClassTable::Member found = classes_.Find(*class_, *name);
-    const bool isForOne = function_.Node != nullptr && function_.Node->IsMethod;
-    return found.IsOfPlayer && !isForOne ? ClassTable::Member() : found;
+    return found.IsOfPlayer && !RunsForObject() ? ClassTable::Member() : found;
 }
 
 /// There is no object whose member a static function could mean.
 void CodeGenerator::CheckStatic(const Node& name, const ClassTable::Member& found) {
-    const bool isStatic = function_.Node != nullptr && !function_.Node->IsMethod;
+    const bool isStatic = function_.Node != nullptr && function_.Node->IsStatic;
     if (isStatic && found.Class == nullptr && !found.IsOfPlayer)
         Complain(name, u"static の関数の中では使用できません。インスタンスのメンバーです。");
 }
@@ -45,8 +44,7 @@ void CodeGenerator::CheckStatic(const Node& name, const ClassTable::Member& foun
 /// Whether an object of the class may have a member of the name from a class that the script does
 /// not tell of, and no variable of the script is meant.
 bool CodeGenerator::MayBeInherited(const Symbol& name) {
-    const bool isForOne = function_.Node != nullptr && function_.Node->IsMethod;
-    if (class_ == nullptr || !isForOne || name.Declarations > 0 || name.IsOwn) return false;
+    if (class_ == nullptr || !RunsForObject() || name.Declarations > 0 || name.IsOwn) return false;
     const bool isMember = name.Special == SpecialName::None || name.Special == SpecialName::Parent;
     const bool isGlobal = name.Text.starts_with("_level") || HasPlayerGlobal(name.Text);
     return isMember && !isGlobal && classes_.UnknownBase(*class_) != nullptr;

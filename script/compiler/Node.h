@@ -205,6 +205,8 @@ struct FunctionNode {
     bool NeedsNames = false;
     /// Whether it belongs to a class and its own names reach the members.
     bool IsMethod = false;
+    /// Whether it is a static function of a class.
+    bool IsStatic = false;
 };
 
 enum class MemberKind : Byte { Field, Method, Getter, Setter };

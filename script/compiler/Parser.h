@@ -201,6 +201,7 @@ private:
     bool inClass_ = false;
     /// Of the function that is read next.
     bool isMethodNext_ = false;
+    bool isStaticNext_ = false;
     bool isDerivedNext_ = false;
     FunctionNode* function_ = nullptr;
     /// The `tellTarget` around, within the function.

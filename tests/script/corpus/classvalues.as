@@ -48,3 +48,5 @@ trace(inner.grow() + " " + inner.total()); //= 15 65
 trace(inner.above() + holder.tag);         //= holder4
 class Imp extends Enemy { function go() { return hp; } }
 trace(new Imp().go());                     //= 2
+class Table { var v = 3; var rows = { go: function() { return this.v + typeof v; }, v: 8 }; static function make() { return { f: function() { return typeof v; } }; } }
+trace(new Table().rows.go() + " " + Table.make().f()); //= 8number undefined
