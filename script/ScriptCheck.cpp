@@ -22,9 +22,12 @@ ScriptCheckResult FaultAt(Long line, StringView text, StringView more = {}) {
     return {false, line, String(text) + u"（行番号：" + ToText(line) + u"）" + String(more)};
 }
 
-ScriptCheckResult IncludeFault(Long result, const String& chain) {
-    if (result < 0)
-        return FaultAt(-result, u"ファイルが見つかりません。\r\n", u"\r\n\r\n[" + chain + u"]");
+ScriptCheckResult IncludeFault(Long result, const ScriptPreprocessor& preprocessor) {
+    const String& chain = preprocessor.Chain();
+    const String file = u"\r\n\r\n[" + chain + u"]";
+    if (result < 0) return FaultAt(-result, u"ファイルが見つかりません。\r\n", file);
+    if (preprocessor.IsExceeded())
+        return FaultAt(result, u"インクルードが深すぎるか、大きすぎます。", file);
     if (chain.empty()) return FaultAt(result, SyntaxFault);
     return FaultAt(result, u"循環参照です。", u"\r\n\r\n" + ReplaceAll(chain, u",", u" →\r\n"));
 }
@@ -118,20 +121,20 @@ ScriptCheckResult CheckFrame(StringView script, ScriptPreprocessor& preprocessor
     String text(script);
     Long failed = preprocessor.PreprocessScript(text, {});
     preprocessor.CompileInclude = nullptr;
-    if (failed != 0) return IncludeFault(failed, preprocessor.Chain());
+    if (failed != 0) return IncludeFault(failed, preprocessor);
     const ExpandedCheck check(preprocessor, version, hasInitBlocks);
     const ScriptCheckResult result = check.Frame(std::move(text));
     if (!result.Ok || !preprocessor.HasIncluded()) return result;
     text = script;
     failed = preprocessor.PreprocessScript(text, {});
-    return failed != 0 ? IncludeFault(failed, preprocessor.Chain()) : check.Frame(std::move(text));
+    return failed != 0 ? IncludeFault(failed, preprocessor) : check.Frame(std::move(text));
 }
 
 ScriptCheckResult CheckEvents(StringView script, ScriptPreprocessor& preprocessor, ScriptKind kind,
                               Long version) {
     String text(script);
     const Long failed = preprocessor.PreprocessScript(text, {});
-    if (failed != 0) return IncludeFault(failed, preprocessor.Chain());
+    if (failed != 0) return IncludeFault(failed, preprocessor);
     return ExpandedCheck(preprocessor, version, false)
         .Events(text, kind == ScriptKind::Button ? EventScript::Button : EventScript::Clip);
 }

@@ -172,17 +172,23 @@ private:
         settings_.chain_ = std::move(chain);
     }
 
+    void Exceed(Long line, const String& path) {
+        settings_.isExceeded_ = true;
+        Fail(line, path);
+    }
+
     void Include(StringView name, TextEncoding encoding, Long line) {
         String path;
         if (!FindFile(name, path)) return Fail(-line, std::move(path));
         const String& chain = settings_.chain_;
         const String folded = FoldCase(u"," + chain);
-        if (folded.find(u"," + FoldCase(path) + u",") != String::npos || depth_ >= DeepestInclude)
+        if (folded.find(u"," + FoldCase(path) + u",") != String::npos)
             return Fail(line, chain + path);
+        if (depth_ >= DeepestInclude) return Exceed(line, path);
         Bytes bytes;
         if (!ReadFileBytes(path, bytes)) return Fail(-line, std::move(path));
         settings_.expandedSize_ += bytes.size() + CostOfFile;
-        if (settings_.expandedSize_ > MostExpanded) return Fail(line, chain + path);
+        if (settings_.expandedSize_ > MostExpanded) return Exceed(line, path);
         IncludeText(WithCrLf(DecodeText(bytes, encoding)), path, line);
     }
 
@@ -245,6 +251,7 @@ private:
 Long ScriptPreprocessor::PreprocessScript(String& script, StringView baseDir) {
     chain_.clear();
     expandedSize_ = 0;
+    isExceeded_ = false;
     included_.clear();
     if (script.empty()) return 0;
     ScriptExpansion expansion(*this, script, baseDir, 0);

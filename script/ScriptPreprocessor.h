@@ -28,6 +28,9 @@ public:
     /// it. Empty when an included text did not compile.
     const String& Chain() const { return chain_; }
 
+    /// Whether the failure was that files include each other too deeply, or make too long a text.
+    bool IsExceeded() const { return isExceeded_; }
+
     /// Whether the last script had files put into it.
     bool HasIncluded() const { return !included_.empty(); }
     /// The line of the last script given that a line of what was made of it comes from: that of
@@ -49,6 +52,7 @@ private:
     String chain_;
     std::vector<IncludedLines> included_;
     std::size_t expandedSize_ = 0;
+    bool isExceeded_ = false;
 };
 
 }  // namespace tamber

@@ -147,6 +147,11 @@ TEST_F(Includes, in_great_numbers_end) {
     }
     Write(u"30.as", u"x");
     EXPECT_EQ(Expand(u"#include \"0.as\""), u"failed at 1");
+    const ScriptCheckResult result =
+        CheckScript(u"\r\n#include \"0.as\"", ScriptKind::Button, 6, folder_);
+    EXPECT_TRUE(
+        result.Message.starts_with(u"インクルードが深すぎるか、大きすぎます。（行番号：2）"))
+        << ToNarrow(result.Message);
 }
 
 TEST_F(Includes, are_told_by_the_check_with_their_line) {
