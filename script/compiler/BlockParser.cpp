@@ -180,7 +180,7 @@ Node* Parser::Handler() {
     Advance();
     Expect(TokenKind::OpenParenthesis, u"(");
     handler->Name = TakeName(u"変数名");
-    if (function_ == nullptr) handler->Name->IsOwn = true;
+    if (function_ == nullptr) NoteOwn(*handler->Name);
     if (Accept(TokenKind::Colon)) handler->A = CaughtType();
     Expect(TokenKind::CloseParenthesis, u")");
     const Declared caught(*handler->Name, function_ == nullptr ? 0 : function_->Number);

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <vector>
+
 #include "script/compiler/ClassTable.h"
 #include "script/compiler/FaultReport.h"
 
 namespace tamber {
 
-/// Tells what is wrong between a script's classes and interfaces.
+/// Tells what is wrong in and between a script's classes and interfaces.
 class ClassChecker {
 public:
     ClassChecker(ClassTable& classes, FaultReport& faults) : classes_(classes), faults_(faults) {}
@@ -13,10 +15,10 @@ public:
     void Check(const ClassNode& node);
 
 private:
+    void CheckMembers(const ClassNode& node);
     void CheckKind(const Node& name, bool wantsInterface);
-    void CheckImplemented(const ClassNode& node);
-    void CheckMethods(const ClassNode& node, ClassTable::Record& record,
-                      const ClassTable::Record& interface);
+    void CheckInterfaces(const ClassNode& node);
+    std::vector<const ClassTable::Record*> InterfacesOf(const ClassNode& node);
 
     ClassTable& classes_;
     FaultReport& faults_;

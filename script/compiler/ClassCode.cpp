@@ -33,13 +33,22 @@ void CodeGenerator::ClassInPlace(const ClassNode& node) {
     if (plan.HasValuesInPlace) LateFields(node);
 }
 
-/// A base that no class is, but a variable of the script, may be made above.
+/// A base that no class is, but a variable of the script, may be made above. Fields whose values
+/// need more than the player has are set where that is there.
 CodeGenerator::ClassPlan CodeGenerator::PlanOf(const ClassNode& node) {
     ClassTable::Record& record = *classes_.At(*node.Name);
     const Node* base = classes_.UnknownBase(record);
-    const bool isInPlace = base != nullptr && FirstName(*base)->IsOwn;
-    const ValueNeeds needs = NoteLateFields(node, record);
-    return {isInPlace, isInPlace || needs == ValueNeeds::Code, needs != ValueNeeds::Nothing};
+    ClassPlan plan;
+    plan.IsInPlace = plan.HasValuesInPlace = base != nullptr && FirstName(*base)->IsSet;
+    for (const MemberNode* member = node.FirstMember; member; member = member->Next) {
+        if (member->Kind != MemberKind::Field || member->Value == nullptr) continue;
+        const ValueNeeds needs = NeedsOf(*member->Value, record);
+        if (needs == ValueNeeds::Nothing) continue;
+        lateFields_.insert(member);
+        plan.HasLateFields = true;
+        plan.HasValuesInPlace = plan.HasValuesInPlace || needs == ValueNeeds::Code;
+    }
+    return plan;
 }
 
 /// A class is made once, unless it is there. Its packages are objects of the global one.
@@ -142,7 +151,7 @@ void CodeGenerator::Inherit(const ClassNode& node) {
 
 /// Where names are the same in any case, an object may be called like a class of another script.
 void CodeGenerator::PushBase(const Node& base) {
-    const bool isOfOther = ClassNamed(base) == nullptr && !FirstName(base)->IsOwn;
+    const bool isOfOther = ClassNamed(base) == nullptr && !FirstName(base)->IsSet;
     if (!isOfOther) return Expression(base);
     const Label end = code_->NewLabel({});
     ClassPath(base);

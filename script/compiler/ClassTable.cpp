@@ -20,12 +20,15 @@ void ClassTable::Define(const ClassNode& definition) {
     if (record.Name == nullptr) {
         inText_.push_back(&record);
         firstNames_.insert(FirstName(*definition.Name));
+        record.path_ = std::move(path);
+    }
+    // The first counts, and one that makes the class before those that tell of it only.
+    if (record.Name == nullptr || (record.IsIntrinsic && !definition.IsIntrinsic)) {
         record.Name = definition.Name;
         record.Base = definition.Base;
         record.IsInterface = definition.IsInterface;
         record.IsIntrinsic = definition.IsIntrinsic;
-        record.path_ = std::move(path);
-        if (record.Base != nullptr) record.basePath_ = DottedPath(*record.Base);
+        record.basePath_ = record.Base == nullptr ? std::string() : DottedPath(*record.Base);
     }
     record.Definitions.push_back(&definition);
     for (const MemberNode* member = definition.FirstMember; member; member = member->Next)
@@ -34,8 +37,10 @@ void ClassTable::Define(const ClassNode& definition) {
 
 void ClassTable::Add(Record& record, const MemberNode& node) {
     const bool isAccessor = node.Kind == MemberKind::Getter || node.Kind == MemberKind::Setter;
-    const Member member{
-        .IsFound = true, .Class = node.IsStatic ? record.Name : nullptr, .IsAccessor = isAccessor};
+    const Member member{.IsFound = true,
+                        .Class = node.IsStatic ? record.Name : nullptr,
+                        .IsAccessor = isAccessor,
+                        .IsOfPlayer = record.IsIntrinsic && HasPlayerClass(record.path_)};
     const bool isNew = record.members_.insert_or_assign(node.Name, member).second;
     if (isNew) declarers_[node.Name].push_back(&record);
 }
@@ -113,6 +118,12 @@ const Node* ClassTable::UnknownBase(Record& record) {
     const bool isKnown =
         root.Base == nullptr || At(root.basePath_) != nullptr || HasPlayerClass(root.basePath_);
     return isKnown ? nullptr : root.Base;
+}
+
+bool ClassTable::KnowsAllMembers(Record& record) {
+    Settle(record);
+    const Record& root = *record.root_;
+    return root.Base == nullptr || TellsPlayerMembers(root.basePath_);
 }
 
 bool ClassTable::IsCut(Record& record) {

@@ -74,6 +74,8 @@ public:
     /// What a class or one above it extends, when neither the script nor the player tells of it, so
     /// that the class may have members of any name; null otherwise.
     const Node* UnknownBase(Record& record);
+    /// Whether the members of all that a class extends are told.
+    bool KnowsAllMembers(Record& record);
     /// Whether a class extends itself, be it over others, and is where the circle was cut.
     bool IsCut(Record& record);
 

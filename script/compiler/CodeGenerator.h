@@ -4,6 +4,7 @@
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
+#include <vector>
 
 #include "script/compiler/ActionCode.h"
 #include "script/compiler/ClassTable.h"
@@ -127,6 +128,7 @@ private:
     void TellTarget(const Node& node);
     bool SetKnownTarget(const Node& target);
     bool KeepsTargetsApart() const;
+    bool IsInTarget() const;
     void PushKeptTarget(std::size_t scope);
     void LeaveTarget(std::size_t scope);
     void SetKeptTarget(std::size_t scope);
@@ -278,7 +280,6 @@ private:
     void Implement(const ClassNode& node);
     void Members(const ClassNode& node, Skip& skip);
     void SetMember(const ClassNode& node, const MemberNode& member, Skip& skip);
-    ValueNeeds NoteLateFields(const ClassNode& node, ClassTable::Record& record);
     ValueNeeds NeedsOf(const Node& value, ClassTable::Record& record);
     ValueNeeds NeedsOfName(const Symbol& name, ClassTable::Record& record);
     void Fields(const ClassNode& node, bool areLate, Skip& skip);
@@ -299,7 +300,8 @@ private:
     // What names mean in and of classes.
     bool Cast(const Node& node);
     ClassTable::Member FindMember(const Symbol* name);
-    void CheckStatic(const Node& name, const ClassTable::Member& found);
+    void CheckStatic(const Node& name);
+    bool IsInStatic() const { return function_.Node != nullptr && function_.Node->IsStatic; }
     /// Whether the code is that of a function which is called for an object of the class.
     bool RunsForObject() const { return function_.Node != nullptr && function_.Node->IsMethod; }
     bool IsInFieldValue() const { return class_ != nullptr && function_.Node == nullptr; }

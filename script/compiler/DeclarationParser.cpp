@@ -45,7 +45,7 @@ Node* Parser::FunctionRest(Symbol* name, Spot spot) {
     FunctionNode* function = arena_.Make<FunctionNode>();
     node->Function = function;
     function->Name = name;
-    const bool inMethod = function_ != nullptr && function_->IsMethod;
+    const bool inMethod = function_ != nullptr ? function_->IsMethod : inObjectField_;
     const bool isDerived = std::exchange(isDerivedNext_, false);
     function->IsMethod = std::exchange(isMethodNext_, false) || inMethod;
     function->IsStatic = std::exchange(isStaticNext_, false);
@@ -120,7 +120,7 @@ void Parser::Parameter(FunctionNode& function) {
 }
 
 void Parser::Declare(Symbol* name) {
-    if (function_ == nullptr) name->IsOwn = true;
+    if (function_ == nullptr) NoteOwn(*name);
     if (function_ != nullptr && name->DeclaredIn != function_->Number) AddDeclared(name);
 }
 
@@ -209,7 +209,7 @@ Node* Parser::ClassStatement() {
     if (!definition->IsInterface && !IsSpecial(SpecialName::Class)) Fail(u"class が必要です。");
     Advance();
     definition->Name = DottedName();
-    imports_.BeginClass(*definition->Name);
+    imports_.BeginHead(*definition->Name);
     if (IsSpecial(SpecialName::Extends)) {
         Advance();
         if (definition->IsInterface)
@@ -223,8 +223,8 @@ Node* Parser::ClassStatement() {
         Interfaces(*definition);
     }
     Expect(TokenKind::OpenBrace, u"{");
+    imports_.BeginBody();
     inClass_ = true;
-    members_.clear();
     ClassMembers(*definition);
     inClass_ = false;
     imports_.EndClass();
@@ -308,8 +308,9 @@ void Parser::Field(ClassNode& node, bool isStatic) {
         member.Name = TakeName(u"変数名");
         SkipType();
         if (Accept(TokenKind::Assign)) {
-            isMethodNext_ = !isStatic && Is(TokenKind::Function);
+            inObjectField_ = !isStatic;
             member.Value = Assignment();
+            inObjectField_ = false;
         }
         AddMember(node, member);
     } while (Is(TokenKind::Comma));
@@ -320,17 +321,21 @@ void Parser::Method(ClassNode& node, bool isStatic) {
     MemberNode member;
     member.Kind = MemberKind::Method;
     member.IsStatic = isStatic;
-    member.At = token_.At;
+    const Spot spot = token_.At;
     Advance();
     if ((IsSpecial(SpecialName::Get) || IsSpecial(SpecialName::Set)) &&
         Peek().Kind != TokenKind::OpenParenthesis) {
         member.Kind = IsSpecial(SpecialName::Get) ? MemberKind::Getter : MemberKind::Setter;
         Advance();
     }
+    member.At = token_.At;
     member.Name = TakeMemberName();
     const bool isConstructor =
         member.Kind == MemberKind::Method && !isStatic && member.Name == node.Name->Name;
     if (node.IsInterface || node.IsIntrinsic) {
+        if (node.IsInterface && isStatic)
+            Complain(member.At, member.Name->Text,
+                     u"インターフェイスの関数に static は書けません。");
         CheckAccessor(member, Signature());
         if (!isConstructor) AddMember(node, member);
         return EndStatement();
@@ -338,7 +343,7 @@ void Parser::Method(ClassNode& node, bool isStatic) {
     isMethodNext_ = !isStatic;
     isStaticNext_ = isStatic;
     isDerivedNext_ = isConstructor && node.Base != nullptr;
-    member.Value = FunctionRest(nullptr, member.At);
+    member.Value = FunctionRest(nullptr, spot);
     CheckAccessor(member, member.Value->Function->ParameterCount);
     if (!isConstructor) return AddMember(node, member);
     if (node.Constructor != nullptr)
@@ -366,17 +371,7 @@ std::uint32_t Parser::Signature() {
     return signature.ParameterCount;
 }
 
-/// A name stands for one member, or for what gets and what sets one.
 void Parser::AddMember(ClassNode& node, const MemberNode& member) {
-    constexpr unsigned Gets = 1;
-    constexpr unsigned Sets = 2;
-    const unsigned roles = member.Kind == MemberKind::Getter   ? Gets
-                           : member.Kind == MemberKind::Setter ? Sets
-                                                               : Gets | Sets;
-    unsigned& taken = members_[member.Name];
-    if ((taken & roles) != 0)
-        Complain(member.At, member.Name->Text, u"同じ名前のメンバーがあります。");
-    taken |= roles;
     MemberNode* kept = arena_.Make<MemberNode>(member);
     (node.FirstMember == nullptr ? node.FirstMember : node.LastMember->Next) = kept;
     node.LastMember = kept;

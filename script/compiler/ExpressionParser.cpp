@@ -115,7 +115,6 @@ Node* Parser::Assignment() {
     const bool isCompound = token_.Kind >= FirstCompound && token_.Kind <= LastCompound;
     if (!isCompound && !Is(TokenKind::Assign)) return left;
     CheckTarget(*left);
-    if (!inClass_) NoteAssignment(*left);
     Node* node = Make(NodeKind::Assign, token_.At);
     if (isCompound) {
         node->Op =
@@ -126,18 +125,6 @@ Node* Parser::Assignment() {
     node->A = left;
     node->B = Assignment();
     return node;
-}
-
-/// What the script sets is its own: variables, and members of the global object and the timeline.
-void Parser::NoteAssignment(const Node& target) {
-    const Node* member = nullptr;
-    const Node* first = &target;
-    for (; first->Kind == NodeKind::Member; first = first->A) member = first;
-    const bool isName = first->Kind == NodeKind::Name;
-    const bool isShared = isName ? first->Name->Special == SpecialName::Global
-                                 : first->Kind == NodeKind::This && function_ == nullptr;
-    if (member != nullptr && isShared) member->Name->IsOwn = true;
-    if (member == nullptr && isName && first->Name->DeclaredIn == 0) first->Name->IsOwn = true;
 }
 
 Node* Parser::ConditionalRest(Node* condition) {

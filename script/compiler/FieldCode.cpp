@@ -7,19 +7,6 @@
 
 namespace tamber {
 
-/// Fields whose values need more than the player has are set where that is there.
-CodeGenerator::ValueNeeds CodeGenerator::NoteLateFields(const ClassNode& node,
-                                                        ClassTable::Record& record) {
-    ValueNeeds most = ValueNeeds::Nothing;
-    for (const MemberNode* member = node.FirstMember; member; member = member->Next) {
-        if (member->Kind != MemberKind::Field || member->Value == nullptr) continue;
-        const ValueNeeds needs = NeedsOf(*member->Value, record);
-        if (needs != ValueNeeds::Nothing) lateFields_.insert(member);
-        most = std::max(most, needs);
-    }
-    return most;
-}
-
 CodeGenerator::ValueNeeds CodeGenerator::NeedsOf(const Node& value, ClassTable::Record& record) {
     ValueNeeds most = ValueNeeds::Nothing;
     ForEachPart(value, [&](const Node& part) {
@@ -42,7 +29,7 @@ CodeGenerator::ValueNeeds CodeGenerator::NeedsOfName(const Symbol& name,
     const bool isOfTimeline = name.Special == SpecialName::Root ||
                               name.Special == SpecialName::Parent ||
                               name.Special == SpecialName::Global;
-    if (name.IsOwn || isOfTimeline) return ValueNeeds::Code;
+    if (name.IsOwn || name.IsSet || isOfTimeline) return ValueNeeds::Code;
     const bool isOfPlayer = name.BuiltinEntry != nullptr || HasPlayerGlobal(name.Text);
     return isOfPlayer ? ValueNeeds::Nothing : ValueNeeds::Classes;
 }

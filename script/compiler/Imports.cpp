@@ -52,7 +52,7 @@ Imports::Package& Imports::PackageOf(const Path& path) {
     return package;
 }
 
-void Imports::BeginClass(const Node& name) {
+void Imports::BeginHead(const Node& name) {
     EndClass();
     if (name.Kind != NodeKind::Member) return;
     own_ = PathOf(name);
@@ -62,13 +62,15 @@ void Imports::BeginClass(const Node& name) {
 void Imports::EndClass() {
     package_ = nullptr;
     own_.clear();
+    isInBody_ = false;
 }
 
 Imports::Path Imports::Find(Symbol* name) const {
-    if (!own_.empty() && own_.back() == name) return own_;
+    const bool isOwn = !own_.empty() && own_.back() == name;
+    if (isOwn && isInBody_) return own_;
     const auto found = paths_.find(name);
     if (found != paths_.end()) return found->second;
-    const bool isSibling = package_ != nullptr && package_->Classes.contains(name);
+    const bool isSibling = !isOwn && package_ != nullptr && package_->Classes.contains(name);
     return isSibling ? Joined(package_->Names, name) : Path();
 }
 

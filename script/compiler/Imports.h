@@ -21,8 +21,11 @@ public:
     void Add(Path path);
     /// All classes of a package; false when none is known.
     bool AddPackage(const Path& path, SymbolTable& symbols);
-    /// Until its end the other classes of its package are known by their short names.
-    void BeginClass(const Node& name);
+    /// Until its end the other classes of its package are known by their short names, and within
+    /// its body the class itself. In its head, where it is told what it extends, its short name is
+    /// another's.
+    void BeginHead(const Node& name);
+    void BeginBody() { isInBody_ = true; }
     void EndClass();
     /// Empty for a name that stands for itself.
     Path Find(Symbol* name) const;
@@ -45,6 +48,7 @@ private:
     const Package* package_ = nullptr;
     /// Path of that class.
     Path own_;
+    bool isInBody_ = false;
 };
 
 }  // namespace tamber

@@ -14,7 +14,7 @@ bool CodeGenerator::Cast(const Node& node) {
     if (first == nullptr || (!callee.Flag && IsHidden(callee))) return false;
     const bool isName = callee.Kind == NodeKind::Name;
     if (!callee.Flag && ClassNamed(callee) == nullptr) {
-        if (!isName || !IsPlayerClass(first->Text)) return false;
+        if (!isName || !IsCastableClass(first->Text)) return false;
         Expression(*node.B);
         code_->CastOrCall(callee.Name);
         return true;
@@ -27,24 +27,30 @@ bool CodeGenerator::Cast(const Node& node) {
 
 /// Within a class a bare name that no function around declares is a member's, when the class or
 /// one that it extends has such a member. Those of the player's classes are only known in what runs
-/// for one object.
+/// for one object, and a static function has no object.
 ClassTable::Member CodeGenerator::FindMember(const Symbol* name) {
     if (class_ == nullptr || name->Declarations > 0) return {};
     const ClassTable::Member found = classes_.Find(*class_, *name);
-    return found.IsOfPlayer && !RunsForObject() ? ClassTable::Member() : found;
+    const bool hasNone = found.IsOfPlayer ? !RunsForObject() : IsInStatic() && !found.Class;
+    return hasNone ? ClassTable::Member() : found;
 }
 
-/// There is no object whose member a static function could mean.
-void CodeGenerator::CheckStatic(const Node& name, const ClassTable::Member& found) {
-    const bool isStatic = function_.Node != nullptr && function_.Node->IsStatic;
-    if (isStatic && found.Class == nullptr && !found.IsOfPlayer)
+/// A static function cannot mean a member of an object, unless the name means something else there.
+void CodeGenerator::CheckStatic(const Node& name) {
+    if (class_ == nullptr || !IsInStatic() || name.Name->Declarations > 0) return;
+    const Symbol& symbol = *name.Name;
+    const bool isOther = symbol.IsSet || symbol.BuiltinEntry != nullptr ||
+                         symbol.Property != Symbol::NoProperty || HasPlayerGlobal(symbol.Text);
+    if (isOther || function_.Withs > 0 || IsInTarget()) return;
+    const ClassTable::Member found = classes_.Find(*class_, symbol);
+    if (found.IsFound && found.Class == nullptr && !found.IsOfPlayer)
         Complain(name, u"static の関数の中では使用できません。インスタンスのメンバーです。");
 }
 
 /// Whether an object of the class may have a member of the name from a class that the script does
 /// not tell of, and no variable of the script is meant.
 bool CodeGenerator::MayBeInherited(const Symbol& name) {
-    if (class_ == nullptr || !RunsForObject() || name.Declarations > 0 || name.IsOwn) return false;
+    if (class_ == nullptr || !RunsForObject() || name.Declarations > 0 || name.IsSet) return false;
     const bool isMember = name.Special == SpecialName::None || name.Special == SpecialName::Parent;
     const bool isGlobal = name.Text.starts_with("_level") || HasPlayerGlobal(name.Text);
     return isMember && !isGlobal && classes_.UnknownBase(*class_) != nullptr;

@@ -3,9 +3,20 @@
 #include "platform/text.h"
 #include "script/compiler/Builtin.h"
 #include "script/compiler/Parser.h"
+#include "script/compiler/PlayerClasses.h"
 #include "script/compiler/Versions.h"
 
 namespace tamber {
+
+namespace {
+
+/// Whether every clip has a member of the name, so that to set it makes no variable of the
+/// script's.
+bool IsOfClip(const Symbol& name) {
+    return name.Property != Symbol::NoProperty || HasPlayerMember("MovieClip", name.Text);
+}
+
+}  // namespace
 
 bool Parser::IsSlashPathAhead() {
     const bool isStatement = std::exchange(atStatement_, false);
@@ -167,11 +178,16 @@ void Parser::NoteSpecial(SpecialName name) {
     }
 }
 
+/// What is set, by whatever statement or operator.
 void Parser::CheckTarget(const Node& target) {
     switch (target.Kind) {
         case NodeKind::Name:
-        case NodeKind::SlashPath:
+            if (!inClass_ && target.Name->DeclaredIn == 0) NoteOwn(*target.Name);
+            return;
         case NodeKind::Member:
+            if (!inClass_) NoteSharedMember(target);
+            return;
+        case NodeKind::SlashPath:
         case NodeKind::Index:
             return;
         case NodeKind::Call:
@@ -181,6 +197,23 @@ void Parser::CheckTarget(const Node& target) {
             break;
     }
     Complain(token_.At, token_.Text, u"代入できるのは変数とメンバーだけです。");
+}
+
+void Parser::NoteOwn(Symbol& name) {
+    name.IsOwn = true;
+    if (!IsOfClip(name)) name.IsSet = true;
+}
+
+/// A member of the timeline or the global object, or one of what lies there.
+void Parser::NoteSharedMember(const Node& target) {
+    const Node* member = &target;
+    while (member->A->Kind == NodeKind::Member) member = member->A;
+    const Node& object = *member->A;
+    const bool isShared = object.Kind == NodeKind::Name
+                              ? object.Name->Special == SpecialName::Global ||
+                                    object.Name->Special == SpecialName::Root
+                              : object.Kind == NodeKind::This && function_ == nullptr;
+    if (isShared && !IsOfClip(*member->Name)) member->Name->IsSet = true;
 }
 
 Node* Parser::Parenthesised() {

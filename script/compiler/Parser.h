@@ -1,6 +1,6 @@
 #pragma once
 
-#include <unordered_map>
+#include <vector>
 
 #include "script/compiler/ConstantFolder.h"
 #include "script/compiler/Imports.h"
@@ -111,7 +111,6 @@ private:
     // Expressions.
     Node* Expression();
     Node* Assignment();
-    void NoteAssignment(const Node& target);
     Node* ConditionalRest(Node* condition);
     Node* BinaryChain(int lowest);
     Node* Unary();
@@ -140,6 +139,8 @@ private:
     void Arguments(Node* call);
     bool IsSlashPathAhead();
     void CheckTarget(const Node& target);
+    static void NoteOwn(Symbol& name);
+    void NoteSharedMember(const Node& target);
     Node* MakeBinary(Operator op, Node* left, Node* right, Spot spot);
 
     // Functions and classes.
@@ -201,6 +202,8 @@ private:
     bool inClass_ = false;
     /// Of the function that is read next.
     bool isMethodNext_ = false;
+    /// Whether a value is read that all objects of a class have.
+    bool inObjectField_ = false;
     bool isStaticNext_ = false;
     bool isDerivedNext_ = false;
     FunctionNode* function_ = nullptr;
@@ -215,8 +218,6 @@ private:
     std::vector<Use> uses_;
     Imports imports_;
     std::vector<const ClassNode*> classes_;
-    /// What the names of the class that is read are taken for.
-    std::unordered_map<const Symbol*, unsigned> members_;
 };
 
 }  // namespace tamber

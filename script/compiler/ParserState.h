@@ -30,6 +30,7 @@ public:
         parser_.colonsAwaited_ = colonsAwaited_;
         parser_.blocks_ = blocks_;
         parser_.inClass_ = inClass_;
+        parser_.inObjectField_ = false;
         if (!inClass_) parser_.imports_.EndClass();
         parser_.function_ = function_;
         parser_.target_ = target_;

@@ -27,7 +27,7 @@ CodeGenerator::Place CodeGenerator::PlaceOf(const Node& told) {
                 return {PlaceKind::Register, node.Name->Register, 0, node.Name};
             if (IsReachedByPath(node)) return PlaceOfClass(node);
             const ClassTable::Member found = FindMember(node.Name);
-            if (found.IsFound) CheckStatic(node, found);
+            if (!found.IsFound) CheckStatic(node);
             const bool isUncertain = !found.IsFound && !node.Flag && MayBeInherited(*node.Name);
             if (!found.IsFound && !isUncertain) return {.Name = Called(node)};
             return {.Kind = PlaceKind::Member,

@@ -53,7 +53,8 @@ constexpr PlayerClass Classes[] = {
     {"NetConnection", "", "call close connect isConnected onStatus uri"},
     {"NetStream", "",
      "attachAudio attachVideo bufferLength bufferTime bytesLoaded bytesTotal checkPolicyFile close "
-     "currentFps onCuePoint onMetaData onStatus pause play seek setBufferTime time"},
+     "currentFps onCuePoint onMetaData onStatus pause play publish receiveAudio receiveVideo seek "
+     "send setBufferTime time"},
     {"Object", "",
      "addProperty hasOwnProperty isPropertyEnumerable isPrototypeOf toString unwatch valueOf "
      "watch"},
@@ -113,9 +114,9 @@ constexpr std::string_view CastClasses[] = {
 };
 
 /// Those of which no members are told, beside the ones above.
-constexpr std::string_view OtherClasses[] = {"Accessibility", "Boolean", "Function",  "Key",
-                                             "Math",          "Mouse",   "Number",    "Selection",
-                                             "Stage",         "System",  "StyleSheet"};
+constexpr std::string_view OtherClasses[] = {
+    "Accessibility", "AsBroadcaster", "Boolean",   "Function", "Key",    "Math",
+    "Mouse",         "Number",        "Selection", "Stage",    "System", "StyleSheet"};
 
 constexpr std::string_view Globals[] = {"ASSetPropFlags", "Infinity",   "NaN",      "clearInterval",
                                         "clearTimeout",   "escape",     "flash",    "isFinite",
@@ -188,6 +189,10 @@ bool HasPlayerClass(std::string_view className) {
     return Contains(ClassesOfPackage(className.substr(0, dot)), className.substr(dot + 1));
 }
 
+bool TellsPlayerMembers(std::string_view className) {
+    return AllClasses().contains(className);
+}
+
 bool HasPlayerGlobal(std::string_view name) {
     return HasPlayerClass(name) || Contains(Globals, name);
 }
@@ -203,7 +208,7 @@ bool IsOnStage(std::string_view className) {
     return Contains(StageClasses, className);
 }
 
-bool IsPlayerClass(std::string_view name) {
+bool IsCastableClass(std::string_view name) {
     return Contains(CastClasses, name);
 }
 

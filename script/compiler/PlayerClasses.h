@@ -8,6 +8,9 @@ namespace tamber {
 /// Whether the player has a class of that whole name.
 bool HasPlayerClass(std::string_view className);
 
+/// Whether the members of a class of the player are told; of the others the name only is known.
+bool TellsPlayerMembers(std::string_view className);
+
 /// Whether a name is that of one of the player's classes, global functions or values.
 bool HasPlayerGlobal(std::string_view name);
 
@@ -20,7 +23,7 @@ bool HasPlayerMember(std::string_view className, std::string_view member);
 bool IsOnStage(std::string_view className);
 
 /// Whether a call of the name, that of a class of the player, is a cast that converts nothing.
-bool IsPlayerClass(std::string_view name);
+bool IsCastableClass(std::string_view name);
 
 /// Short names of the player's classes in a package; none for a package that it does not have.
 std::span<const std::string_view> ClassesOfPackage(std::string_view package);

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "script/compiler/CodeGenerator.h"
 #include "script/compiler/DottedPath.h"
 #include "script/compiler/Versions.h"
@@ -353,6 +355,14 @@ bool CodeGenerator::SetKnownTarget(const Node& target) {
 /// do not show among its variables.
 bool CodeGenerator::KeepsTargetsApart() const {
     return version_ >= FirstObjectVersion && function_.Node == nullptr;
+}
+
+bool CodeGenerator::IsInTarget() const {
+    return std::any_of(scopes_.begin() + static_cast<std::ptrdiff_t>(function_.FirstScope),
+                       scopes_.end(), [](const Scope& scope) {
+                           return scope.Kind == ScopeKind::KnownTarget ||
+                                  scope.Kind == ScopeKind::TellTarget;
+                       });
 }
 
 void CodeGenerator::PushKeptTarget(std::size_t scope) {

@@ -64,6 +64,8 @@ struct Symbol {
     const Builtin* BuiltinEntry = nullptr;
     /// Whether the script gives a variable of the timeline that name.
     bool IsOwn = false;
+    /// Whether it sets such a variable, or a member of the timeline or the global object.
+    bool IsSet = false;
 
     /// Register that holds the variable in the function whose code is being made.
     Byte Register = NoRegister;

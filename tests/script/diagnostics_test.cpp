@@ -58,6 +58,8 @@ TEST(Diagnostics, NameTheLineAndTheToken) {
         {6, "interface I { function f(); }\ninterface J extends I { }\nclass A implements J { }", 3,
          "A"},
         {6, "interface I { }\ninterface J implements I { }", 2, "implements"},
+        {6, "interface I extends J { }\ninterface J extends I { }", 1, "I"},
+        {6, "interface I { static function f(); }", 1, "f"},
         {6, "interface I {\n  var x; }", 2, "var"},
         {6, "class A { var x; function f() { }\n static function g() {\n return x; } }", 3, "x"},
         {6, "delete eval();", 1, "eval"},
