@@ -31,10 +31,12 @@ void ClassChecker::Check(const ClassNode& node) {
     CheckInterfaces(node);
 }
 
-/// A name stands for one member, or for what gets and what sets one.
+/// A name stands for one value or function, or for what gets and what sets a value. To tell of a
+/// variable that a function of the class has the name of harms nothing.
 void ClassChecker::CheckMembers(const ClassNode& node) {
     std::unordered_map<const Symbol*, unsigned> taken;
     for (const MemberNode* member = node.FirstMember; member; member = member->Next) {
+        if (member->Kind == MemberKind::Field && member->Value == nullptr) continue;
         const unsigned roles = RolesOf(member->Kind);
         unsigned& known = taken[member->Name];
         if ((known & roles) != 0) faults_.Error(member->At, u"同じ名前のメンバーがあります。");

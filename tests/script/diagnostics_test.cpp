@@ -48,7 +48,7 @@ TEST(Diagnostics, NameTheLineAndTheToken) {
         {6, "eval() = 2;", 1, "="},
         {6, "class A {\n  function f() { eval() = 2; } }\nclass B extends A { }", 2, "="},
         {6, "class A { function f() { ---x; } }", 1, ";"},
-        {6, "class A {\n var x;\n function x() { } }", 3, "x"},
+        {6, "class A {\n var x = 1;\n function x() { } }", 3, "x"},
         {6, "class A { function get x() { }\n function get x() { } }", 2, "x"},
         {6, "class A { function get x(a) { } }", 1, "x"},
         {6, "class A { function set x() { } }", 1, "x"},

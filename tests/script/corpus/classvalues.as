@@ -50,3 +50,18 @@ class Imp extends Enemy { function go() { return hp; } }
 trace(new Imp().go());                     //= 2
 class Table { var v = 3; var rows = { go: function() { return this.v + typeof v; }, v: 8 }; static function make() { return { f: function() { return typeof v; } }; } }
 trace(new Table().rows.go() + " " + Table.make().f()); //= 8number undefined
+// Names that mean something else than a member of an object.
+class Log { var x = 1; var said; var hits; function trace(m) { said = m; } static function out(m) { trace(m); } static function put(o) { with (o) { x = 7; } return o.x + hits; } var func; function func(t) { return t * 2; } }
+hits = 2;
+Log.out("told");                           //= told
+trace(Log.put({ x: 0 }) + new Log().func(4)); //= 17
+class pack.Sound extends Sound { function kind() { return "pack"; } }
+trace(new pack.Sound(this).kind());        //= pack
+intrinsic class Told { var a; }
+class Teller { function z() { return "z"; } }
+class Told extends Teller { function q() { return z(); } }
+trace(new Told().q());                     //= z
+class Config { var v = 3; static var n = 4; }
+class SubConfig extends Config { }
+_global.SubConfig = SubConfig;
+trace(Config(new Config()).v + SubConfig.n); //= 7
