@@ -11,6 +11,7 @@
 #include "document/clsPropertyButton.h"
 #include "document/clsPropertyClass.h"
 #include "document/clsPropertyKoma.h"
+#include "document/clsPropertyLinkSymbol.h"
 #include "document/clsPropertyMovieEmp.h"
 #include "document/clsPropertyText.h"
 #include "document/clsPropertyVector.h"
@@ -118,6 +119,21 @@ TEST_F(LibraryCommands, new_symbols_have_numbers_names_and_sizes) {
     main_.ChangeSprite(1);
     main_.mnuAddSymbolItem_Sprite(Accept);
     EXPECT_EQ(Symbol(9)->PixelWidth(), 50);
+}
+
+TEST_F(LibraryCommands, classes_of_other_movies_are_asked_for_by_the_name_of_their_export) {
+    const auto linked = [this](StringView name, Long kind) {
+        main_.mnuAddSymbolItem_Link([&](clsSymbolData& symbol) {
+            auto& link = *symbol.Property<clsPropertyLinkSymbol>();
+            link.SymbolName = name;
+            link.eSymbolType(kind);
+            return true;
+        });
+        return Symbol(main_.colSymbol()->Count())->Property<clsPropertyLinkSymbol>()->SymbolName;
+    };
+    EXPECT_EQ(linked(u"a.B", KindClass), u"__Packages.a.B");
+    EXPECT_EQ(linked(u"__Packages.a.C", KindClass), u"__Packages.a.C");
+    EXPECT_EQ(linked(u"ball", KindSprite), u"ball");
 }
 
 TEST_F(LibraryCommands, classes_have_names_of_their_own) {
