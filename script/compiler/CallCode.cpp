@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "platform/text.h"
 #include "script/compiler/CodeGenerator.h"
 #include "script/compiler/NumberText.h"
@@ -25,6 +27,30 @@ std::uint32_t MethodNamed(std::string_view name) {
     const std::string lower = Lower(name);
     if (lower == "get") return MethodGet;
     return lower == "post" ? MethodPost : 0;
+}
+
+/// Which argument of a function is the clip that a method is called of; NoMethod when clips have no
+/// such method.
+enum class ClipArgument : Byte { None, First, Second, NoMethod };
+
+ClipArgument ClipArgumentOf(const Builtin& builtin) {
+    switch (builtin.Form) {
+        case BuiltinForm::OfClip:
+        case BuiltinForm::UnloadMovie:
+        case BuiltinForm::Duplicate:
+        case BuiltinForm::StartDrag:
+            return ClipArgument::First;
+        case BuiltinForm::LoadMovie:
+        case BuiltinForm::LoadVariables:
+            return ClipArgument::Second;
+        case BuiltinForm::GetProperty:
+        case BuiltinForm::SetProperty:
+        case BuiltinForm::Print:
+        case BuiltinForm::PrintAsBitmap:
+            return ClipArgument::NoMethod;
+        default:
+            return ClipArgument::None;
+    }
 }
 
 bool IsWhole(const Node& node, double low, double high) {
@@ -106,22 +132,55 @@ bool CodeGenerator::CallInSlashPath(const Node& node) {
 }
 
 bool CodeGenerator::CallInTarget(const std::string& path, Symbol* name, const Node& node) {
-    if (name->BuiltinEntry == nullptr) {
+    const Builtin* builtin = name->BuiltinEntry;
+    const ClipArgument clip =
+        builtin == nullptr ? ClipArgument::NoMethod : ClipArgumentOf(*builtin);
+    if (clip == ClipArgument::NoMethod) {
         Complain(node, u"この名前の関数はパスで呼び出せません。");
         return true;
     }
-    code_->Emit(ItemKind::SetTarget, PathText(node, path)->Index);
-    const bool hasValue = BuiltinCall(*name->BuiltinEntry, node);
+    Symbol* const target = PathText(node, path);
+    if (clip != ClipArgument::None)
+        return CallForClip(*builtin, *target, clip == ClipArgument::Second, node);
+    code_->Emit(ItemKind::SetTarget, target->Index);
+    const bool hasValue = BuiltinCall(*builtin, node);
     RestoreTarget(scopes_.size());
     return hasValue;
 }
 
+/// A method's call as one of the function, which takes the clip as its first or second argument.
+bool CodeGenerator::CallForClip(const Builtin& builtin, Symbol& target, bool isSecond,
+                                const Node& node) {
+    if (!builtin.Takes(node.Count + 1)) {
+        WrongCount(node, builtin.MinArguments - 1, builtin.MaxArguments - 1);
+        return builtin.HasValue;
+    }
+    Node clip;
+    clip.Kind = NodeKind::Text;
+    clip.At = node.At;
+    clip.Name = &target;
+    Node first;
+    Node call = node;
+    ++call.Count;
+    if (isSecond) {
+        first = *node.B;
+        clip.Next = std::exchange(first.Next, &clip);
+    } else {
+        clip.Next = node.B;
+    }
+    call.B = isSecond ? &first : &clip;
+    return BuiltinCall(builtin, call);
+}
+
+void CodeGenerator::WrongCount(const Node& node, Long least, Long most) {
+    String text = u"引数の数が正しくありません。（" + ToText(least);
+    if (most != least) text += u"～" + ToText(most);
+    Complain(node, text + u"個）");
+}
+
 bool CodeGenerator::BuiltinCall(const Builtin& builtin, const Node& node) {
     if (!builtin.Takes(node.Count)) {
-        String text = u"引数の数が正しくありません。（" + ToText(Long{builtin.MinArguments});
-        if (builtin.MaxArguments != builtin.MinArguments)
-            text += u"～" + ToText(Long{builtin.MaxArguments});
-        Complain(node, text + u"個）");
+        WrongCount(node, builtin.MinArguments, builtin.MaxArguments);
         return builtin.HasValue;
     }
     if (version_ < builtin.MinVersion) NeedVersion5(node);

@@ -240,6 +240,8 @@ private:
     void MethodCall(const Node& node);
     bool CallInSlashPath(const Node& node);
     bool CallInTarget(const std::string& path, Symbol* name, const Node& node);
+    bool CallForClip(const Builtin& builtin, Symbol& target, bool isSecond, const Node& node);
+    void WrongCount(const Node& node, Long least, Long most);
     void Target(const Node& node);
     static bool IsClipName(const Node& node);
     void PushArguments(const Node& node);

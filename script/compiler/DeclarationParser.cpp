@@ -189,8 +189,10 @@ Node* Parser::ImportStatement() {
 bool Parser::IsClassAhead() {
     if (!Is(TokenKind::Identifier)) return false;
     const SpecialName name = token_.Name->Special;
-    return name >= SpecialName::Class && name <= SpecialName::Intrinsic &&
-           Peek().Kind == TokenKind::Identifier;
+    if (name < SpecialName::Class || name > SpecialName::Intrinsic) return false;
+    const TokenKind next = Peek().Kind;
+    const bool lacksName = next == TokenKind::OpenBrace || next == TokenKind::Number;
+    return next == TokenKind::Identifier || (lacksName && name <= SpecialName::Interface);
 }
 
 Node* Parser::ClassStatement() {

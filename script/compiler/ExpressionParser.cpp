@@ -110,8 +110,10 @@ Node* Parser::Expression() {
 
 Node* Parser::Assignment() {
     const Level level(*this);
+    const bool mayHaveType = atStatement_ && version_ >= FirstStrictVersion;
     Node* left = BinaryChain(1);
     if (Is(TokenKind::Question)) return ConditionalRest(left);
+    if (mayHaveType && left->Kind == NodeKind::Member) SkipType();
     const bool isCompound = token_.Kind >= FirstCompound && token_.Kind <= LastCompound;
     if (!isCompound && !Is(TokenKind::Assign)) return left;
     CheckTarget(*left);

@@ -62,7 +62,8 @@ Node* Parser::Primary() {
         case TokenKind::Function: {
             const Spot spot = token_.At;
             Advance();
-            if (Is(TokenKind::OpenParenthesis)) return FunctionRest(nullptr, spot);
+            if (Is(TokenKind::OpenParenthesis) || Is(TokenKind::OpenBrace))
+                return FunctionRest(nullptr, spot);
             return FunctionRest(FunctionName(), spot);
         }
         default:

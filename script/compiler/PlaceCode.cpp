@@ -1,5 +1,8 @@
+#include <algorithm>
+
 #include "script/compiler/CodeGenerator.h"
 #include "script/compiler/Versions.h"
+#include "script/compiler/Vocabulary.h"
 
 namespace tamber {
 
@@ -8,6 +11,16 @@ namespace {
 /// Registers of a timeline's code for an object and its key; register 0 holds values.
 constexpr Byte ObjectRegister = 1;
 constexpr Byte KeyRegister = 2;
+
+/// Version 4 knows _root and _parent as "/" and ".." only.
+std::string WithoutClipName(std::string_view path) {
+    const std::size_t end = std::min(path.find_first_of("/:"), path.size());
+    const std::string first = Lower(path.substr(0, end));
+    const std::string_view rest = path.substr(end);
+    if (first == "_parent") return std::string("..").append(rest);
+    if (first != "_root") return std::string(path);
+    return rest.starts_with('/') ? std::string(rest) : std::string("/").append(rest);
+}
 
 }  // namespace
 
@@ -68,7 +81,7 @@ CodeGenerator::Place CodeGenerator::PlaceOfVersion4(const Node& node) {
                                 ? symbols_.InternCopy(path)
                                 : node.Name};
         case NodeKind::SlashPath:
-            return {.Name = node.Name};
+            return {.Name = symbols_.InternCopy(WithoutClipName(node.Name->Text))};
         case NodeKind::Member:
             if (!SlashPathOf(*node.A, path)) break;
             if (node.Name->Property != Symbol::NoProperty)
@@ -104,7 +117,7 @@ bool CodeGenerator::SlashPathOf(const Node& node, std::string& path) const {
         path += name.Special == SpecialName::Parent ? ".." : name.Text;
     };
     if (part->Kind == NodeKind::SlashPath)
-        path = part->Name->Text;
+        path = WithoutClipName(part->Name->Text);
     else if (part->Kind == NodeKind::Name && part->Name->Special == SpecialName::Root)
         path = "/";
     else if (part->Kind == NodeKind::Name)

@@ -175,7 +175,7 @@ def write_grids():
 
 
 def write_classes():
-    animal = """var legs = 4;
+    animal = """var legs:Number = 4;
 var kind;
 function Animal(name) { this.name = name; }
 function speak() { return this.name + " has " + this.legs + " legs"; }

@@ -65,3 +65,7 @@ class Config { var v = 3; static var n = 4; }
 class SubConfig extends Config { }
 _global.SubConfig = SubConfig;
 trace(Config(new Config()).v + SubConfig.n); //= 7
+typed = { x: 1 };
+typed.x:Number = 5;
+typed.list:pack.Sound = null;
+trace(typed.x + " " + typed.list);         //= 5 null
