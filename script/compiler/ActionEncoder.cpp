@@ -339,13 +339,13 @@ void ActionEncoder::WriteUrl(const ActionCode::UrlRecord& record) {
     Chars(record.Target->Text);
 }
 
-/// Whether the script has a variable of the timeline of that name, as the version compares names.
+/// Whether the script has something of its own of that name, as the version compares names.
 bool ActionEncoder::IsOwn(const Symbol& name) {
-    if (name.IsOwn || version_ >= FirstCaseVersion) return name.IsOwn;
+    if (name.IsOfScript() || version_ >= FirstCaseVersion) return name.IsOfScript();
     if (!ownNames_) {
         ownNames_.emplace();
         for (const Symbol& symbol : symbols_.All())
-            if (symbol.IsOwn) ownNames_->insert(Lower(symbol.Text));
+            if (symbol.IsOfScript()) ownNames_->insert(Lower(symbol.Text));
     }
     return ownNames_->contains(Lower(name.Text));
 }

@@ -80,7 +80,7 @@ private:
     std::vector<OpenBlock> blocks_;
     std::vector<OpenJump> jumps_;
     std::vector<std::size_t> labels_;
-    /// The script's own variables in lower case, once they are asked for.
+    /// The script's own names in lower case, once they are asked for.
     std::optional<std::unordered_set<std::string>> ownNames_;
 };
 

@@ -19,6 +19,8 @@ constexpr std::uint32_t MethodPost = 2;
 constexpr Long FirstDepth = 16384;
 constexpr std::uint32_t GotoPlays = 1;
 constexpr std::size_t MaxUrlRecord = 60000;
+/// Number of the property that is the path of a clip.
+constexpr Long TargetProperty = 11;
 constexpr std::string_view VersionPath = "/:$version";
 constexpr std::string_view LevelName = "_level";
 
@@ -127,8 +129,8 @@ bool CodeGenerator::CallInSlashPath(const Node& node) {
     const std::size_t slash = text.rfind('/');
     Symbol* name = symbols_.Intern(slash == text.npos ? text : text.substr(slash + 1));
     if (!name->IsClassified) Classify(*name, version_);
-    const std::string path(slash == 0 ? "/" : text.substr(0, slash == text.npos ? 0 : slash));
-    return CallInTarget(path, name, node);
+    const std::string_view path = slash == 0 ? "/" : text.substr(0, slash == text.npos ? 0 : slash);
+    return CallInTarget(WithoutClipName(path), name, node);
 }
 
 bool CodeGenerator::CallInTarget(const std::string& path, Symbol* name, const Node& node) {
@@ -142,10 +144,22 @@ bool CodeGenerator::CallInTarget(const std::string& path, Symbol* name, const No
     Symbol* const target = PathText(node, path);
     if (clip != ClipArgument::None)
         return CallForClip(*builtin, *target, clip == ClipArgument::Second, node);
-    code_->Emit(ItemKind::SetTarget, target->Index);
+    EnterTarget(*target);
     const bool hasValue = BuiltinCall(*builtin, node);
     RestoreTarget(scopes_.size());
     return hasValue;
+}
+
+/// The player looks for a target from the script's own clip, but for the clips of properties from
+/// the target that is set.
+void CodeGenerator::EnterTarget(Symbol& path) {
+    const bool isFromOwn = !IsInTarget() || path.Text.starts_with('/');
+    if (isFromOwn) return code_->Emit(ItemKind::SetTarget, path.Index);
+    if (path.Text.empty()) return;
+    code_->PushText(&path);
+    PushInteger(TargetProperty);
+    code_->Emit(Opcode::GetProperty);
+    code_->Emit(Opcode::SetTarget2);
 }
 
 /// A method's call as one of the function, which takes the clip as its first or second argument.

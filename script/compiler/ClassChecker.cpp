@@ -19,6 +19,14 @@ unsigned RolesOf(MemberKind kind) {
     return kind == MemberKind::Setter ? Sets : Gets | Sets;
 }
 
+bool HaveSameMembers(const ClassNode& a, const ClassNode& b) {
+    const MemberNode* one = a.FirstMember;
+    const MemberNode* other = b.FirstMember;
+    for (; one != nullptr && other != nullptr; one = one->Next, other = other->Next)
+        if (one->Name != other->Name || one->Kind != other->Kind) return false;
+    return one == other;
+}
+
 }  // namespace
 
 void ClassChecker::Check(const ClassNode& node) {
@@ -27,8 +35,18 @@ void ClassChecker::Check(const ClassNode& node) {
     for (const Node* name = node.Interfaces.First; name != nullptr; name = name->Next)
         CheckKind(*name, true);
     if (node.IsIntrinsic) return;
+    CheckAgain(node);
     CheckMembers(node);
     CheckInterfaces(node);
+}
+
+/// A text may be included twice, but what is another class needs another name.
+void ClassChecker::CheckAgain(const ClassNode& node) {
+    const auto& definitions = classes_.At(*node.Name)->Definitions;
+    const auto first = std::find_if(definitions.begin(), definitions.end(),
+                                    [](const ClassNode* one) { return !one->IsIntrinsic; });
+    if (!HaveSameMembers(**first, node))
+        faults_.Error(node.Name->At, u"同じ名前の別のクラスがあります。");
 }
 
 /// A name stands for one value or function, or for what gets and what sets a value. To tell of a
@@ -63,11 +81,14 @@ void ClassChecker::CheckInterfaces(const ClassNode& node) {
     if (!classes_.KnowsAllMembers(record)) return;
     String lacking;
     std::unordered_set<const Symbol*> asked;
+    const auto has = [&](const Symbol& name) {
+        return classes_.Find(record, name).IsFound ||
+               (node.Constructor != nullptr && &name == node.Name->Name);
+    };
     for (const ClassTable::Record* one : interfaces)
         for (const ClassNode* definition : one->Definitions)
             for (const MemberNode* member = definition->FirstMember; member; member = member->Next)
-                if (asked.insert(member->Name).second &&
-                    !classes_.Find(record, *member->Name).IsFound)
+                if (asked.insert(member->Name).second && !has(*member->Name))
                     lacking += (lacking.empty() ? u"" : u"、") + faults_.Shown(member->Name->Text);
     if (!lacking.empty())
         faults_.Error(node.Name->At, u"インターフェイスの関数 " + lacking + u" がありません。");

@@ -15,6 +15,7 @@ public:
     void Check(const ClassNode& node);
 
 private:
+    void CheckAgain(const ClassNode& node);
     void CheckMembers(const ClassNode& node);
     void CheckKind(const Node& name, bool wantsInterface);
     void CheckInterfaces(const ClassNode& node);

@@ -37,10 +37,11 @@ void ClassTable::Define(const ClassNode& definition) {
 
 void ClassTable::Add(Record& record, const MemberNode& node) {
     const bool isAccessor = node.Kind == MemberKind::Getter || node.Kind == MemberKind::Setter;
-    const Member member{.IsFound = true,
-                        .Class = node.IsStatic ? record.Name : nullptr,
-                        .IsAccessor = isAccessor,
-                        .IsOfPlayer = record.IsIntrinsic && HasPlayerClass(record.path_)};
+    const Member member{
+        .IsFound = true,
+        .Class = node.IsStatic ? record.Name : nullptr,
+        .IsAccessor = isAccessor,
+        .IsOfPlayer = !node.IsStatic && record.IsIntrinsic && HasPlayerClass(record.path_)};
     const bool isNew = record.members_.insert_or_assign(node.Name, member).second;
     if (isNew) declarers_[node.Name].push_back(&record);
 }

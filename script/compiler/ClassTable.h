@@ -61,6 +61,8 @@ public:
     /// Adds what a definition says to what is known of its class.
     void Define(const ClassNode& definition);
     bool IsEmpty() const { return records_.empty(); }
+    /// Whether the path of a class begins with a name.
+    bool BeginsClass(const Symbol& name) const { return firstNames_.contains(&name); }
     /// Null for a path that is no class's.
     Record* At(const Node& path);
     /// Each class behind those that it extends or implements, and otherwise as they were defined.

@@ -229,6 +229,7 @@ private:
     void ChooseKeyRegisters();
     Symbol* PathText(const Node& node, std::string_view path);
     bool SlashPathOf(const Node& node, std::string& path) const;
+    static std::string WithoutClipName(std::string_view path);
 
     // Calls.
     /// False when the call leaves no value.
@@ -241,6 +242,7 @@ private:
     bool CallInSlashPath(const Node& node);
     bool CallInTarget(const std::string& path, Symbol* name, const Node& node);
     bool CallForClip(const Builtin& builtin, Symbol& target, bool isSecond, const Node& node);
+    void EnterTarget(Symbol& path);
     void WrongCount(const Node& node, Long least, Long most);
     void Target(const Node& node);
     static bool IsClipName(const Node& node);

@@ -19,6 +19,7 @@ public:
     const Diagnostics& Found() const { return found_; }
 
 private:
+    bool IsTold(Spot spot, const String& text) const;
     std::string_view TokenAt(Spot spot) const;
 
     std::string_view source_;

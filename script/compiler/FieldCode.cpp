@@ -29,7 +29,8 @@ CodeGenerator::ValueNeeds CodeGenerator::NeedsOfName(const Symbol& name,
     const bool isOfTimeline = name.Special == SpecialName::Root ||
                               name.Special == SpecialName::Parent ||
                               name.Special == SpecialName::Global;
-    if (name.IsOwn || name.IsSet || isOfTimeline) return ValueNeeds::Code;
+    if (classes_.BeginsClass(name) && !name.IsOwn) return ValueNeeds::Classes;
+    if (name.IsOfScript() || isOfTimeline) return ValueNeeds::Code;
     const bool isOfPlayer = name.BuiltinEntry != nullptr || HasPlayerGlobal(name.Text);
     return isOfPlayer ? ValueNeeds::Nothing : ValueNeeds::Classes;
 }

@@ -26,20 +26,21 @@ bool CodeGenerator::Cast(const Node& node) {
 }
 
 /// Within a class a bare name that no function around declares is a member's, when the class or
-/// one that it extends has such a member. Those of the player's classes are only known in what runs
-/// for one object, and a static function has no object.
+/// one that it extends has such a member. In a function that does not run for one object there is
+/// none whose member it could mean; in the value of a field it is the prototype's, but those of the
+/// player's classes are only known in functions.
 ClassTable::Member CodeGenerator::FindMember(const Symbol* name) {
     if (class_ == nullptr || name->Declarations > 0) return {};
     const ClassTable::Member found = classes_.Find(*class_, *name);
-    const bool hasNone = found.IsOfPlayer ? !RunsForObject() : IsInStatic() && !found.Class;
-    return hasNone ? ClassTable::Member() : found;
+    const bool needsObject = found.Class == nullptr && (!IsInFieldValue() || found.IsOfPlayer);
+    return needsObject && !RunsForObject() ? ClassTable::Member() : found;
 }
 
 /// A static function cannot mean a member of an object, unless the name means something else there.
 void CodeGenerator::CheckStatic(const Node& name) {
     if (class_ == nullptr || !IsInStatic() || name.Name->Declarations > 0) return;
     const Symbol& symbol = *name.Name;
-    const bool isOther = symbol.IsSet || symbol.BuiltinEntry != nullptr ||
+    const bool isOther = symbol.IsOfScript() || symbol.BuiltinEntry != nullptr ||
                          symbol.Property != Symbol::NoProperty || HasPlayerGlobal(symbol.Text);
     if (isOther || function_.Withs > 0 || IsInTarget()) return;
     const ClassTable::Member found = classes_.Find(*class_, symbol);

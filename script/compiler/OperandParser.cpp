@@ -212,7 +212,8 @@ void Parser::NoteSharedMember(const Node& target) {
     const Node& object = *member->A;
     const bool isShared = object.Kind == NodeKind::Name
                               ? object.Name->Special == SpecialName::Global ||
-                                    object.Name->Special == SpecialName::Root
+                                    object.Name->Special == SpecialName::Root ||
+                                    object.Name->Text.starts_with("_level")
                               : object.Kind == NodeKind::This && function_ == nullptr;
     if (isShared && !IsOfClip(*member->Name)) member->Name->IsSet = true;
 }

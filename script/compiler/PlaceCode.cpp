@@ -12,16 +12,6 @@ namespace {
 constexpr Byte ObjectRegister = 1;
 constexpr Byte KeyRegister = 2;
 
-/// Version 4 knows _root and _parent as "/" and ".." only.
-std::string WithoutClipName(std::string_view path) {
-    const std::size_t end = std::min(path.find_first_of("/:"), path.size());
-    const std::string first = Lower(path.substr(0, end));
-    const std::string_view rest = path.substr(end);
-    if (first == "_parent") return std::string("..").append(rest);
-    if (first != "_root") return std::string(path);
-    return rest.starts_with('/') ? std::string(rest) : std::string("/").append(rest);
-}
-
 }  // namespace
 
 /// A member of the class that is called like an imported class is meant by that name.
@@ -105,6 +95,16 @@ Symbol* CodeGenerator::PathText(const Node& node, std::string_view path) {
 
 void CodeGenerator::NeedVersion5(const Node& node) {
     Complain(node, u"SWF4では使用できません。SWF5以降にして下さい。");
+}
+
+/// Version 4 knows _root and _parent as "/" and ".." only.
+std::string CodeGenerator::WithoutClipName(std::string_view path) {
+    const std::size_t end = std::min(path.find_first_of("/:"), path.size());
+    const std::string first = Lower(path.substr(0, end));
+    const std::string_view rest = path.substr(end);
+    if (first == "_parent") return std::string("..").append(rest);
+    if (first != "_root") return std::string(path);
+    return rest.starts_with('/') ? std::string(rest) : std::string("/").append(rest);
 }
 
 /// The path of a clip that a name with dots stands for; false for what is no such name.

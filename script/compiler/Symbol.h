@@ -66,6 +66,8 @@ struct Symbol {
     bool IsOwn = false;
     /// Whether it sets such a variable, or a member of the timeline or the global object.
     bool IsSet = false;
+    /// Whether code of the script may mean something of its own by the name.
+    bool IsOfScript() const { return IsOwn || IsSet; }
 
     /// Register that holds the variable in the function whose code is being made.
     Byte Register = NoRegister;

@@ -60,6 +60,7 @@ TEST(Diagnostics, NameTheLineAndTheToken) {
         {6, "interface I { }\ninterface J implements I { }", 2, "implements"},
         {6, "interface I extends J { }\ninterface J extends I { }", 1, "I"},
         {6, "interface I { static function f(); }", 1, "f"},
+        {6, "class A { }\nclass A { }\nclass A { var x; }", 3, "A"},
         {6, "class { }", 1, "{"},
         {6, "x = function { };", 1, "{"},
         {4, "clip.setProperty(_x, 5, 6);", 1, "setProperty"},

@@ -69,3 +69,11 @@ typed = { x: 1 };
 typed.x:Number = 5;
 typed.list:pack.Sound = null;
 trace(typed.x + " " + typed.list);         //= 5 null
+class Game { var score = 0; static var h = function() { return typeof score; }; static function start(o) { o.go = function() { score = 5; }; o.go(); return o.score + "," + score2; } }
+score2 = 7;
+trace(Game.start({ score: 1 }) + "," + score + Game.h()); //= 1,7,5number
+intrinsic class Math { static function max(a, b); static var PI; }
+class Calc extends Math { static function f() { return max(1, 2); } static var two = PI > 3; }
+trace(Calc.f() + " " + Calc.two);          //= 2 true
+this.XML = function(x) { return "own" + x; };
+trace(XML(3));                             //= own3
