@@ -179,7 +179,7 @@ void Parser::NoteSpecial(SpecialName name) {
     }
 }
 
-/// What is set, by whatever statement or operator.
+/// Tells of what cannot be set, and notes what of its own the script sets.
 void Parser::CheckTarget(const Node& target) {
     switch (target.Kind) {
         case NodeKind::Name:

@@ -61,6 +61,7 @@ TEST(Code, OfVersion4NamesClipsByTheirPaths) {
         {4, "a.c.startDrag(true);", "startDrag(\"a/c\", true);"},
         {4, "a.removeMovieClip();", "removeMovieClip(\"a\");"},
         {4, "/a/removeMovieClip();", "removeMovieClip(\"/a\");"},
+        {4, "_root/a/play(); _parent/b/stop();", "/a/play(); ../b/stop();"},
         {4, "_root.a.duplicateMovieClip(\"b\", 2);", "duplicateMovieClip(\"/a\", \"b\", 2);"},
         {4, "a.loadMovie(\"u\");", "loadMovie(\"u\", \"a\");"},
         {4, "a.loadMovie(\"u\", \"POST\");", "loadMovie(\"u\", \"a\", \"POST\");"},

@@ -84,3 +84,5 @@ gotoAndPlay("f4");
 trace("frame 3");
 //@ frame 4
 trace("frame 4");    //= frame 4
+tellTarget("/clip") { ../clip/gotoAndStop(2); ../clip/nextFrame(); }
+trace(getProperty("/clip", _currentframe)); //= 3

@@ -24,3 +24,6 @@ holder = "/second"; trace(getProperty(holder, _name)); //= second
 setProperty(clip._target, _x, 22); trace(clip._x); //= 22
 removeMovieClip(_root.second); trace(length(getProperty("/second", _name))); //=-6 0
                         //=7+ 9
+duplicateMovieClip("clip", "third", 4);
+tellTarget("/clip") { _parent.third.gotoAndStop(3); }
+trace(third._currentframe);             //= 3
