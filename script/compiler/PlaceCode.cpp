@@ -116,14 +116,9 @@ bool CodeGenerator::SlashPathOf(const Node& node, std::string& path) const {
         if (!path.empty() && path.back() != '/') path += '/';
         path += name.Special == SpecialName::Parent ? ".." : name.Text;
     };
-    if (part->Kind == NodeKind::SlashPath)
-        path = WithoutClipName(part->Name->Text);
-    else if (part->Kind == NodeKind::Name && part->Name->Special == SpecialName::Root)
-        path = "/";
-    else if (part->Kind == NodeKind::Name)
-        add(*part->Name);
-    else if (part->Kind != NodeKind::This)
-        return false;
+    const bool isNamed = part->Kind == NodeKind::SlashPath || part->Kind == NodeKind::Name;
+    if (!isNamed && part->Kind != NodeKind::This) return false;
+    if (isNamed) path = WithoutClipName(part->Name->Text);
     while (!parts.empty()) {
         add(*parts.back()->Name);
         parts.pop_back();
