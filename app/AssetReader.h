@@ -2,7 +2,7 @@
 
 #include "document/ProjectReader.h"
 #include "platform/fonts.h"
-#include "swf/TextMeasure.h"
+#include "swf/authoring/TextMeasure.h"
 
 namespace tamber {
 

@@ -2,12 +2,12 @@
 
 #include "app/BatchCommand.h"
 #include "app/SymbolFields.h"
-#include "document/clsPropertyButton.h"
-#include "document/clsPropertyClass.h"
-#include "document/clsPropertyKoma.h"
-#include "document/clsPropertyLinkSymbol.h"
-#include "document/clsPropertyMovieEmp.h"
-#include "document/clsPropertySprite.h"
+#include "document/records/clsPropertyButton.h"
+#include "document/records/clsPropertyClass.h"
+#include "document/records/clsPropertyKoma.h"
+#include "document/records/clsPropertyLinkSymbol.h"
+#include "document/records/clsPropertyMovieEmp.h"
+#include "document/records/clsPropertySprite.h"
 #include "platform/paths.h"
 #include "platform/text.h"
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <map>
 
-#include "document/clsCSV.h"
+#include "document/cells/clsCSV.h"
 #include "platform/RuntimeError.h"
 #include "platform/codepage.h"
 #include "platform/text.h"

@@ -2,9 +2,9 @@
 
 #include "app/BatchCommand.h"
 #include "app/KeyFrameFields.h"
-#include "document/SymbolKinds.h"
-#include "document/clsObjFrameAction.h"
-#include "document/clsSymbolData.h"
+#include "document/elements/SymbolKinds.h"
+#include "document/elements/clsObjFrameAction.h"
+#include "document/symbols/clsSymbolData.h"
 #include "platform/TextEncoding.h"
 #include "platform/files.h"
 #include "platform/paths.h"

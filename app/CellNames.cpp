@@ -1,6 +1,6 @@
 #include "app/CellNames.h"
 
-#include "document/SymbolKinds.h"
+#include "document/elements/SymbolKinds.h"
 
 namespace tamber {
 

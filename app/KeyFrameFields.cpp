@@ -2,11 +2,11 @@
 
 #include "app/CellNames.h"
 #include "app/RecordCells.h"
-#include "document/clsLayerFolder.h"
-#include "document/clsLayerObjElement.h"
-#include "document/clsObjSprite.h"
-#include "document/clsObjText.h"
-#include "document/clsObjVector.h"
+#include "document/elements/clsLayerFolder.h"
+#include "document/elements/clsLayerObjElement.h"
+#include "document/elements/clsObjSprite.h"
+#include "document/elements/clsObjText.h"
+#include "document/elements/clsObjVector.h"
 #include "platform/text.h"
 
 namespace tamber {

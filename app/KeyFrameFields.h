@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/clsLayer.h"
+#include "document/symbols/clsLayer.h"
 
 namespace tamber {
 

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "document/clsCSV.h"
+#include "document/cells/clsCSV.h"
 #include "platform/UserInterface.h"
 #include "platform/files.h"
 #include "platform/paths.h"

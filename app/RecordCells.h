@@ -2,8 +2,8 @@
 
 #include <string_view>
 
-#include "document/ProjectFileVersion.h"
-#include "document/clsCSV.h"
+#include "document/cells/ProjectFileVersion.h"
+#include "document/cells/clsCSV.h"
 #include "platform/types.h"
 
 namespace tamber {

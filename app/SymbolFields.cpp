@@ -2,10 +2,10 @@
 
 #include "app/CellNames.h"
 #include "app/RecordCells.h"
-#include "document/clsPropertyClass.h"
-#include "document/clsPropertyLinkSymbol.h"
-#include "document/clsPropertySymbolFolder.h"
-#include "document/clsPropertyText.h"
+#include "document/records/clsPropertyClass.h"
+#include "document/records/clsPropertyLinkSymbol.h"
+#include "document/records/clsPropertySymbolFolder.h"
+#include "document/records/clsPropertyText.h"
 #include "platform/text.h"
 
 namespace tamber {

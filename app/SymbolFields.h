@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/clsSymbolData.h"
+#include "document/symbols/clsSymbolData.h"
 
 namespace tamber {
 

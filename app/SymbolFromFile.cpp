@@ -1,7 +1,7 @@
 #include "app/SymbolFromFile.h"
 
 #include "document/SymbolFiles.h"
-#include "document/clsPropertyText.h"
+#include "document/records/clsPropertyText.h"
 #include "platform/TextEncoding.h"
 #include "platform/UserInterface.h"
 #include "platform/files.h"

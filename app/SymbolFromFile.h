@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "document/ProjectReader.h"
-#include "document/clsSymbolData.h"
+#include "document/symbols/clsSymbolData.h"
 
 namespace tamber {
 

@@ -4,15 +4,15 @@
 #include <memory>
 
 #include "canvas/EditSnapshot.h"
-#include "canvas/FrameClipboard.h"
-#include "canvas/FrameShift.h"
-#include "canvas/LayerClipboard.h"
-#include "canvas/RowRange.h"
+#include "canvas/timeline/FrameClipboard.h"
+#include "canvas/timeline/FrameShift.h"
+#include "canvas/timeline/LayerClipboard.h"
+#include "canvas/timeline/RowRange.h"
 #include "document/Project.h"
-#include "document/SymbolIdEdit.h"
-#include "document/SymbolLibrary.h"
-#include "document/SymbolSort.h"
-#include "document/clsUndoRedo.h"
+#include "document/edit/SymbolIdEdit.h"
+#include "document/edit/SymbolLibrary.h"
+#include "document/edit/SymbolSort.h"
+#include "document/edit/clsUndoRedo.h"
 #include "output/ProjectImport.h"
 #include "platform/RuntimeError.h"
 

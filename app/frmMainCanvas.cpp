@@ -2,13 +2,13 @@
 
 #include "app/frmMain.h"
 #include "app/mdlPrivateProfile.h"
-#include "document/SymbolKinds.h"
-#include "document/clsObjBackGround.h"
-#include "document/clsSymbolData.h"
+#include "document/elements/SymbolKinds.h"
+#include "document/elements/clsObjBackGround.h"
+#include "document/symbols/clsSymbolData.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/twips.h"
-#include "swf/TextDefinition.h"
+#include "swf/authoring/TextDefinition.h"
 
 // What the canvas shows: a small movie of one frame.
 

@@ -1,6 +1,6 @@
 #include "app/AssetReader.h"
 #include "app/frmMain.h"
-#include "canvas/LayerPlacement.h"
+#include "canvas/timeline/SymbolRows.h"
 
 namespace tamber {
 

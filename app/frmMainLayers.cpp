@@ -1,11 +1,11 @@
 #include <algorithm>
 
 #include "app/frmMain.h"
-#include "canvas/LayerPlacement.h"
-#include "canvas/RowRange.h"
-#include "document/SymbolContents.h"
-#include "document/SymbolKinds.h"
-#include "document/TimelineLength.h"
+#include "canvas/timeline/SymbolRows.h"
+#include "canvas/timeline/RowRange.h"
+#include "document/records/SymbolContents.h"
+#include "document/elements/SymbolKinds.h"
+#include "document/edit/TimelineLength.h"
 #include "platform/UserInterface.h"
 
 // The commands on the rows of the edited timeline.

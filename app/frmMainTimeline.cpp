@@ -1,13 +1,13 @@
 #include <algorithm>
 
 #include "app/frmMain.h"
-#include "canvas/FrameLabels.h"
-#include "canvas/KeyFrameSpan.h"
-#include "canvas/RowRange.h"
-#include "document/SymbolKinds.h"
-#include "document/TimelineLength.h"
-#include "document/clsLayerObjElement.h"
-#include "swf/MovieLimits.h"
+#include "canvas/timeline/FrameLabels.h"
+#include "canvas/timeline/KeyFrameSpan.h"
+#include "canvas/timeline/RowRange.h"
+#include "document/elements/SymbolKinds.h"
+#include "document/edit/TimelineLength.h"
+#include "document/elements/clsLayerObjElement.h"
+#include "swf/authoring/MovieLimits.h"
 
 // The commands on the key frames of the selected rows.
 

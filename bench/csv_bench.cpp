@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "document/clsCSV.h"
+#include "document/cells/clsCSV.h"
 #include "platform/codepage.h"
 #include "platform/text.h"
 

@@ -1,8 +1,8 @@
 #include <benchmark/benchmark.h>
 
 #include "app/frmMain.h"
-#include "document/SymbolSort.h"
-#include "document/clsPropertySprite.h"
+#include "document/edit/SymbolSort.h"
+#include "document/records/clsPropertySprite.h"
 #include "platform/RecordingUserInterface.h"
 #include "platform/text.h"
 

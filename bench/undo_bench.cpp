@@ -1,8 +1,8 @@
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 
-#include "document/clsLayerObjElement.h"
-#include "document/clsUndoRedo.h"
+#include "document/elements/clsLayerObjElement.h"
+#include "document/edit/clsUndoRedo.h"
 
 namespace tamber {
 namespace {

@@ -5,12 +5,12 @@
 #include <filesystem>
 
 #include "canvas/EditSnapshot.h"
-#include "document/SymbolKinds.h"
-#include "document/clsLayerObjElement.h"
-#include "document/clsPropertyBmp.h"
+#include "document/elements/SymbolKinds.h"
+#include "document/elements/clsLayerObjElement.h"
+#include "document/records/clsPropertyBmp.h"
 #include "platform/codepage.h"
 #include "platform/files.h"
-#include "swf/mdlSWFAuthoring.h"
+#include "swf/authoring/mdlSWFAuthoring.h"
 #include "swf/mdlZlib.h"
 
 namespace tamber {

@@ -1,7 +1,7 @@
 #include "canvas/EditSnapshot.h"
 
 #include "platform/SilentUserInterface.h"
-#include "swf/MovieLimits.h"
+#include "swf/authoring/MovieLimits.h"
 
 namespace tamber {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "document/clsSymbolData.h"
-#include "swf/clsSWFAdmin.h"
-#include "swf/mdlSWFAuthoring.h"
+#include "document/symbols/clsSymbolData.h"
+#include "swf/authoring/clsSWFAdmin.h"
+#include "swf/authoring/mdlSWFAuthoring.h"
 
 namespace tamber {
 

@@ -3,8 +3,9 @@
 #include <memory>
 #include <optional>
 
-#include "document/clsLayer.h"
-#include "document/clsSymbolData.h"
+#include "document/symbols/Nesting.h"
+#include "document/symbols/clsLayer.h"
+#include "document/symbols/clsSymbolData.h"
 #include "platform/Collection.h"
 #include "platform/types.h"
 
@@ -27,9 +28,6 @@ struct HtmlSettings {
     bool operator==(const HtmlSettings&) const = default;
 };
 
-/// Sprites and buttons shown within each other at most.
-inline constexpr Long DeepestNesting = 500;
-
 /// All that a project file holds.
 struct Project {
     /// The library, a folder directly followed by its contents.
@@ -43,9 +41,5 @@ struct Project {
     Long SWFVersion = 0;
     std::optional<HtmlSettings> Html;
 };
-
-/// Sets `ParentFolder` of each row from the row counts of the folders before it.
-void NestSymbols(Collection<clsSymbolData>& symbols);
-void NestLayers(Collection<clsLayer>& layers);
 
 }  // namespace tamber

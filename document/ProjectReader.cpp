@@ -9,12 +9,12 @@
 #include <utility>
 #include <vector>
 
-#include "document/ProjectFileVersion.h"
-#include "document/SymbolContents.h"
+#include "document/cells/ProjectFileVersion.h"
+#include "document/records/SymbolContents.h"
 #include "document/SymbolFiles.h"
-#include "document/clsCSV.h"
-#include "document/clsPropertyText.h"
-#include "document/clsPropertyVector.h"
+#include "document/cells/clsCSV.h"
+#include "document/records/clsPropertyText.h"
+#include "document/records/clsPropertyVector.h"
 #include "platform/RuntimeError.h"
 #include "platform/UserInterface.h"
 #include "platform/codepage.h"

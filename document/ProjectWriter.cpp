@@ -6,12 +6,12 @@
 #include <vector>
 
 #include "document/AppVersion.h"
-#include "document/clsCSV.h"
-#include "document/clsPropertyButton.h"
-#include "document/clsPropertyKoma.h"
-#include "document/clsPropertySprite.h"
-#include "document/clsPropertyText.h"
-#include "document/clsPropertyVector.h"
+#include "document/cells/clsCSV.h"
+#include "document/records/clsPropertyButton.h"
+#include "document/records/clsPropertyKoma.h"
+#include "document/records/clsPropertySprite.h"
+#include "document/records/clsPropertyText.h"
+#include "document/records/clsPropertyVector.h"
 #include "platform/codepage.h"
 #include "platform/files.h"
 #include "platform/paths.h"

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "document/SymbolKinds.h"
+#include "document/elements/SymbolKinds.h"
 #include "platform/paths.h"
 #include "platform/text.h"
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "document/ProjectFileVersion.h"
+#include "document/cells/ProjectFileVersion.h"
 
 namespace tamber {
 

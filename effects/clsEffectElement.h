@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "document/clsCSV.h"
+#include "document/cells/clsCSV.h"
 #include "effects/clsEffectParam.h"
 #include "platform/Collection.h"
 #include "platform/types.h"

@@ -5,17 +5,17 @@
 #include <unordered_set>
 #include <utility>
 
-#include "canvas/LayerPlacement.h"
-#include "canvas/RowRange.h"
-#include "document/SymbolIdEdit.h"
-#include "document/SymbolLibrary.h"
-#include "document/clsLayerFolder.h"
-#include "document/clsPropertyButton.h"
-#include "document/clsPropertyKoma.h"
-#include "document/clsPropertySprite.h"
-#include "document/clsPropertySymbolFolder.h"
-#include "document/clsPropertyText.h"
-#include "document/clsPropertyVector.h"
+#include "canvas/timeline/SymbolRows.h"
+#include "canvas/timeline/RowRange.h"
+#include "document/edit/SymbolIdEdit.h"
+#include "document/edit/SymbolLibrary.h"
+#include "document/elements/clsLayerFolder.h"
+#include "document/records/clsPropertyButton.h"
+#include "document/records/clsPropertyKoma.h"
+#include "document/records/clsPropertySprite.h"
+#include "document/records/clsPropertySymbolFolder.h"
+#include "document/records/clsPropertyText.h"
+#include "document/records/clsPropertyVector.h"
 #include "platform/UserInterface.h"
 
 namespace tamber {

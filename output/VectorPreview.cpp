@@ -7,7 +7,7 @@
 #include "platform/paths.h"
 #include "platform/rounding.h"
 #include "platform/twips.h"
-#include "swf/VectorDefinition.h"
+#include "swf/authoring/VectorDefinition.h"
 
 namespace tamber {
 

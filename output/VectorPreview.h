@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/clsPropertyVector.h"
+#include "document/records/clsPropertyVector.h"
 
 namespace tamber {
 

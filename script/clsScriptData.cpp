@@ -1,6 +1,6 @@
 #include "script/clsScriptData.h"
 
-#include "document/ProjectFileVersion.h"
+#include "document/cells/ProjectFileVersion.h"
 #include "platform/text.h"
 
 namespace tamber {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/clsCSV.h"
+#include "document/cells/clsCSV.h"
 #include "platform/types.h"
 
 namespace tamber {

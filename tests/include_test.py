@@ -7,23 +7,36 @@ import sys
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 ROOMS = ["platform", "swf", "vector", "media", "document", "script", "effects", "canvas", "output", "app", "ui"]
 
-# Floors from the ground up; a file stands on that of the first pattern that fits it.
+# Floors from the ground up. A file stands on that of its own folder.
 FLOORS = [
-    (r"platform/", 0),
-    (r"(swf/mdlSWFTag|swf/mdlZlib|document/(clsCSV|ProjectFileVersion))\.", 1),
-    (r"script/compiler/", 1),
-    (r"swf/tags/", 2),
-    (r"(vector|media|effects|script)/|document/clsEdgingTable\.", 3),
-    (r"document/", 4),
-    (r"swf/", 5),
-    (r"(canvas|output)/", 6),
-    (r"app/", 7),
-    (r"ui/", 8),
+    "platform",
+    "swf",
+    "document/cells",
+    "script/compiler",
+    "effects/filters",
+    "swf/tags",
+    "vector",
+    "media",
+    "script",
+    "effects",
+    "document/elements",
+    "document/symbols",
+    "document/records",
+    "document",
+    "document/edit",
+    "swf/authoring",
+    "effects/templates",
+    "canvas/timeline",
+    "canvas",
+    "canvas/picture",
+    "output",
+    "app",
+    "ui",
 ]
 
 
 def floor(name):
-    return next(level for pattern, level in FLOORS if re.match(pattern, name))
+    return FLOORS.index(name.rpartition("/")[0])
 
 
 def includes_of(path):

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "document/clsCSV.h"
+#include "document/cells/clsCSV.h"
 #include "swf/tags/clsSWFTFillStyle.h"
 #include "vector/PdrContour.h"
 

@@ -6,11 +6,11 @@
 #include <filesystem>
 #include <fstream>
 
-#include "document/SymbolKinds.h"
-#include "document/clsLayer.h"
-#include "document/clsPropertyClass.h"
-#include "document/clsPropertySprite.h"
-#include "document/clsSymbolData.h"
+#include "document/elements/SymbolKinds.h"
+#include "document/symbols/clsLayer.h"
+#include "document/records/clsPropertyClass.h"
+#include "document/records/clsPropertySprite.h"
+#include "document/symbols/clsSymbolData.h"
 #include "platform/RecordingUserInterface.h"
 #include "platform/codepage.h"
 #include "platform/paths.h"

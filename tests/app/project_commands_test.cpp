@@ -1,5 +1,5 @@
 #include "app/mdlPrivateProfile.h"
-#include "document/clsObjBackGround.h"
+#include "document/elements/clsObjBackGround.h"
 #include "platform/files.h"
 #include "tests/support/ControllerTest.h"
 

@@ -1,8 +1,8 @@
 #include "app/KeyFrameFields.h"
-#include "document/clsLayerObjElement.h"
-#include "document/clsObjFrameLabel.h"
-#include "document/clsPropertyButton.h"
-#include "document/clsPropertyClass.h"
+#include "document/elements/clsLayerObjElement.h"
+#include "document/elements/clsObjFrameLabel.h"
+#include "document/records/clsPropertyButton.h"
+#include "document/records/clsPropertyClass.h"
 #include "tests/support/ControllerTest.h"
 #include "tests/support/TimelineText.h"
 

@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
-#include "canvas/LayerClipboard.h"
-#include "canvas/LayerPlacement.h"
-#include "canvas/RowRange.h"
+#include "canvas/timeline/LayerClipboard.h"
+#include "canvas/timeline/SymbolRows.h"
+#include "canvas/timeline/RowRange.h"
 #include "document/Project.h"
-#include "document/clsPropertySymbolFolder.h"
+#include "document/records/clsPropertySymbolFolder.h"
 #include "tests/support/TimelineText.h"
 
 namespace tamber {

@@ -1,12 +1,12 @@
 #include <gtest/gtest.h>
 
-#include "canvas/FrameClipboard.h"
-#include "canvas/FrameLabels.h"
-#include "canvas/FrameShift.h"
-#include "canvas/KeyFrameSpan.h"
-#include "document/TimelineLength.h"
-#include "document/clsLayerObjElement.h"
-#include "document/clsObjFrameLabel.h"
+#include "canvas/timeline/FrameClipboard.h"
+#include "canvas/timeline/FrameLabels.h"
+#include "canvas/timeline/FrameShift.h"
+#include "canvas/timeline/KeyFrameSpan.h"
+#include "document/edit/TimelineLength.h"
+#include "document/elements/clsLayerObjElement.h"
+#include "document/elements/clsObjFrameLabel.h"
 #include "tests/support/TimelineText.h"
 
 namespace tamber {

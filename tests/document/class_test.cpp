@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
-#include "document/ClassNames.h"
-#include "document/clsLayer.h"
-#include "document/clsObjFrameAction.h"
-#include "document/clsPropertyClass.h"
-#include "document/clsPropertyLinkSymbol.h"
-#include "document/clsSymbolData.h"
+#include "document/edit/ClassNames.h"
+#include "document/symbols/clsLayer.h"
+#include "document/elements/clsObjFrameAction.h"
+#include "document/records/clsPropertyClass.h"
+#include "document/records/clsPropertyLinkSymbol.h"
+#include "document/symbols/clsSymbolData.h"
 #include "tests/support/TimelineText.h"
 
 namespace tamber {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "document/clsCSV.h"
+#include "document/cells/clsCSV.h"
 #include "platform/RuntimeError.h"
 
 namespace tamber {

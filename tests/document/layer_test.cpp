@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
 #include "document/Project.h"
-#include "document/clsLayerFolder.h"
-#include "document/clsLayerObjElement.h"
-#include "document/clsObjVector.h"
-#include "document/clsPropertyVector.h"
+#include "document/elements/clsLayerFolder.h"
+#include "document/elements/clsLayerObjElement.h"
+#include "document/elements/clsObjVector.h"
+#include "document/records/clsPropertyVector.h"
 #include "platform/RuntimeError.h"
 
 namespace tamber {

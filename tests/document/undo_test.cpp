@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
-#include "document/clsLayerObjElement.h"
-#include "document/clsObjFrameAction.h"
-#include "document/clsPropertySprite.h"
-#include "document/clsPropertyVector.h"
-#include "document/clsUndoRedo.h"
+#include "document/elements/clsLayerObjElement.h"
+#include "document/elements/clsObjFrameAction.h"
+#include "document/records/clsPropertySprite.h"
+#include "document/records/clsPropertyVector.h"
+#include "document/edit/clsUndoRedo.h"
 
 namespace tamber {
 namespace {

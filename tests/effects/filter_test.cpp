@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
-#include "document/clsCSV.h"
+#include "document/cells/clsCSV.h"
 #include "effects/clsEffectElement.h"
 
-#include "effects/clsFilterData.h"
+#include "effects/filters/clsFilterData.h"
 #include "platform/RuntimeError.h"
 
 namespace tamber {

@@ -1,4 +1,4 @@
-#include "document/clsCSV.h"
+#include "document/cells/clsCSV.h"
 
 // The first byte chooses how rows grow; the rest is the text.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

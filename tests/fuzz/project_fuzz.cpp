@@ -1,6 +1,6 @@
 #include "document/ProjectReader.h"
 #include "document/ProjectWriter.h"
-#include "document/clsCSV.h"
+#include "document/cells/clsCSV.h"
 #include "platform/UserInterface.h"
 
 namespace {

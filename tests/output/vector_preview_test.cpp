@@ -4,7 +4,7 @@
 
 #include <filesystem>
 
-#include "document/clsSymbolData.h"
+#include "document/symbols/clsSymbolData.h"
 #include "platform/codepage.h"
 #include "tests/swf/MovieParser.h"
 #include "vector/clsVector.h"

@@ -6,8 +6,8 @@
 #include <filesystem>
 
 #include "app/frmMain.h"
-#include "document/SymbolKinds.h"
-#include "document/clsPropertySprite.h"
+#include "document/elements/SymbolKinds.h"
+#include "document/records/clsPropertySprite.h"
 #include "platform/RecordingUserInterface.h"
 #include "platform/codepage.h"
 #include "platform/paths.h"

@@ -4,11 +4,11 @@
 #include <sstream>
 #include <string>
 
-#include "document/SymbolKinds.h"
-#include "document/SymbolLibrary.h"
-#include "document/clsPropertySprite.h"
-#include "document/clsPropertySymbolFolder.h"
-#include "document/clsSymbolData.h"
+#include "document/elements/SymbolKinds.h"
+#include "document/edit/SymbolLibrary.h"
+#include "document/records/clsPropertySprite.h"
+#include "document/records/clsPropertySymbolFolder.h"
+#include "document/symbols/clsSymbolData.h"
 #include "platform/codepage.h"
 
 namespace tamber {

@@ -4,10 +4,10 @@
 #include <sstream>
 #include <string>
 
-#include "document/SymbolKinds.h"
-#include "document/clsLayer.h"
-#include "document/clsLayerFolder.h"
-#include "document/clsSymbolData.h"
+#include "document/elements/SymbolKinds.h"
+#include "document/symbols/clsLayer.h"
+#include "document/elements/clsLayerFolder.h"
+#include "document/symbols/clsSymbolData.h"
 #include "platform/codepage.h"
 
 namespace tamber {

@@ -4,11 +4,11 @@
 
 #include <filesystem>
 
-#include "document/clsLayerObjElement.h"
-#include "document/clsPropertyBmp.h"
+#include "document/elements/clsLayerObjElement.h"
+#include "document/records/clsPropertyBmp.h"
 #include "platform/RecordingUserInterface.h"
 #include "platform/codepage.h"
-#include "swf/mdlSWFAuthoring.h"
+#include "swf/authoring/mdlSWFAuthoring.h"
 #include "swf/mdlZlib.h"
 #include "tests/swf/MovieParser.h"
 

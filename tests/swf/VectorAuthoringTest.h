@@ -1,7 +1,7 @@
 #pragma once
 
-#include "document/clsObjVector.h"
-#include "document/clsPropertyVector.h"
+#include "document/elements/clsObjVector.h"
+#include "document/records/clsPropertyVector.h"
 #include "tests/swf/AuthoringTest.h"
 #include "vector/clsVector.h"
 

@@ -1,12 +1,12 @@
 #include <gtest/gtest.h>
 
 #include "document/Project.h"
-#include "document/SymbolKinds.h"
-#include "document/clsLayerFolder.h"
-#include "document/clsObjFrameLabel.h"
-#include "document/clsPropertyKoma.h"
-#include "document/clsPropertySprite.h"
-#include "swf/clsSWFTagPlaceObject.h"
+#include "document/elements/SymbolKinds.h"
+#include "document/elements/clsLayerFolder.h"
+#include "document/elements/clsObjFrameLabel.h"
+#include "document/records/clsPropertyKoma.h"
+#include "document/records/clsPropertySprite.h"
+#include "swf/tags/clsSWFTagPlaceObject.h"
 #include "tests/swf/AuthoringTest.h"
 
 namespace tamber {

@@ -1,14 +1,14 @@
-#include "swf/FitText.h"
+#include "swf/authoring/FitText.h"
 
 #include <gtest/gtest.h>
 
-#include "document/clsLayer.h"
-#include "document/clsLayerObjElement.h"
-#include "document/clsPropertySprite.h"
-#include "document/clsPropertyText.h"
-#include "document/clsPropertyVector.h"
-#include "swf/OutlinePath.h"
-#include "swf/TextDefinition.h"
+#include "document/symbols/clsLayer.h"
+#include "document/elements/clsLayerObjElement.h"
+#include "document/records/clsPropertySprite.h"
+#include "document/records/clsPropertyText.h"
+#include "document/records/clsPropertyVector.h"
+#include "swf/authoring/OutlinePath.h"
+#include "swf/authoring/TextDefinition.h"
 
 namespace tamber {
 namespace {

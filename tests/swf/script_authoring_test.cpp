@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
-#include "document/SymbolKinds.h"
-#include "document/clsObjFrameAction.h"
-#include "document/clsPropertyButton.h"
-#include "document/clsPropertyClass.h"
-#include "document/clsPropertyLinkSymbol.h"
-#include "document/clsPropertySprite.h"
+#include "document/elements/SymbolKinds.h"
+#include "document/elements/clsObjFrameAction.h"
+#include "document/records/clsPropertyButton.h"
+#include "document/records/clsPropertyClass.h"
+#include "document/records/clsPropertyLinkSymbol.h"
+#include "document/records/clsPropertySprite.h"
 #include "swf/tags/TagCodes.h"
 #include "tests/swf/AuthoringTest.h"
 

@@ -1,11 +1,11 @@
 #include <random>
 
 #include "canvas/EditSnapshot.h"
-#include "document/clsObjFrameAction.h"
-#include "document/clsPropertyButton.h"
-#include "document/clsPropertyKoma.h"
-#include "document/clsPropertySprite.h"
-#include "document/clsPropertyText.h"
+#include "document/elements/clsObjFrameAction.h"
+#include "document/records/clsPropertyButton.h"
+#include "document/records/clsPropertyKoma.h"
+#include "document/records/clsPropertySprite.h"
+#include "document/records/clsPropertyText.h"
 #include "tests/swf/DisplayList.h"
 #include "tests/swf/VectorAuthoringTest.h"
 

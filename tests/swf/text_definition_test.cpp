@@ -1,4 +1,4 @@
-#include "swf/TextDefinition.h"
+#include "swf/authoring/TextDefinition.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "swf/clsSWFAdmin.h"
+#include "swf/authoring/clsSWFAdmin.h"
 #include "swf/tags/GlyphShape.h"
 #include "swf/tags/clsSWFTagCSMTextSettings.h"
 #include "swf/tags/clsSWFTagDefineEditText.h"

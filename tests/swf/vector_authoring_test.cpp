@@ -1,5 +1,5 @@
-#include "document/clsPropertyKoma.h"
-#include "document/clsPropertySprite.h"
+#include "document/records/clsPropertyKoma.h"
+#include "document/records/clsPropertySprite.h"
 #include "tests/swf/VectorAuthoringTest.h"
 
 namespace tamber {

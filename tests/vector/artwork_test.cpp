@@ -3,7 +3,7 @@
 #include <filesystem>
 
 #include "platform/codepage.h"
-#include "swf/clsSWFAdmin.h"
+#include "swf/authoring/clsSWFAdmin.h"
 #include "vector/FreeTransformation.h"
 #include "vector/MorphCheck.h"
 #include "vector/ShapeFlattening.h"

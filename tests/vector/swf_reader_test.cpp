@@ -5,7 +5,7 @@
 
 #include "platform/codepage.h"
 #include "platform/files.h"
-#include "swf/clsSWFAdmin.h"
+#include "swf/authoring/clsSWFAdmin.h"
 #include "tests/vector/MovieMaker.h"
 #include "tests/vector/ShapeText.h"
 #include "vector/SwfReader.h"

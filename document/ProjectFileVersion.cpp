@@ -1,7 +1,0 @@
-#include "document/ProjectFileVersion.h"
-
-namespace tamber {
-
-thread_local Long ProjectFileVersion = NewestProjectFileVersion;
-
-}  // namespace tamber

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <memory>
+
+#include "document/records/clsButtonMatrix.h"
+#include "document/symbols/clsPropertyData.h"
+
+namespace tamber {
+
+class clsSymbolData;
+
+/// A button and its states.
+class clsPropertyButton : public clsPropertyData {
+public:
+    String ButtonName;
+    bool blAutoHitTest = false;
+    bool bl9Scale = false;
+    Long GridLeft = 0;
+    Long GridTop = 0;
+    Long GridRight = 0;
+    Long GridBottom = 0;
+    clsButtonMatrix matrixUP;
+    clsButtonMatrix matrixDown;
+    clsButtonMatrix matrixOver;
+    /// Made in a generation, not stored.
+    std::shared_ptr<clsSymbolData> AutoHitTestSymbol;
+
+    std::shared_ptr<clsSymbolData> UpSymbol() const { return up_.lock(); }
+    void UpSymbol(const std::shared_ptr<clsSymbolData>& symbol) { up_ = symbol; }
+    std::shared_ptr<clsSymbolData> DownSymbol() const { return down_.lock(); }
+    void DownSymbol(const std::shared_ptr<clsSymbolData>& symbol) { down_ = symbol; }
+    std::shared_ptr<clsSymbolData> OverSymbol() const { return over_.lock(); }
+    void OverSymbol(const std::shared_ptr<clsSymbolData>& symbol) { over_ = symbol; }
+    std::shared_ptr<clsSymbolData> HitTestSymbol() const { return hitTest_.lock(); }
+    void HitTestSymbol(const std::shared_ptr<clsSymbolData>& symbol) { hitTest_ = symbol; }
+    Long UpIndex() const;
+    Long DownIndex() const;
+    Long OverIndex() const;
+    Long HitTestIndex() const;
+    Long UpID() const;
+    Long DownID() const;
+    Long OverID() const;
+    Long HitTestID() const;
+    /// Largest of the up, down and over states.
+    Long PixelWidth() const override;
+    Long PixelHeight() const override;
+    Long eType() const override { return KindButton; }
+    std::optional<String> Name() const override { return ButtonName; }
+    bool HasInstanceName() const override { return true; }
+    void ForgetBuild() override { AutoHitTestSymbol.reset(); }
+    void Load(clsCSV& csv) override;
+    void Save(clsCSV& csv) const override;
+    void CopyTo(clsPropertyData& target) const override { CopyRecord(*this, target); }
+
+private:
+    std::weak_ptr<clsSymbolData> up_;
+    std::weak_ptr<clsSymbolData> down_;
+    std::weak_ptr<clsSymbolData> over_;
+    std::weak_ptr<clsSymbolData> hitTest_;
+};
+
+}  // namespace tamber

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <memory>
+
+#include "document/symbols/clsPropertyData.h"
+#include "platform/Collection.h"
+
+namespace tamber {
+
+class clsLayer;
+class clsUndoRedo;
+class clsSymbolData;
+
+/// A sprite: a timeline of its own.
+class clsPropertySprite : public clsPropertyData {
+public:
+    String SpriteName;
+    Long Width = 0;
+    Long height = 0;
+    Long baseX = 0;
+    Long baseY = 0;
+    /// Nine-slice scaling by the grid, in pixels.
+    bool bl9Scale = false;
+    Long GridLeft = 0;
+    Long GridTop = 0;
+    Long GridRight = 0;
+    Long GridBottom = 0;
+    std::shared_ptr<Collection<clsLayer>> colLayer = std::make_shared<Collection<clsLayer>>();
+    /// History of the timeline, where each has its own; null until it is edited. A copy has none.
+    std::shared_ptr<clsUndoRedo> cUndoRedo;
+
+    /// True when the timeline, and all that it shows, reaches `symbol`.
+    bool CkHasLoop(const clsSymbolData& symbol) const;
+
+    Long eType() const override { return KindSprite; }
+    std::optional<String> Name() const override { return SpriteName; }
+    bool HasInstanceName() const override { return true; }
+    Long PixelWidth() const override { return Width; }
+    Long PixelHeight() const override { return height; }
+    void Load(clsCSV& csv) override;
+    void Save(clsCSV& csv) const override;
+    void CopyTo(clsPropertyData& target) const override;
+};
+
+}  // namespace tamber

@@ -1,0 +1,177 @@
+#include "document/symbols/clsSymbolData.h"
+
+#include "document/cells/ProjectFileVersion.h"
+#include "platform/UserInterface.h"
+#include "platform/paths.h"
+#include "platform/text.h"
+
+namespace tamber {
+
+namespace {
+
+constexpr Long VersionWithLinkClass = 0x70403;
+
+/// The ID of a kind without a number of its own, 0 for the others.
+Long FixedId(Long kind) {
+    switch (kind) {
+        case KindBackGround:
+            return -1;
+        case KindFrameLabel:
+            return -2;
+        case KindFrameAction:
+            return -3;
+        case KindLayerFolder:
+            return -4;
+        case KindClass:
+            return -5;
+        default:
+            return 0;
+    }
+}
+
+/// Name of a row that shows no entry of the library; empty for the other kinds.
+StringView FixedName(Long kind) {
+    switch (kind) {
+        case KindBackGround:
+            return u"背景";
+        case KindFrameLabel:
+            return u"フレームラベル";
+        case KindFrameAction:
+            return u"フレームアクション";
+        case KindLayerFolder:
+            return u"フォルダ";
+        default:
+            return {};
+    }
+}
+
+}  // namespace
+
+void clsSymbolData::eType(Long kind) {
+    kind_ = kind;
+    property_ = MakePropertyData(kind);
+    if (const Long fixed = FixedId(kind); fixed != 0) ID = fixed;
+}
+
+Long clsSymbolData::eTypeEx() const {
+    return property_ ? property_->eTypeEx() : kind_;
+}
+
+void clsSymbolData::PropertyData(std::shared_ptr<clsPropertyData> record) {
+    if (!record || !property_ || record->eType() != property_->eType()) {
+        ShowMessage(u"シンボルのタイプが違います。");
+        return;
+    }
+    property_ = std::move(record);
+}
+
+void clsSymbolData::InitDefineID() {
+    defined_ = {};
+    if (property_) property_->ForgetBuild();
+}
+
+String clsSymbolData::TypeTextEx() const {
+    return property_ ? property_->TypeTextEx() : TypeText();
+}
+
+String clsSymbolData::Value() const {
+    if (const auto name = property_ ? property_->Name() : std::nullopt) return *name;
+    const StringView fixed = FixedName(kind_);
+    return fixed.empty() ? GetFileName(FilePathName) : String(fixed);
+}
+
+String clsSymbolData::ExportName() const {
+    if (!ObjectName.empty()) return ObjectName;
+    if (const auto name = property_ ? property_->LinkageName() : std::nullopt) return *name;
+    return Value();
+}
+
+bool clsSymbolData::blExportEx() const {
+    return blExport && (!property_ || property_->CanExport());
+}
+
+String clsSymbolData::ListName() const {
+    return blExportEx() ? Value() + u" {書き出し：" + ExportName() + u"}" : Value();
+}
+
+String clsSymbolData::OptionText() const {
+    return property_ ? property_->OptionText() : String();
+}
+
+Long clsSymbolData::BackColor() const {
+    switch (kind_) {
+        case KindFrameLabel:
+            return ColorLong(230, 240, 255);
+        case KindFrameAction:
+            return ColorLong(255, 238, 255);
+        case KindLayerFolder:
+            return ColorLong(255, 255, 220);
+        default:
+            return ColorLong(255, 255, 255);
+    }
+}
+
+Long clsSymbolData::TypeColor() const {
+    return kind_ == KindSprite && !LinkClassName.empty() && blExport ? ColorLong(255, 0, 0) : 0;
+}
+
+Long clsSymbolData::FolderDepth() const {
+    Long depth = 0;
+    for (auto folder = ParentFolder(); folder; folder = folder->ParentFolder()) ++depth;
+    return depth;
+}
+
+void clsSymbolData::AddInFolder(Long count) {
+    if (property_) property_->AddRows(count);
+    for (auto folder = ParentFolder(); folder; folder = folder->ParentFolder())
+        folder->property_->AddRows(count);
+}
+
+std::shared_ptr<clsSymbolData> clsSymbolData::Copy() const {
+    auto copy = std::make_shared<clsSymbolData>(kind_);
+    copy->FilePathName = FilePathName;
+    if (property_) property_->CopyTo(*copy->property_);
+    return copy;
+}
+
+void clsSymbolData::Load(clsCSV& csv, StringView baseDir) {
+    ID = csv.TakeLong();
+    const String file = PathFromCell(csv.TakeText());
+    eType(SymbolKindFromText(csv.TakeText()));
+    const bool drive = file.size() >= 3 && (file[0] | 0x20) >= u'a' && (file[0] | 0x20) <= u'z' &&
+                       file[1] == u':' && (file[2] == u'\\' || file[2] == u'/');
+    if (file.empty())
+        FilePathName.clear();
+    else
+        FilePathName = drive || file.starts_with(PathSeparator)
+                           ? file
+                           : NormalizePath(JoinPath(baseDir, file));
+    ObjectName = csv.TakeText();
+    if (ProjectFileVersion >= VersionWithLinkClass) LinkClassName = csv.TakeText();
+    const String word = csv.TakeText();
+    blExport = word == u"Export" || word == u"ExportTop";
+    blExportTop = word != u"Export";
+    if (kind_ == KindButton) {
+        // A button has no linkage, whatever its cells hold.
+        ObjectName.clear();
+        LinkClassName.clear();
+        blExport = false;
+        blExportTop = true;
+    }
+    if (property_) property_->Load(csv);
+}
+
+void clsSymbolData::Save(clsCSV& csv, StringView baseDir) const {
+    csv.Put(ID);
+    csv.Put(FilePathName.empty() ? String() : PathToCell(MakeRelativePath(baseDir, FilePathName)));
+    csv.Put(TypeText());
+    csv.Put(ObjectName);
+    csv.Put(LinkClassName);
+    csv.Put(!blExport     ? StringView()
+            : blExportTop ? StringView(u"ExportTop")
+                          : StringView(u"Export"));
+    if (property_) property_->Save(csv);
+    csv.CrLf();
+}
+
+}  // namespace tamber

@@ -1,0 +1,114 @@
+#pragma once
+
+#include <set>
+#include <vector>
+
+#include "swf/authoring/ButtonDefinition.h"
+#include "swf/authoring/LayerCharacter.h"
+#include "swf/authoring/MovieScripts.h"
+#include "swf/authoring/clsSWFAdmin.h"
+#include "swf/authoring/mdlSWFAuthoring.h"
+
+namespace tamber {
+
+class clsPropertyClass;
+class clsPropertySprite;
+
+/// Versions of the movie from which there are imports, and nine-slice scaling.
+inline constexpr Long LinkVersion = 5;
+inline constexpr Long ScalingGridVersion = 8;
+
+/// Kinds of symbols that this generation can put on a timeline.
+bool CanPlace(Long kind);
+
+/// A timeline being walked: its tags, and where its positions are counted from.
+struct Timeline {
+    clsSWFAdmin& Admin;
+    const Collection<clsLayer>& Layers;
+    TimelineOrigin Origin;
+    /// Frame of the movie that a sprite's definitions go into; 0 for the movie's own timeline.
+    Long SpriteFrame = 0;
+
+    bool IsMain() const { return SpriteFrame == 0; }
+};
+
+/// One build: defines symbols on first need and walks the timelines.
+class Authoring {
+public:
+    Authoring(const MovieRequest& request, clsSWFAdmin& movie) : request_(request), movie_(movie) {}
+
+    /// Notes which exported sprites belong to which class.
+    void CollectClassLinks();
+    void PreDefineFrameOne(clsSWFAdmin& admin);
+    void DefineExports(clsSWFAdmin& admin, Long mode);
+    void WriteTimeline(const Timeline& timeline);
+    /// Puts what rows of a timeline show on one frame on frame 1: no scripts, labels or sounds, and
+    /// of sprites their first frame. The result are the placements, each with its row and key
+    /// frame.
+    PlacedTags WriteFrameSnapshot(clsSWFAdmin& admin, const SnapshotRequest& snapshot);
+
+    MovieScripts Scripts;
+
+private:
+    /// `layer` is the one that shows the symbol, or null. The result is the last identifier.
+    Long EnsureDefined(clsSWFAdmin& admin, const clsLayer* layer, clsSymbolData& symbol,
+                       Long frame);
+    Long DefineSymbol(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
+    void DefineSpriteChildren(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long frame);
+    /// Defines the pictures of a koma's layer: all, or in a snapshot the one that the layer shows
+    /// on frame `shown`.
+    std::vector<Long> DefineKomas(clsSWFAdmin& admin, const clsLayer& layer, Long frame,
+                                  Long shown);
+    void DefineBitmap(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
+    void DefineText(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
+    void DefineVector(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
+    void DefineSprite(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
+    /// New definitions, with identifiers of their own. Init actions go into `frame`.
+    Long GetNewSprite(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long frame);
+    Long GetNewSpriteEdit(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long frame);
+    /// A class is an empty sprite whose init action makes it.
+    Long GetNewClass(clsSWFAdmin& admin, const clsPropertyClass& record, Long frame);
+    void DefineLink(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
+    /// Adds the definition of a sprite whose timeline is written, and its init actions.
+    Long AddSprite(clsSWFAdmin& admin, const std::shared_ptr<clsSWFAdmin>& inner, Long frame);
+    ButtonCharacters DefineButtonStates(clsSWFAdmin& admin, clsPropertyButton& button, Long frame);
+    Long DefineHitArea(clsSWFAdmin& admin, clsPropertyButton& button, Long frame);
+    /// An empty timeline for a sprite, which shares the definitions of `admin`.
+    static std::shared_ptr<clsSWFAdmin> NewInner(const clsSWFAdmin& admin, Long width, Long height,
+                                                 Long frameCount);
+    void AddScalingGrid(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long id, Long frame);
+    void AddExport(clsSWFAdmin& admin, const clsSymbolData& symbol, Long id, Long frame);
+
+    /// Frame for what need not be defined in the first one.
+    Long LateFrame() const { return snapshot_ == nullptr ? 2 : 1; }
+    /// Frame of a timeline that a snapshot shows: of sprites the first.
+    Long SnapshotFrame(const Timeline& timeline) const;
+    /// A row with so many depths from `depth` on has something for the walk.
+    bool IsWalked(const Timeline& timeline, Long index, Long depth, Long depths) const;
+    void WriteLayer(const Timeline& timeline, Long index, Long& depth);
+    void WriteUnplaced(const Timeline& timeline, const clsLayer& layer);
+    void WriteBackground(const Timeline& timeline, const clsLayer& layer);
+    void WriteLabels(const Timeline& timeline, const clsLayer& layer);
+    void PlaceLayer(const Timeline& timeline, Long index, Long depth);
+    void DefineExport(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
+    void WriteFrameActions(const Timeline& timeline, const clsLayer& layer);
+    /// Defines the button of one layer, with the layer's script. 0 for a layer without key frames.
+    Long DefineButton(const Timeline& timeline, const clsLayer& layer, Long depth);
+    void PlaceKomas(const Timeline& timeline, Long index, LayerCharacter character);
+    void Place(const Timeline& timeline, Long index, const LayerCharacter& character);
+    DeformedCharacter Deform(const Timeline& timeline, const clsLayer& layer,
+                             const clsLayerObject& start, const clsLayerObject* end);
+    bool IsGated(const clsLayer& layer) const;
+    void LeaveOut(const clsLayer& layer);
+    void LeaveOutKomas(const clsLayer& layer);
+    void ShowProgress(Long done, Long total) const;
+
+    const MovieRequest& request_;
+    clsSWFAdmin& movie_;
+    const SnapshotRequest* snapshot_ = nullptr;
+    PlacedTags placed_;
+    std::set<const clsLayer*> leftOut_;
+    Long nesting_ = 0;
+};
+
+}  // namespace tamber

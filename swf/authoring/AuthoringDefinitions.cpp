@@ -1,0 +1,338 @@
+#include <algorithm>
+
+#include "document/Project.h"
+#include "document/elements/SymbolKinds.h"
+#include "document/records/clsPropertyBmp.h"
+#include "document/records/clsPropertyClass.h"
+#include "document/records/clsPropertyKoma.h"
+#include "document/records/clsPropertyLinkSymbol.h"
+#include "document/records/clsPropertySprite.h"
+#include "document/records/clsPropertyVector.h"
+#include "platform/UserInterface.h"
+#include "platform/twips.h"
+#include "script/InitBlock.h"
+#include "swf/authoring/Authoring.h"
+#include "swf/authoring/ExportFrames.h"
+#include "swf/authoring/FitText.h"
+#include "swf/authoring/FramePlacement.h"
+#include "swf/authoring/MovieLimits.h"
+#include "swf/authoring/TextDefinition.h"
+#include "swf/authoring/VectorDefinition.h"
+#include "swf/tags/clsSWFTagDefineSprite.h"
+#include "swf/tags/clsSWFTagExport.h"
+
+namespace tamber {
+
+namespace {
+
+constexpr Long BitmapExportVersion = 8;
+
+/// Kinds whose exports are not generated yet.
+bool LacksExport(Long kind) {
+    return kind == KindSound || kind == KindMovieEmp;
+}
+
+/// A definition gives the symbol an identifier.
+bool HasCharacter(const clsSymbolData& symbol) {
+    switch (symbol.eType()) {
+        case KindBitmap:
+        case KindText:
+        case KindSprite:
+        case KindClass:
+            return true;
+        case KindVector:
+            return HasShapes(*symbol.Property<clsPropertyVector>());
+        case KindLink:
+            return mdlSWFTag::swfVersion() >= LinkVersion;
+        default:
+            return false;
+    }
+}
+
+/// The picture that a koma's layer shows on a frame on which it is seen, null when none of its
+/// pictures is anything to see.
+clsSymbolData* KomaOn(const clsLayer& layer, Long frame) {
+    const auto& record = *layer.SymbolData()->Property<clsPropertyKoma>();
+    std::vector<clsSymbolData*> pictures;
+    for (const auto& koma : *record.colKomas)
+        if (HasCharacter(*koma)) pictures.push_back(koma.get());
+    if (pictures.empty()) return nullptr;
+    const auto picture = FramePlacement(layer, frame).KomaPicture(std::max(record.DispCount, 1));
+    return pictures[static_cast<std::size_t>(picture) % pictures.size()];
+}
+
+TimelineOrigin OriginOf(const clsPropertySprite& sprite) {
+    return {static_cast<Single>(sprite.baseX), static_cast<Single>(sprite.baseY)};
+}
+
+}  // namespace
+
+void Authoring::ShowProgress(Long done, Long total) const {
+    if (request_.blProgress) CurrentUserInterface().Progress(u"", done, total);
+}
+
+void Authoring::CollectClassLinks() {
+    for (const auto& symbol : *request_.Library)
+        if (symbol->eType() == KindSprite && symbol->blExportEx() && !symbol->LinkClassName.empty())
+            Scripts.colClassLinks[symbol->LinkClassName].push_back(symbol->ExportName());
+}
+
+void Authoring::PreDefineFrameOne(clsSWFAdmin& admin) {
+    for (const auto& layer : *request_.Layers) {
+        if (!layer->Visible(true) || layer->ObjectCount() == 0) continue;
+        if (layer->Object(1)->StartFrame() != 1) continue;
+        clsSymbolData& symbol = *layer->SymbolData();
+        if (symbol.eType() != KindKoma) {
+            EnsureDefined(admin, layer.get(), symbol, 1);
+            continue;
+        }
+        // The first that is anything to see, which others may come before.
+        for (const auto& koma : *symbol.Property<clsPropertyKoma>()->colKomas)
+            if (EnsureDefined(admin, nullptr, *koma, 1) != 0) break;
+    }
+}
+
+void Authoring::DefineExports(clsSWFAdmin& admin, Long mode) {
+    ExportFrames frames(*request_.Library, std::min(mode, 2));
+    std::vector<std::shared_ptr<clsSymbolData>> classes;
+    for (const auto& symbol : *request_.Library) {
+        if (!IsExported(*symbol)) continue;
+        if (symbol->eTypeEx() == KindClass)
+            classes.push_back(symbol);
+        else
+            DefineExport(admin, *symbol, frames.FrameOf(*symbol));
+    }
+    for (const auto& symbol : classes) DefineExport(admin, *symbol, frames.FrameOf(*symbol));
+}
+
+void Authoring::DefineExport(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
+    if (LacksExport(symbol.eType())) {
+        ShowMessage(u"「" + symbol.ExportName() +
+                    u"」は書き出せません。\r\nこの種類のシンボルの生成には対応していません。");
+        return;
+    }
+    if (symbol.eType() == KindVector) symbol.DefineNum = VectorForm::Clip;
+    if (symbol.DefineID() == 0) DefineSymbol(admin, symbol, frame);
+    symbol.DefineNum = VectorForm::Plain;
+}
+
+Long Authoring::EnsureDefined(clsSWFAdmin& admin, const clsLayer* layer, clsSymbolData& symbol,
+                              Long frame) {
+    if (const auto* drawing = symbol.Property<clsPropertyVector>()) {
+        const bool several = drawing->MorphSymbol() || drawing->blDivide;
+        if (layer == nullptr && several) symbol.DefineNum = VectorForm::MorphStart;
+        if (layer != nullptr && layer->ClippingDepth != 0) symbol.DefineNum = VectorForm::Clip;
+    }
+    const Long id = symbol.DefineID() == 0 ? DefineSymbol(admin, symbol, frame) : symbol.DefineID();
+    symbol.DefineNum = VectorForm::Plain;
+    return id;
+}
+
+Long Authoring::DefineSymbol(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
+    if (nesting_ > DeepestNesting) return 0;
+    ++nesting_;
+    if (symbol.eType() == KindBitmap) DefineBitmap(admin, symbol, frame);
+    if (symbol.eType() == KindText) DefineText(admin, symbol, frame);
+    if (symbol.eType() == KindVector) DefineVector(admin, symbol, frame);
+    if (symbol.eType() == KindSprite) {
+        DefineSpriteChildren(admin, *symbol.Property<clsPropertySprite>(), frame);
+        DefineSprite(admin, symbol, frame);
+    }
+    if (symbol.eType() == KindButton)
+        DefineButtonStates(admin, *symbol.Property<clsPropertyButton>(), frame);
+    if (symbol.eType() == KindClass && snapshot_ == nullptr) {
+        symbol.DefineID(GetNewClass(admin, *symbol.Property<clsPropertyClass>(), frame));
+        AddExport(admin, symbol, symbol.DefineID(), frame);
+    }
+    if (symbol.eType() == KindLink) DefineLink(admin, symbol, frame);
+    --nesting_;
+    return symbol.DefineID();
+}
+
+void Authoring::DefineSpriteChildren(clsSWFAdmin& admin, const clsPropertySprite& sprite,
+                                     Long frame) {
+    for (const auto& layer : *sprite.colLayer) {
+        const bool unseen = snapshot_ != nullptr && FramePlacement(*layer, 1).Empty();
+        if (!layer->Visible(true) || unseen) continue;
+        if (layer->SymbolData()->eType() == KindKoma)
+            DefineKomas(admin, *layer, frame, 1);
+        else
+            EnsureDefined(admin, layer.get(), *layer->SymbolData(), frame);
+    }
+}
+
+std::vector<Long> Authoring::DefineKomas(clsSWFAdmin& admin, const clsLayer& layer, Long frame,
+                                         Long shown) {
+    std::vector<Long> identifiers;
+    const auto define = [&](clsSymbolData& koma) {
+        if (const Long id = EnsureDefined(admin, nullptr, koma, frame)) identifiers.push_back(id);
+    };
+    if (snapshot_ == nullptr)
+        for (const auto& koma : *layer.SymbolData()->Property<clsPropertyKoma>()->colKomas)
+            define(*koma);
+    else if (clsSymbolData* koma = KomaOn(layer, shown))
+        define(*koma);
+    return identifiers;
+}
+
+void Authoring::DefineBitmap(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
+    const clsPropertyBmp& picture = *symbol.Property<clsPropertyBmp>();
+    Long bitmapID = 0;
+    if (picture.blJpeg) {
+        auto tag = admin.GetNewJpeg(picture.bufBmp, picture.bufAlpha);
+        bitmapID = tag->ID;
+        admin.AddTag(frame, std::move(tag), true);
+    } else {
+        auto tag =
+            admin.GetNewBitmap(picture.bufBmp, picture.BitCount, picture.Width, picture.height);
+        bitmapID = tag->ID;
+        admin.AddTag(frame, std::move(tag), true);
+    }
+    auto shape = admin.GetNewBitmapShape(bitmapID, picture.Width, picture.height);
+    symbol.DefineID(shape->ID);
+    admin.AddTag(frame, std::move(shape), true);
+    const bool exportPicture = mdlSWFTag::swfVersion() >= BitmapExportVersion;
+    AddExport(admin, symbol, exportPicture ? bitmapID : symbol.DefineID(), frame);
+}
+
+void Authoring::DefineText(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
+    if (admin.inFontAdmin && FollowsOutline(symbol)) {
+        const auto sprite = FitTextSprite(symbol, *admin.inFontAdmin);
+        symbol.DefineID(DefineSymbol(admin, *sprite, frame));
+    } else {
+        tamber::DefineText(admin, symbol, frame);
+    }
+    AddExport(admin, symbol, symbol.DefineID(), frame);
+}
+
+void Authoring::DefineVector(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
+    tamber::DefineVector({admin, movie_, frame}, symbol);
+    if (symbol.DefineNum == VectorForm::Clip && symbol.DefineID() != 0)
+        AddExport(admin, symbol, symbol.DefineID(), frame);
+}
+
+std::shared_ptr<clsSWFAdmin> Authoring::NewInner(const clsSWFAdmin& admin, Long width, Long height,
+                                                 Long frameCount) {
+    auto inner = std::make_shared<clsSWFAdmin>();
+    inner->SetDimension(0, width, 0, height, 0);
+    inner->FrameCount(frameCount);
+    inner->Ver = mdlSWFTag::swfVersion();
+    inner->FrameRate = admin.FrameRate;
+    inner->colDefineObj(admin.colDefineObj());
+    return inner;
+}
+
+Long Authoring::AddSprite(clsSWFAdmin& admin, const std::shared_ptr<clsSWFAdmin>& inner,
+                          Long frame) {
+    auto tag = std::make_shared<clsSWFTagDefineSprite>();
+    tag->FrameCount = inner->FrameCount();
+    tag->SaveTimeline = [inner] { inner->FramesSave(); };
+    const Long id = inner->AddDefinition(tag);
+    tag->ID = admin.DefineID = id;
+    // The list holds the tag, which holds the timeline: it must not hold the list too.
+    inner->colDefineObj(std::make_shared<clsSWFAdmin::DefinitionList>());
+    for (auto& action : inner->colInitAction) {
+        if (action->SpriteID < 0) action->SpriteID = id;
+        admin.colInitAction.push_back(action);
+    }
+    inner->colInitAction.clear();
+    admin.AddTag(frame, std::move(tag), true);
+    admin.AddColInitAction(frame);
+    return id;
+}
+
+Long Authoring::GetNewSprite(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long frame) {
+    const auto inner =
+        NewInner(admin, sprite.Width, sprite.height,
+                 std::clamp(mdlSWFAuthoring::LastShownFrame(*sprite.colLayer), 1, MaxFrames));
+    WriteTimeline({*inner, *sprite.colLayer, OriginOf(sprite), frame});
+    return AddSprite(admin, inner, frame);
+}
+
+Long Authoring::GetNewSpriteEdit(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long frame) {
+    const auto inner = NewInner(admin, sprite.Width, sprite.height, 1);
+    WriteTimeline({*inner, *sprite.colLayer, OriginOf(sprite), frame});
+    return AddSprite(admin, inner, frame);
+}
+
+void Authoring::DefineSprite(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
+    const clsPropertySprite& sprite = *symbol.Property<clsPropertySprite>();
+    const Long id = snapshot_ == nullptr ? GetNewSprite(admin, sprite, frame)
+                                         : GetNewSpriteEdit(admin, sprite, frame);
+    symbol.DefineID(id);
+    AddScalingGrid(admin, sprite, id, frame);
+    AddExport(admin, symbol, id, frame);
+}
+
+Long Authoring::GetNewClass(clsSWFAdmin& admin, const clsPropertyClass& record, Long frame) {
+    const auto inner = NewInner(admin, 0, 0, 1);
+    Scripts.CompileClass(*inner, record);
+    return AddSprite(admin, inner, frame);
+}
+
+void Authoring::DefineLink(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
+    const auto& link = *symbol.Property<clsPropertyLinkSymbol>();
+    if (mdlSWFTag::swfVersion() < LinkVersion) return;
+    admin.AddTag(frame, admin.GetNewImport(link.URL, link.SymbolName), true);
+    symbol.DefineID(admin.DefineID);
+    if (link.eTypeEx() != KindClass || mdlSWFTag::swfVersion() < InitClipVersion) return;
+    Scripts.CompileClassLinks(admin, link.SymbolName, symbol.DefineID());
+    admin.AddColInitAction(frame);
+}
+
+ButtonCharacters Authoring::DefineButtonStates(clsSWFAdmin& admin, clsPropertyButton& button,
+                                               Long frame) {
+    const auto define = [&](const std::shared_ptr<clsSymbolData>& state) {
+        if (!state) return Long{0};
+        const Long id = EnsureDefined(admin, nullptr, *state, frame);
+        admin.IncPlaceCount(id, 1);
+        return id;
+    };
+    ButtonCharacters characters;
+    characters.HitTest = DefineHitArea(admin, button, frame);
+    characters.Down = define(button.DownSymbol());
+    characters.Over = define(button.OverSymbol());
+    characters.Up = define(button.UpSymbol());
+    // A picture is its own hit area.
+    if (characters.HitTest == 0) characters.HitTest = characters.Up;
+    return characters;
+}
+
+/// 0 where the button has no hit area and needs none made.
+Long Authoring::DefineHitArea(clsSWFAdmin& admin, clsPropertyButton& button, Long frame) {
+    std::shared_ptr<clsSymbolData> area = button.HitTestSymbol();
+    if (const auto up = button.UpSymbol(); !area && up) {
+        const Long kind = up->eTypeEx();
+        const bool isDrawn = kind == KindText || kind == KindVector || kind == KindSprite;
+        if (isDrawn && !button.AutoHitTestSymbol) button.AutoHitTestSymbol = NewHitRect(*up);
+        area = button.AutoHitTestSymbol;
+    }
+    if (!area) return 0;
+    const Long id = EnsureDefined(admin, nullptr, *area, frame);
+    admin.IncPlaceCount(id, 1);
+    return id;
+}
+
+void Authoring::AddScalingGrid(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long id,
+                               Long frame) {
+    if (!sprite.bl9Scale || mdlSWFTag::swfVersion() < ScalingGridVersion) return;
+    const auto side = [](Long grid, Long base) {
+        return mdlSWFTag::ToField(static_cast<double>(grid) -
+                                  static_cast<double>(base) * TwipsPerPixel);
+    };
+    admin.AddTag(frame,
+                 admin.GetNewScalingGrid(
+                     id, side(sprite.GridLeft, sprite.baseX), side(sprite.GridRight, sprite.baseX),
+                     side(sprite.GridTop, sprite.baseY), side(sprite.GridBottom, sprite.baseY)),
+                 true);
+}
+
+void Authoring::AddExport(clsSWFAdmin& admin, const clsSymbolData& symbol, Long id, Long frame) {
+    if (!symbol.blExport || symbol.ExportName().empty()) return;
+    auto tag = std::make_shared<clsSWFTagExport>();
+    tag->AddSymbol(id, symbol.ExportName());
+    admin.AddTag(frame, std::move(tag), true);
+    admin.IncPlaceCount(id, 1);
+}
+
+}  // namespace tamber

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "document/symbols/clsLayer.h"
+#include "document/symbols/clsSymbolData.h"
+#include "platform/Collection.h"
+#include "swf/tags/clsSWFTagPlaceObject.h"
+#include "swf/tags/clsFontAdmin.h"
+
+namespace tamber {
+
+class clsSWFAdmin;
+
+/// What a movie is built from.
+struct MovieRequest {
+    Long Width = 0;  ///< twips
+    Long Height = 0;
+    Single FrameRate = 12;
+    Long Version = 6;
+    const Collection<clsSymbolData>* Library = nullptr;
+    const Collection<clsLayer>* Layers = nullptr;
+    /// Fonts of the library's texts; without them a movie has none.
+    std::shared_ptr<clsFontAdmin> Fonts;
+    String Path;
+    bool blProgress = false;
+    bool blCompress = true;
+    /// The first layer of the table is the topmost one.
+    bool blTopToBottom = true;
+    Long BackColor = 0xFFFFFF;  ///< blue in the low byte
+    /// Gets a tab and the name of each named anchor, when given.
+    String* AnchorLabels = nullptr;
+    /// Where the files that scripts include are looked for; empty for a project never saved.
+    String ProjectFolder;
+    /// Faults of clip actions are told.
+    bool blScriptMessages = true;
+    /// Cleared when a clip action could not be used, when given.
+    bool* blScriptsValid = nullptr;
+    bool blExports = true;
+    bool blExportsInFrameTwo = false;
+};
+
+/// One frame of a timeline, as the canvas shows it.
+struct SnapshotRequest {
+    const Collection<clsLayer>* Layers = nullptr;
+    /// Rows to show; masks among them clip as in the movie.
+    Long FirstRow = 1;
+    Long LastRow = 1;
+    Long Frame = 1;
+    /// The first layer of the table is the topmost one.
+    bool blTopToBottom = true;
+};
+
+using PlacedTags = std::vector<std::shared_ptr<clsSWFTagPlaceObject>>;
+
+namespace mdlSWFAuthoring {
+
+/// Builds and writes a movie. What cannot go into it is left out with a message. False when nothing
+/// was written.
+bool BuildMovie(const MovieRequest& request);
+
+/// Fills an empty movie of the global version, whose symbols have no identifiers yet, with one
+/// frame of a timeline. The result are the placements, each with its row and key frame.
+PlacedTags WriteFrameSnapshot(clsSWFAdmin& admin, const SnapshotRequest& snapshot);
+
+/// Last frame on which a visible layer shows anything, 0 when there is none.
+Long LastShownFrame(const Collection<clsLayer>& layers);
+
+/// Depths that a mask on this layer clips: those of the layers listed just before it.
+Long ClipDepthOf(const Collection<clsLayer>& layers, Long layerIndex, Long clippingDepth);
+
+}  // namespace mdlSWFAuthoring
+
+}  // namespace tamber
