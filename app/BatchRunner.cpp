@@ -1,40 +1,15 @@
 #include "app/BatchRunner.h"
 
 #include <algorithm>
-#include <map>
 
+#include "app/commands/CommandTable.h"
 #include "document/cells/clsCSV.h"
-#include "platform/RuntimeError.h"
 #include "platform/codepage.h"
 #include "platform/text.h"
 
 namespace tamber {
 
 namespace {
-
-const std::vector<std::span<const BatchCommand>>& Groups() {
-    static const std::vector<std::span<const BatchCommand>> groups{
-        BatchProjectCommands(), BatchLibraryCommands(), BatchTimelineCommands()};
-    return groups;
-}
-
-/// Null for a name that no command has.
-const BatchCommand* FindCommand(StringView name) {
-    static const auto byName = [] {
-        std::map<StringView, const BatchCommand*> commands;
-        for (const auto& group : Groups())
-            for (const BatchCommand& command : group) commands.emplace(command.Name, &command);
-        return commands;
-    }();
-    const auto found = byName.find(name);
-    return found == byName.end() ? nullptr : found->second;
-}
-
-String UsageOf(const BatchCommand& command) {
-    String text(command.Name);
-    if (!command.Usage.empty()) text.append(u" ").append(command.Usage);
-    return text;
-}
 
 std::vector<String> SplitLine(StringView line) {
     clsCSV cells;
@@ -64,8 +39,7 @@ void Tell(Long number, StringView text) {
 
 std::string BatchRunner::List() {
     String text;
-    for (const auto& group : Groups())
-        for (const BatchCommand& command : group) text += UsageOf(command) + u"\n";
+    for (const Command* command : CommandTable()) text += UsageOf(*command) + u"\n";
     return ToNarrow(text);
 }
 
@@ -79,22 +53,26 @@ bool BatchRunner::Run(StringView script) {
 }
 
 bool BatchRunner::RunLine(StringView line, Long number) {
-    BatchArguments arguments = SplitLine(line);
-    const BatchCommand* command = arguments.empty() ? nullptr : FindCommand(arguments.front());
+    CommandArguments arguments = SplitLine(line);
+    const Command* command = arguments.empty() ? nullptr : FindCommand(arguments.front());
     if (command == nullptr) {
         Tell(number, u"不明なコマンドです。「" + String(line) + u"」");
         return false;
     }
     arguments.erase(arguments.begin());
-    if (arguments.size() < command->Least || arguments.size() > command->Most) {
-        Tell(number, u"引数の数が違います。「" + UsageOf(*command) + u"」");
-        return false;
-    }
-    try {
-        if (command->Do(context_, arguments)) return true;
-        Tell(number, u"実行できませんでした。「" + String(line) + u"」");
-    } catch (const RuntimeError&) {
-        Tell(number, u"引数が正しくありません。「" + UsageOf(*command) + u"」");
+    switch (RunCommand(*command, context_, arguments)) {
+        case CommandOutcome::Done:
+            return true;
+        case CommandOutcome::Refused:
+        case CommandOutcome::Busy:
+            Tell(number, u"実行できませんでした。「" + String(line) + u"」");
+            break;
+        case CommandOutcome::WrongCount:
+            Tell(number, u"引数の数が違います。「" + UsageOf(*command) + u"」");
+            break;
+        case CommandOutcome::WrongArgument:
+            Tell(number, u"引数が正しくありません。「" + UsageOf(*command) + u"」");
+            break;
     }
     return false;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/BatchCommand.h"
+#include "app/commands/Command.h"
 
 namespace tamber {
 
@@ -8,7 +8,7 @@ namespace tamber {
 /// blanks, between double quotes where they hold any. A line that begins with "#" is a remark.
 class BatchRunner {
 public:
-    explicit BatchRunner(BatchContext context) : context_(std::move(context)) {}
+    explicit BatchRunner(CommandContext context) : context_(std::move(context)) {}
 
     /// Runs all lines. A line that fails is told, with its number, and the rest goes on; false
     /// then.
@@ -20,7 +20,7 @@ public:
 private:
     bool RunLine(StringView line, Long number);
 
-    BatchContext context_;
+    CommandContext context_;
 };
 
 }  // namespace tamber

@@ -8,8 +8,8 @@
 
 #include "app/BatchRunner.h"
 #include "app/Main.h"
-#include "app/ProjectInfo.h"
-#include "app/mdlPrivateProfile.h"
+#include "app/fields/ProjectInfo.h"
+#include "app/settings/mdlPrivateProfile.h"
 #include "document/AppVersion.h"
 #include "output/MovieListing.h"
 #include "platform/ConsoleUserInterface.h"
@@ -123,7 +123,7 @@ int Generate(const Options& options, const ConsoleUserInterface& console) {
     if (options.Html) mdlPrivateProfile::SettingsOverride(u"flgMakeHTML=1");
     frmMain controller;
     if (!LoadFor(controller, options.Words[1])) return CouldNot;
-    const String project = controller.ProjectFileName;
+    const String project = controller.ProjectFileName();
     const String output = options.Output.empty()
                               ? JoinPath(GetFileFolder(project), GetFileBase(project) + u".swf")
                               : PathOf(options.Output);
@@ -144,8 +144,8 @@ int Convert(const Options& options) {
 int Info(const Options& options) {
     frmMain controller;
     if (!LoadFor(controller, options.Words[1])) return CouldNot;
-    return Print(options.Json ? ProjectInfoJson(controller.inProject)
-                              : ProjectInfoText(controller.inProject));
+    return Print(options.Json ? ProjectInfoJson(controller.inProject())
+                              : ProjectInfoText(controller.inProject()));
 }
 
 int Disassemble(const Options& options) {
@@ -188,7 +188,7 @@ int Batch(const Options& options) {
     const auto print = [&printed](const std::string& text) {
         printed = Print(text) == Done && printed;
     };
-    const bool done = BatchRunner({controller, interface, print}).Run(*script);
+    const bool done = BatchRunner({controller, &interface, print}).Run(*script);
     return done && printed ? Done : CouldNot;
 }
 

@@ -48,8 +48,8 @@ bool Application::Main(StringView commandLine) {
     if (!CheckScreen() || !CheckComponents() || !LoadLibraries()) return false;
     DeleteOldKeywords();
     controller_ = std::make_unique<frmMain>();
-    controller_->ClassNames = ClassNames();
-    controller_->blRecentFiles = true;
+    controller_->ClassNames(ClassNames());
+    controller_->blRecentFiles(true);
     controller_->Form_Load();
     const String path = ProjectPathOf(commandLine);
     if (!path.empty()) controller_->OpenProject(AbsolutePath(path));

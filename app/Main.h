@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "app/frmMain.h"
+#include "app/controller/frmMain.h"
 #include "platform/SystemEnvironment.h"
 
 namespace tamber {

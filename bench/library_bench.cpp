@@ -1,6 +1,6 @@
 #include <benchmark/benchmark.h>
 
-#include "app/frmMain.h"
+#include "app/controller/frmMain.h"
 #include "document/edit/SymbolSort.h"
 #include "document/records/clsPropertySprite.h"
 #include "platform/RecordingUserInterface.h"

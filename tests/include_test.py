@@ -30,6 +30,12 @@ FLOORS = [
     "canvas",
     "canvas/picture",
     "output",
+    "app/settings",
+    "app/session",
+    "app/operations",
+    "app/controller",
+    "app/fields",
+    "app/commands",
     "app",
     "ui",
 ]

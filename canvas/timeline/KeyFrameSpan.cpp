@@ -27,12 +27,6 @@ bool SetLength(clsLayer& layer, Long index, Long count) {
     return true;
 }
 
-void FitBefore(clsLayer& layer, Long frame, Long lastFrame) {
-    Long index = layer.ObjectCount();
-    while (index > 0 && layer.Object(index)->StartFrame() >= frame) --index;
-    if (index > 0) layer.ChangeStartFrame(index, lastFrame);
-}
-
 void Stretch(clsLayer& layer, Long index, Long end) {
     clsLayerObject& object = *layer.Object(index);
     if (index < layer.ObjectCount()) end = layer.Object(index + 1)->StartFrame() - 1;

@@ -12,9 +12,6 @@ bool MoveStart(clsLayer& layer, Long index, Long frame, Long lastFrame);
 /// or when the frames before the next one, or to the timeline's end, are its own anyway.
 bool SetLength(clsLayer& layer, Long index, Long count);
 
-/// Fits the key frame before a frame, behind which key frames were removed.
-void FitBefore(clsLayer& layer, Long frame, Long lastFrame);
-
 /// Stretches a key frame to the next one, or without one to `end` where that is not before it.
 void Stretch(clsLayer& layer, Long index, Long end);
 

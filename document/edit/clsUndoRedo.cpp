@@ -57,12 +57,17 @@ void clsUndoRedo::Init(const clsUndoRedoData& data, const Collection<clsLayer>& 
     Change(data, layers, false);
 }
 
+const LayerSnapshot* clsUndoRedo::FindState(const std::shared_ptr<clsSymbolData>& sprite) const {
+    for (std::size_t i = position_ - 1; i < states_.size(); ++i)
+        if (states_[i].inSprite == sprite) return &states_[i].colEditLayer;
+    return nullptr;
+}
+
 /// The newest state of a timeline, with which the next shares what did not change.
 const LayerSnapshot& clsUndoRedo::LatestOf(const std::shared_ptr<clsSymbolData>& sprite) const {
     static const LayerSnapshot none;
-    for (std::size_t i = position_ - 1; i < states_.size(); ++i)
-        if (states_[i].inSprite == sprite) return states_[i].colEditLayer;
-    return none;
+    const LayerSnapshot* found = FindState(sprite);
+    return found != nullptr ? *found : none;
 }
 
 void clsUndoRedo::ForgetOwner(clsUndoRedoData& data) const {
@@ -127,6 +132,12 @@ void clsUndoRedo::SetUndoRedoData(clsUndoRedoData data, const Collection<clsLaye
 
 void clsUndoRedo::Keep(std::shared_ptr<const RemovedSymbols> symbols) {
     if (!states_.empty()) Present().Kept.push_back(std::move(symbols));
+}
+
+const LayerSnapshot* clsUndoRedo::StateOf(const std::shared_ptr<clsSymbolData>& owner) const {
+    const auto stored = owner == Owner.lock() ? nullptr : owner;
+    if (pending_ && pending_->inSprite == stored) return &pending_->colEditLayer;
+    return FindState(stored);
 }
 
 RemovedSymbols clsUndoRedo::Release() {

@@ -63,6 +63,10 @@ public:
     /// Symbols leave the library: the states that may show them keep them.
     void Keep(std::shared_ptr<const RemovedSymbols> symbols);
 
+    /// The state of a timeline as it was recorded last, null when it was not; an owner of null
+    /// stands for the main timeline.
+    const LayerSnapshot* StateOf(const std::shared_ptr<clsSymbolData>& owner) const;
+
     /// Forgets all states and gives the symbols that they held; null among them.
     RemovedSymbols Release();
 
@@ -85,6 +89,7 @@ public:
 
 private:
     std::size_t Limit() const { return static_cast<std::size_t>(maxHistory_) + 1; }
+    const LayerSnapshot* FindState(const std::shared_ptr<clsSymbolData>& sprite) const;
     const LayerSnapshot& LatestOf(const std::shared_ptr<clsSymbolData>& sprite) const;
     Restored Restore(Collection<clsSymbolData>& library, const clsUndoRedoData& left);
     void Push(clsUndoRedoData data);

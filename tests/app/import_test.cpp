@@ -26,7 +26,7 @@ protected:
         project.MainWidth = 100;
         project.MainHeight = 80;
         project.FrameRate = 10;
-        project.SWFVersion = main_.inProject.SWFVersion;
+        project.SWFVersion = main_.inProject().SWFVersion;
         Collection<clsSymbolData>& all = *project.colSymbol;
         for (const Long kind : {KindText, KindMovieEmp, KindMovieEmp, KindSymbolFolder, KindButton,
                                 KindKoma, KindSprite}) {
@@ -107,9 +107,9 @@ TEST_F(Import, brings_symbols_and_layers_with_their_references) {
     EXPECT_EQ(Row(1).SymbolData(), At(8));
     EXPECT_EQ(Spans(Row(5)), "1-4F");
     // Stage, rate and version are the open project's.
-    EXPECT_NE(main_.inProject.MainWidth, 100);
-    EXPECT_NE(main_.inProject.FrameRate, 10);
-    EXPECT_EQ(main_.cUndoRedo.TotalHistory, 1);
+    EXPECT_NE(main_.inProject().MainWidth, 100);
+    EXPECT_NE(main_.inProject().FrameRate, 10);
+    EXPECT_EQ(main_.cUndoRedo().TotalHistory, 1);
     main_.mnuUndoRedo(0);
     EXPECT_EQ(main_.colMainLayer()->Count(), 1);
     main_.mnuUndoRedo(1);
@@ -137,7 +137,7 @@ TEST_F(Import, numbers_move_by_what_is_added) {
     EXPECT_EQ(Rows(*sprite.colLayer), "1 2(2) >3 >4");
     EXPECT_EQ(main_.colMainLayer()->Count(), 1);
     // No step, and yet nothing may be lost.
-    EXPECT_EQ(main_.cUndoRedo.TotalHistory, 0);
+    EXPECT_EQ(main_.cUndoRedo().TotalHistory, 0);
     EXPECT_FALSE(main_.mnuNew());
     EXPECT_EQ(interface_.Questions.size(), 1u);
 }
@@ -196,7 +196,7 @@ TEST_F(Import, into_a_sprite_that_the_layers_show_is_refused) {
 }
 
 TEST_F(Import, asks_about_another_version_and_replaces_missing_fonts) {
-    main_.inProject.SWFVersion = main_.inProject.SWFVersion == 8 ? 6 : 8;
+    ASSERT_TRUE(main_.mnuPrjProperty(320, 320, 24, main_.SWFVersion() == 8 ? 6 : 8));
     EXPECT_FALSE(Run());
     ASSERT_EQ(interface_.Questions.size(), 1u);
     EXPECT_EQ(interface_.Questions[0].Text, u"SWFのバージョンが違います。\r\n読み込みますか？");
@@ -206,7 +206,7 @@ TEST_F(Import, asks_about_another_version_and_replaces_missing_fonts) {
     Project project;
     project.MainWidth = project.MainHeight = 100;
     project.FrameRate = 10;
-    project.SWFVersion = main_.inProject.SWFVersion;
+    project.SWFVersion = main_.inProject().SWFVersion;
     for (Long id = 1; id <= 2; ++id) {
         const auto text = std::make_shared<clsSymbolData>(KindText);
         text->ID = text->Index = id;

@@ -4,7 +4,7 @@
 #include <random>
 #include <set>
 
-#include "app/mdlPrivateProfile.h"
+#include "app/settings/mdlPrivateProfile.h"
 #include "document/edit/SymbolReferences.h"
 #include "document/records/SymbolTimeline.h"
 #include "document/records/clsPropertyBmp.h"
@@ -174,13 +174,13 @@ TEST_F(LibraryCommands, new_symbols_go_before_the_selected_row_which_stays_selec
     main_.mnuAddSymbolItem_Sprite(Accept);
     main_.mnuAddSymbolItem_Sprite(Accept);
     EXPECT_EQ(Library(), "F(4) >1 >3s >4s >2");
-    EXPECT_EQ(main_.SelSymbol1, 5);
+    EXPECT_EQ(main_.SelSymbol1(), 5);
     main_.SelectSymbols(1, 99);
-    EXPECT_EQ(main_.SelSymbol2, 5);
+    EXPECT_EQ(main_.SelSymbol2(), 5);
     main_.mnuAddSymbolItem_Sprite(Accept);
     EXPECT_EQ(Library(), "5s F(4) >1 >3s >4s >2");
-    EXPECT_EQ(main_.SelSymbol1, 2);
-    EXPECT_EQ(main_.SelSymbol2, 6);
+    EXPECT_EQ(main_.SelSymbol1(), 2);
+    EXPECT_EQ(main_.SelSymbol2(), 6);
     main_.SelectSymbols(0, 0);
     AddPicture();
     EXPECT_EQ(Library(), "5s F(4) >1 >3s >4s >2 6");
@@ -253,7 +253,7 @@ TEST_F(LibraryCommands, the_edited_timeline_stays_while_rows_move) {
     const auto edited = Symbol(2);
     main_.ChangeSprite(2);
     const auto check = [&](Long index) {
-        EXPECT_EQ(main_.editIndex, index);
+        EXPECT_EQ(main_.editIndex(), index);
         EXPECT_EQ(Symbol(index), edited);
         EXPECT_EQ(main_.colEditLayer(), TimelineOf(*edited));
     };
@@ -261,8 +261,8 @@ TEST_F(LibraryCommands, the_edited_timeline_stays_while_rows_move) {
     check(3);
     EXPECT_TRUE(main_.MoveSymbols(3, 4, 1, false, false));
     check(1);
-    EXPECT_EQ(main_.SelSymbol1, 1);
-    EXPECT_EQ(main_.SelSymbol2, 2);
+    EXPECT_EQ(main_.SelSymbol1(), 1);
+    EXPECT_EQ(main_.SelSymbol2(), 2);
     main_.mnuAddSymbolItem_Folder(u"");
     check(2);
     Remove(1, 1);
@@ -271,7 +271,7 @@ TEST_F(LibraryCommands, the_edited_timeline_stays_while_rows_move) {
     EXPECT_FALSE(main_.MoveSymbols(0, 1, 4, false, false));
     EXPECT_FALSE(main_.MoveSymbols(1, 2, 0, false, false));
     Remove(1, 1);
-    EXPECT_EQ(main_.editIndex, frmMain::EditMain);
+    EXPECT_EQ(main_.editIndex(), frmMain::EditMain);
     EXPECT_EQ(main_.colEditLayer(), main_.colMainLayer());
     EXPECT_EQ(main_.EditLayer(), (*main_.colMainLayer())(1));
 }
@@ -314,9 +314,9 @@ TEST_F(LibraryCommands, the_selected_rows_of_the_timeline_follow_what_goes) {
     main_.ChangeSelectIndex(4, 5);
     Remove(1, 1);
     EXPECT_EQ(ShownInMain(), "2 2 -1");
-    EXPECT_EQ(main_.SelIndex1, 2);
-    EXPECT_EQ(main_.SelIndex2, 3);
-    EXPECT_EQ(main_.SelSymbol1, 0);
+    EXPECT_EQ(main_.SelIndex1(), 2);
+    EXPECT_EQ(main_.SelIndex2(), 3);
+    EXPECT_EQ(main_.SelSymbol1(), 0);
 }
 
 TEST_F(LibraryCommands, a_folder_goes_with_all_that_is_in_it) {
@@ -346,6 +346,7 @@ protected:
     void SetUp() override {
         LibraryCommands::SetUp();
         EXPECT_TRUE(mdlPrivateProfile::UndoRedoType(GetParam()));
+        ASSERT_TRUE(main_.mnuNew());
     }
 };
 
@@ -406,7 +407,7 @@ TEST_P(Removal, empties_all_timelines_and_undo_fills_them) {
     Remove(1, 1);
     EXPECT_EQ(ShownIn(*sprite), "2");
     EXPECT_EQ(ShownInMain(), "3 -1");
-    EXPECT_EQ(main_.editIndex, frmMain::EditMain);
+    EXPECT_EQ(main_.editIndex(), frmMain::EditMain);
     if (GetParam()) {
         main_.mnuUndoRedo(0);
         EXPECT_EQ(ShownIn(*sprite), "2 1");
@@ -446,7 +447,7 @@ TEST_P(Removal, the_sprite_that_is_edited_may_go) {
     main_.ChangeSprite(1);
     Place({AddPicture()});
     Remove(1, 1);
-    EXPECT_EQ(main_.editIndex, frmMain::EditMain);
+    EXPECT_EQ(main_.editIndex(), frmMain::EditMain);
     EXPECT_EQ(ShownInMain(), "-1");
     EXPECT_TRUE(main_.CanUndo());
     main_.mnuUndoRedo(0);
@@ -611,14 +612,14 @@ void LibraryWalk::CheckReferences() const {
 void LibraryWalk::Check() const {
     CheckFolders();
     CheckReferences();
-    ASSERT_NE(main_.editIndex, 0);
-    ASSERT_EQ(main_.colEditLayer(),
-              main_.editIndex < 0 ? main_.colMainLayer() : TimelineOf(*Symbol(main_.editIndex)));
+    ASSERT_NE(main_.editIndex(), 0);
+    ASSERT_EQ(main_.colEditLayer(), main_.editIndex() < 0 ? main_.colMainLayer()
+                                                          : TimelineOf(*Symbol(main_.editIndex())));
 }
 
 TEST_P(LibraryWalk, keeps_all_in_order_and_ends_where_it_began_once_undone) {
-    main_.cUndoRedo.MaxHistory(1 << 20);
     EXPECT_TRUE(mdlPrivateProfile::UndoRedoMaxCount(1 << 20));
+    ASSERT_TRUE(main_.mnuNew());
     for (int step = 0; step < 1500; ++step) {
         Step();
         Check();

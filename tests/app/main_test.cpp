@@ -7,9 +7,9 @@
 #include <fstream>
 
 #include "document/elements/SymbolKinds.h"
-#include "document/symbols/clsLayer.h"
 #include "document/records/clsPropertyClass.h"
 #include "document/records/clsPropertySprite.h"
+#include "document/symbols/clsLayer.h"
 #include "document/symbols/clsSymbolData.h"
 #include "platform/RecordingUserInterface.h"
 #include "platform/codepage.h"
@@ -63,7 +63,7 @@ TEST_F(MainTest, starts_with_one_background_layer_of_one_fixed_key_frame) {
     ASSERT_EQ(layer.ObjectCount(), 1);
     EXPECT_TRUE(layer.Object(1)->blFixed);
     EXPECT_EQ(layer.Object(1)->StartFrame(), 1);
-    EXPECT_TRUE(controller.blHotKeyEnable);
+    EXPECT_TRUE(controller.blHotKeyEnable());
     EXPECT_TRUE(interface.Messages.empty());
     application.Stop();
     EXPECT_TRUE(environment.Loaded.empty());
@@ -119,7 +119,7 @@ TEST_F(MainTest, tidies_the_program_folder_and_lists_its_classes) {
     ProgramFolder(FromNarrow(home.string()));
     Application application(environment);
     ASSERT_TRUE(application.Main(u""));
-    EXPECT_EQ(application.Controller()->ClassNames, (std::vector<String>{u"Arrow", u"Ball"}));
+    EXPECT_EQ(application.Controller()->ClassNames(), (std::vector<String>{u"Arrow", u"Ball"}));
     EXPECT_FALSE(fs::exists(home / "keyword/default/keyword5.txt"));
     EXPECT_TRUE(fs::exists(home / "keyword/default/keyword6.txt"));
     EXPECT_TRUE(fs::exists(home / "_wav12.tmp"));
@@ -131,11 +131,11 @@ TEST_F(MainTest, tidies_the_program_folder_and_lists_its_classes) {
 
 TEST_F(MainTest, caption_and_edit_context_name_what_is_edited) {
     frmMain controller;
-    controller.inProject.SWFVersion = 6;
-    controller.inProject.MainWidth = controller.inProject.MainHeight = 320;
-    controller.inProject.FrameRate = 12.5f;
+    ASSERT_TRUE(controller.mnuPrjProperty(320, 320, 12.5f, 6));
     EXPECT_EQ(controller.Caption(), u"Tamber Ver.0.9.0 [RichEdit版]");
-    controller.ProjectFileName = u"/home/海.kvf";
+    const std::filesystem::path folder = std::filesystem::temp_directory_path() / "caption";
+    ASSERT_TRUE(controller.mnuSaveNew(FromNarrow((folder / "海.kvf").string())));
+    std::filesystem::remove_all(folder);
     EXPECT_EQ(controller.Caption(), u"Tamber Ver.0.9.0 [RichEdit版] [海.kvf]");
     EXPECT_EQ(controller.CurrentEditContext().Text, u"メイン(SWF6,320*320,12.5)");
 
@@ -147,9 +147,9 @@ TEST_F(MainTest, caption_and_edit_context_name_what_is_edited) {
     klass->Property<clsPropertyClass>()->Extends = u"MovieClip";
     controller.colSymbol()->Add(sprite);
     controller.colSymbol()->Add(klass);
-    controller.editIndex = 1;
+    controller.SetLayers(1, 1, 0);
     EXPECT_EQ(controller.CurrentEditContext().Text, u"波 (ID：7)");
-    controller.editIndex = 2;
+    controller.SetLayers(2, 1, 0);
     EXPECT_EQ(controller.CurrentEditContext().Text, u"Ball：MovieClip");
     EXPECT_EQ(controller.CurrentEditContext().BackColor, ColorLong(192, 255, 192));
 }

@@ -1,4 +1,4 @@
-#include "app/mdlPrivateProfile.h"
+#include "app/settings/mdlPrivateProfile.h"
 #include "document/elements/clsObjBackGround.h"
 #include "platform/files.h"
 #include "tests/support/ControllerTest.h"
@@ -49,7 +49,7 @@ TEST_F(ProjectCommands, ask_before_changes_are_lost) {
     interface_.Paths = {Path(u"a.kvf")};
     EXPECT_TRUE(main_.mnuNew());
     EXPECT_TRUE(FileExists(Path(u"a.kvf")));
-    EXPECT_EQ(main_.ProjectFileName, u"");
+    EXPECT_EQ(main_.ProjectFileName(), u"");
     EXPECT_EQ(Background().BackColorRed, 255);
     Paint(2);
     interface_.Answers = {Answer::No};
@@ -62,7 +62,7 @@ TEST_F(ProjectCommands, saving_counts_from_there) {
     Paint(1);
     interface_.Paths = {Path(u"a.kvf")};
     EXPECT_TRUE(main_.mnuSave());
-    EXPECT_EQ(main_.ProjectDir, folder_);
+    EXPECT_EQ(main_.ProjectDir(), folder_);
     EXPECT_FALSE(main_.IsProjectChanged());
     EXPECT_EQ(interface_.StatusLines.back(), u"保存しました");
     // What is shown is not what was saved.
@@ -71,7 +71,7 @@ TEST_F(ProjectCommands, saving_counts_from_there) {
     EXPECT_TRUE(main_.mnuSave());
     ASSERT_TRUE(WriteFileBytes(Bytes(), Path(u"file")));
     EXPECT_FALSE(main_.mnuSaveNew(Path(u"file/a.kvf")));
-    EXPECT_EQ(main_.ProjectFileName, Path(u"a.kvf"));
+    EXPECT_EQ(main_.ProjectFileName(), Path(u"a.kvf"));
     EXPECT_TRUE(
         interface_.Messages.back().Text.starts_with(u"保存できませんでした。\r\n\r\n「Number： "));
 }
@@ -85,10 +85,11 @@ TEST_F(ProjectCommands, an_edit_behind_a_save_joins_no_step_before_it) {
     EXPECT_EQ(Background().BackColorRed, 1);
     EXPECT_FALSE(main_.HasUnsavedWork());
     EXPECT_TRUE(mdlPrivateProfile::UndoRedoType(false));
+    ASSERT_TRUE(main_.mnuNew());
     main_.ChangeSprite(AddSprite(10));
     AddRow();
     main_.AddUndoRedoData(UndoStep::Change, u"row");
-    ASSERT_TRUE(main_.mnuSave());
+    ASSERT_TRUE(main_.mnuSaveNew(Path(u"b.kvf")));
     main_.AddUndoRedoData(UndoStep::Change, u"row");
     EXPECT_TRUE(main_.IsProjectChanged());
 }
@@ -101,7 +102,7 @@ TEST_F(ProjectCommands, a_step_in_place_of_the_saved_state_is_work_to_save) {
     EXPECT_FALSE(main_.HasUnsavedWork());
     main_.mnuUndoRedo(0);
     Paint(2);
-    EXPECT_EQ(main_.cUndoRedo.TotalHistory, 0);
+    EXPECT_EQ(main_.cUndoRedo().TotalHistory, 0);
     EXPECT_TRUE(main_.HasUnsavedWork());
     EXPECT_FALSE(main_.mnuNew());
     EXPECT_EQ(Background().BackColorRed, 2);
@@ -127,7 +128,7 @@ TEST_F(ProjectCommands, no_project_is_saved_in_place_of_a_file_that_a_symbol_is_
     Bytes kept;
     ASSERT_TRUE(ReadFileBytes(Path(u"a.svg"), kept));
     EXPECT_EQ(kept, written);
-    EXPECT_EQ(main_.ProjectFileName, u"");
+    EXPECT_EQ(main_.ProjectFileName(), u"");
     EXPECT_TRUE(main_.HasUnsavedWork());
     EXPECT_TRUE(main_.mnuSaveNew(Path(u"b.kvf")));
     EXPECT_TRUE(main_.mnuSave());
@@ -135,15 +136,15 @@ TEST_F(ProjectCommands, no_project_is_saved_in_place_of_a_file_that_a_symbol_is_
 
 TEST_F(ProjectCommands, a_new_project_keeps_stage_rate_and_version) {
     EXPECT_TRUE(main_.mnuPrjProperty(400, 300, 12.5f, 7));
-    EXPECT_EQ(view_->Width, 400);
+    EXPECT_EQ(main_.CanvasWidth(), 400);
     for (const auto& [width, rate, version] :
          {std::tuple{0, 12.0f, 6}, {2001, 12.0f, 6}, {10, 0.001f, 6}, {10, 12.0f, 5}})
         EXPECT_FALSE(main_.mnuPrjProperty(width, 10, rate, version));
     EXPECT_FALSE(main_.IsProjectChanged());
     main_.mnuNew();
-    EXPECT_EQ(main_.inProject.MainWidth, 400);
-    EXPECT_EQ(main_.inProject.FrameRate, 12.5f);
-    EXPECT_EQ(main_.inProject.SWFVersion, 7);
+    EXPECT_EQ(main_.inProject().MainWidth, 400);
+    EXPECT_EQ(main_.inProject().FrameRate, 12.5f);
+    EXPECT_EQ(main_.inProject().SWFVersion, 7);
 }
 
 TEST_F(ProjectCommands, edits_with_one_tag_are_one_step) {
@@ -151,15 +152,15 @@ TEST_F(ProjectCommands, edits_with_one_tag_are_one_step) {
     Paint(2, u"red");
     Paint(3, u"other");
     Paint(4, u"red");
-    EXPECT_TRUE(view_->Undo);
+    EXPECT_TRUE(main_.CanUndo());
     main_.mnuUndoRedo(0);
     EXPECT_EQ(Background().BackColorRed, 3);
-    EXPECT_TRUE(view_->Redo);
+    EXPECT_TRUE(main_.CanRedo());
     main_.mnuUndoRedo(0);
     EXPECT_EQ(Background().BackColorRed, 2);
     main_.mnuUndoRedo(0);
     EXPECT_EQ(Background().BackColorRed, 255);
-    EXPECT_FALSE(view_->Undo);
+    EXPECT_FALSE(main_.CanUndo());
     main_.mnuUndoRedo(0);
     main_.mnuUndoRedo(1);
     EXPECT_EQ(Background().BackColorRed, 2);
@@ -173,68 +174,70 @@ TEST_F(ProjectCommands, one_history_of_all_timelines_switches_back) {
     const Long sprite = AddSprite(77);
     Paint(1);
     main_.ChangeSprite(sprite);
-    EXPECT_EQ(view_->Width, 77);
+    EXPECT_EQ(main_.CanvasWidth(), 77);
     AddRow();
     AddRow();
     main_.mnuUndoRedo(0);
-    EXPECT_EQ(main_.editIndex, sprite);
+    EXPECT_EQ(main_.editIndex(), sprite);
     EXPECT_EQ(main_.colEditLayer()->Count(), 1);
     main_.mnuUndoRedo(0);
     main_.mnuUndoRedo(0);
-    EXPECT_EQ(main_.editIndex, frmMain::EditMain);
+    EXPECT_EQ(main_.editIndex(), frmMain::EditMain);
     main_.mnuUndoRedo(0);
     EXPECT_EQ(Background().BackColorRed, 255);
     for (int i = 0; i < 4; ++i) main_.mnuUndoRedo(1);
-    EXPECT_EQ(main_.editIndex, sprite);
+    EXPECT_EQ(main_.editIndex(), sprite);
     EXPECT_EQ(main_.colEditLayer()->Count(), 2);
 }
 
 TEST_F(ProjectCommands, a_history_for_each_timeline_stays_in_it) {
     EXPECT_TRUE(mdlPrivateProfile::UndoRedoType(false));
+    ASSERT_TRUE(main_.mnuNew());
     const Long sprite = AddSprite(77);
     main_.ChangeSprite(sprite);
-    EXPECT_FALSE(view_->Undo);
+    EXPECT_FALSE(main_.CanUndo());
     AddRow();
-    EXPECT_TRUE(view_->Undo);
+    EXPECT_TRUE(main_.CanUndo());
     EXPECT_TRUE(main_.IsProjectChanged());
     main_.ChangeSprite(frmMain::EditMain);
-    EXPECT_FALSE(view_->Undo);
+    EXPECT_FALSE(main_.CanUndo());
     Paint(1);
     main_.mnuUndoRedo(0);
-    EXPECT_EQ(main_.editIndex, frmMain::EditMain);
+    EXPECT_EQ(main_.editIndex(), frmMain::EditMain);
     main_.ChangeSprite(sprite);
     EXPECT_EQ(main_.colEditLayer()->Count(), 1);
     main_.mnuUndoRedo(0);
-    EXPECT_EQ(main_.editIndex, sprite);
+    EXPECT_EQ(main_.editIndex(), sprite);
     EXPECT_EQ(main_.colEditLayer()->Count(), 0);
     EXPECT_FALSE(main_.IsProjectChanged());
     // A place that is no timeline.
     main_.ChangeSprite(99);
-    EXPECT_EQ(main_.editIndex, sprite);
+    EXPECT_EQ(main_.editIndex(), sprite);
 }
 
 TEST_F(ProjectCommands, a_step_in_another_timeline_leaves_the_buttons_of_the_shown_one) {
     EXPECT_TRUE(mdlPrivateProfile::UndoRedoType(false));
+    ASSERT_TRUE(main_.mnuNew());
     const Long outer = AddSprite(10);
     const Long inner = AddSprite(20);
     main_.ChangeSprite(outer);
     main_.SelectSymbols(inner, inner);
     main_.AddToLayer(1, false, false);
-    EXPECT_TRUE(view_->Undo);
+    EXPECT_TRUE(main_.CanUndo());
     main_.ChangeSprite(frmMain::EditMain);
-    EXPECT_FALSE(view_->Undo);
+    EXPECT_FALSE(main_.CanUndo());
     main_.RemoveSymbolAndUses(inner);
-    EXPECT_FALSE(view_->Undo);
+    EXPECT_FALSE(main_.CanUndo());
     main_.ChangeSprite(outer);
     EXPECT_TRUE(main_.colEditLayer()->Empty());
-    EXPECT_TRUE(view_->Undo);
+    EXPECT_TRUE(main_.CanUndo());
 }
 
 TEST_F(ProjectCommands, recent_files_move_to_the_front_without_case) {
     Paint(1);
     EXPECT_TRUE(main_.mnuSaveNew(Path(u"a.kvf")));
     EXPECT_TRUE(mdlPrivateProfile::RecentFile().empty());
-    main_.blRecentFiles = true;
+    main_.blRecentFiles(true);
     main_.mnuSaveNew(Path(u"b.kvf"));
     main_.mnuSaveNew(Path(u"a.kvf"));
     main_.mnuSaveNew(Path(u"B.kvf"));

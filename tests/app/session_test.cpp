@@ -2,16 +2,16 @@
 #include <iterator>
 #include <random>
 
-#include "app/KeyFrameFields.h"
-#include "app/ProjectInfo.h"
-#include "app/mdlPrivateProfile.h"
-#include "document/records/SymbolContents.h"
-#include "document/symbols/SymbolIds.h"
+#include "app/fields/KeyFrameFields.h"
+#include "app/fields/ProjectInfo.h"
+#include "app/settings/mdlPrivateProfile.h"
 #include "document/edit/SymbolReferences.h"
+#include "document/records/SymbolContents.h"
 #include "document/records/SymbolTimeline.h"
 #include "document/records/clsPropertyButton.h"
 #include "document/records/clsPropertyKoma.h"
 #include "document/records/clsPropertySymbolFolder.h"
+#include "document/symbols/SymbolIds.h"
 #include "platform/text.h"
 #include "tests/support/ControllerTest.h"
 #include "tests/support/TimelineText.h"
@@ -132,7 +132,7 @@ protected:
         return main_.ChangeKeyFrame(
             field, [&](clsLayerObject& object) { return SetKeyFrameField(object, field, value); });
     }
-    std::string State() const { return ProjectInfoJson(main_.inProject); }
+    std::string State() const { return ProjectInfoJson(main_.inProject()); }
     void UndoAll() {
         while (main_.CanUndo()) main_.mnuUndoRedo(0);
     }
@@ -256,7 +256,7 @@ private:
         main_.SelectSymbols(UpTo(count), UpTo(count));
         switch (Below(count > 30 ? 4 : 10)) {
             case 0:
-                main_.SelectSymbols(main_.SelSymbol1, main_.SelSymbol1);
+                main_.SelectSymbols(main_.SelSymbol1(), main_.SelSymbol1());
                 return main_.mnuRemoveSymbolItem();
             case 1:
                 main_.MoveSymbols(UpTo(count), UpTo(count), UpTo(count), Below(2) == 0,
@@ -357,7 +357,7 @@ TEST_P(Walk, keeps_the_model_sound_and_leads_back_to_the_first_state) {
         frmMain other;
         other.Form_Load();
         ASSERT_TRUE(other.OpenProject(Path(u"end.kvf"))) << ToNarrow(interface_.Messages[0].Text);
-        EXPECT_EQ(Difference(ProjectInfoJson(other.inProject), saved), "");
+        EXPECT_EQ(Difference(ProjectInfoJson(other.inProject()), saved), "");
     }
     RedoAll();
     main_.ChangeSprite(frmMain::EditMain);

@@ -5,7 +5,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "app/mdlPrivateProfile.h"
+#include "app/settings/mdlPrivateProfile.h"
 #include "platform/codepage.h"
 #include "platform/paths.h"
 

@@ -1,4 +1,4 @@
-#include "app/KeyFrameFields.h"
+#include "app/fields/KeyFrameFields.h"
 #include "document/elements/clsLayerObjElement.h"
 #include "document/elements/clsObjFrameLabel.h"
 #include "document/records/clsPropertyButton.h"
@@ -18,10 +18,10 @@ protected:
         main_.colEditLayer()->Insert(layer, 1);
     }
     void Place(Long symbol, Long row) {
-        main_.SelSymbol1 = main_.SelSymbol2 = symbol;
+        main_.SelectSymbols(symbol, symbol);
         main_.AddToLayer(row, false, false);
     }
-    Long Steps() const { return main_.cUndoRedo.TotalHistory; }
+    Long Steps() const { return main_.cUndoRedo().TotalHistory; }
     clsLayerObjElement& Placement(Long row, Long index) const {
         return *Row(row).Object(index)->Placement();
     }
@@ -37,7 +37,7 @@ TEST_F(TimelineCommands, cut_paste_and_undo_key_frames) {
     main_.mnuPasteKeyFrames();
     EXPECT_EQ(Spans(Row(1)), "9-10 11-12 13-15");
     EXPECT_EQ(Row(1).SelectIndex, 1);
-    EXPECT_EQ(main_.SelFrame2, 12);
+    EXPECT_EQ(main_.SelFrame2(), 12);
     main_.SelectFrames(11, 11);
     main_.mnuInsertKeyFrames();
     EXPECT_EQ(Spans(Row(1)), "9-10 11-12 13-14 15-16 17-19");
@@ -87,12 +87,12 @@ TEST_F(TimelineCommands, out_of_place_do_nothing) {
     EXPECT_EQ(Steps(), 0);
 }
 
-TEST_F(TimelineCommands, removing_stretches_what_is_fixed_before) {
+TEST_F(TimelineCommands, removing_leaves_what_is_fixed_before_as_it_is) {
     AddRow("1-3F 4-6 9-9");
     main_.ChangeSelectIndex(1, 1);
     main_.SelectFrames(4, 4);
     main_.mnuRemoveKeyFrames();
-    EXPECT_EQ(Spans(Row(1)), "1-8F 9-9");
+    EXPECT_EQ(Spans(Row(1)), "1-3F 9-9");
 }
 
 TEST_F(TimelineCommands, flags_stretch_the_span) {
@@ -123,7 +123,7 @@ TEST_F(TimelineCommands, flags_stretch_the_span) {
 
 TEST_F(TimelineCommands, a_changed_key_frame_is_shown_on_the_canvas) {
     Place(AddSprite(10), 1);
-    const Long before = view_->Shown;
+    watcher_.Take();
     const auto moveTo = [this](Single x) {
         return main_.ChangeKeyFrame(u"X", [x](clsLayerObject& object) {
             object.Placement()->X(x);
@@ -131,9 +131,9 @@ TEST_F(TimelineCommands, a_changed_key_frame_is_shown_on_the_canvas) {
         });
     };
     EXPECT_TRUE(moveTo(5));
-    EXPECT_EQ(view_->Shown, before + 1);
+    EXPECT_TRUE(watcher_.Take().Has(Change::KeyFrames));
     EXPECT_TRUE(moveTo(5));
-    EXPECT_EQ(view_->Shown, before + 1);
+    EXPECT_TRUE(watcher_.Take().Empty());
     // The next one joins the step.
     EXPECT_TRUE(moveTo(6));
     EXPECT_EQ(Steps(), 2);
@@ -241,15 +241,15 @@ TEST_F(TimelineCommands, rows_are_cut_and_pasted_above_the_selected_one) {
     main_.ChangeSelectIndex(1, 2);
     main_.mnuCutLayer();
     EXPECT_EQ(Rows(*main_.colEditLayer()), "c ");
-    EXPECT_EQ(main_.SelIndex1, 1);
+    EXPECT_EQ(main_.SelIndex1(), 1);
     main_.ChangeSelectIndex(2, 2);
     main_.mnuPasteLayer();
     main_.mnuPasteLayer();
     EXPECT_EQ(Rows(*main_.colEditLayer()), "c a b a b ");
-    EXPECT_EQ(main_.SelIndex1, 2);
-    EXPECT_EQ(main_.SelIndex2, 3);
+    EXPECT_EQ(main_.SelIndex1(), 2);
+    EXPECT_EQ(main_.SelIndex2(), 3);
     main_.ChangeSelectIndex(1, 99);
-    EXPECT_EQ(main_.SelIndex2, 6);
+    EXPECT_EQ(main_.SelIndex2(), 6);
     main_.mnuRemoveLayer();
     EXPECT_EQ(main_.colEditLayer()->Count(), 1);
     main_.mnuAddLayer_Folder(u"箱");
@@ -343,13 +343,13 @@ TEST_F(TimelineCommands, the_cursor_jumps_to_labels) {
     AddRow("1-1 7-7");
     Row(1).Object(2)->ObjectAs<clsObjFrameLabel>()->LabelName = u"着地";
     EXPECT_TRUE(main_.mnuJump(u"着地"));
-    EXPECT_EQ(main_.SelFrame1, 7);
+    EXPECT_EQ(main_.SelFrame1(), 7);
     EXPECT_FALSE(main_.mnuJump(u"離陸"));
-    EXPECT_EQ(main_.SelFrame1, 7);
+    EXPECT_EQ(main_.SelFrame1(), 7);
     main_.mnuJump(0);
-    EXPECT_EQ(main_.SelFrame1, 1);
+    EXPECT_EQ(main_.SelFrame1(), 1);
     main_.mnuJump(70000);
-    EXPECT_EQ(main_.SelFrame1, 65535);
+    EXPECT_EQ(main_.SelFrame1(), 65535);
 }
 
 }  // namespace

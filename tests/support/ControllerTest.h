@@ -4,8 +4,10 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <utility>
+#include <vector>
 
-#include "app/frmMain.h"
+#include "app/controller/frmMain.h"
 #include "document/elements/SymbolKinds.h"
 #include "document/records/clsPropertySprite.h"
 #include "platform/RecordingUserInterface.h"
@@ -14,30 +16,17 @@
 
 namespace tamber {
 
-/// What the controller asked its window for.
-class RecordingView : public MainView {
+/// What the controller told of changes.
+class RecordingWatcher {
 public:
-    Long Width = 0;
-    Long Height = 0;
-    bool Undo = true;
-    bool Redo = true;
-    /// How often the canvas was shown.
-    Long Shown = 0;
-    /// Snapshot that the canvas has, and the colour behind it.
-    String Snapshot;
-    Long BackColor = 0;
-    void ShowEditFrame() override { ++Shown; }
-    void ReloadSnapshot(StringView path, Long backColor) override {
-        Snapshot = path;
-        BackColor = backColor;
-    }
-    void SetCanvasSize(Long width, Long height) override {
-        Width = width;
-        Height = height;
-    }
-    void ShowUndoRedo(bool undo, bool redo) override {
-        Undo = undo;
-        Redo = redo;
+    /// One for each command that changed something.
+    std::vector<SessionChange> Told;
+
+    /// What was told since the last question.
+    SessionChange Take() {
+        SessionChange all;
+        for (const SessionChange change : std::exchange(Told, {})) all |= change;
+        return all;
     }
 };
 
@@ -52,6 +41,7 @@ protected:
         setenv("XDG_CONFIG_HOME", (folder + "/config").c_str(), 1);
         program_ = ProgramFolder();
         ProgramFolder(folder_);
+        main_.Watch([this](SessionChange change) { watcher_.Told.push_back(change); });
         main_.Form_Load();
     }
     void TearDown() override {
@@ -73,8 +63,8 @@ protected:
     String program_;
     RecordingUserInterface interface_;
     UserInterfaceScope scope_{interface_};
-    std::shared_ptr<RecordingView> view_ = std::make_shared<RecordingView>();
-    frmMain main_{view_};
+    frmMain main_;
+    RecordingWatcher watcher_;
 };
 
 }  // namespace tamber

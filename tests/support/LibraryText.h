@@ -4,8 +4,8 @@
 #include <sstream>
 #include <string>
 
-#include "document/elements/SymbolKinds.h"
 #include "document/edit/SymbolLibrary.h"
+#include "document/elements/SymbolKinds.h"
 #include "document/records/clsPropertySprite.h"
 #include "document/records/clsPropertySymbolFolder.h"
 #include "document/symbols/clsSymbolData.h"

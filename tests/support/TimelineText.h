@@ -5,8 +5,8 @@
 #include <string>
 
 #include "document/elements/SymbolKinds.h"
-#include "document/symbols/clsLayer.h"
 #include "document/elements/clsLayerFolder.h"
+#include "document/symbols/clsLayer.h"
 #include "document/symbols/clsSymbolData.h"
 #include "platform/codepage.h"
 

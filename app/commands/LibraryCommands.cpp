@@ -1,7 +1,7 @@
 #include <algorithm>
 
-#include "app/BatchCommand.h"
-#include "app/SymbolFields.h"
+#include "app/commands/Command.h"
+#include "app/fields/SymbolFields.h"
 #include "document/records/clsPropertyButton.h"
 #include "document/records/clsPropertyClass.h"
 #include "document/records/clsPropertyKoma.h"
@@ -18,12 +18,12 @@ namespace {
 /// Pixels of a symbol at most, that a person gives.
 constexpr Long LargestSide = 2000;
 
-bool IsRow(const BatchContext& context, Long row) {
+bool IsRow(const CommandContext& context, Long row) {
     return row >= 1 && row <= context.Controller.colSymbol()->Count();
 }
 
 /// Rows from one to another, both in the library.
-bool SelectRows(BatchContext& context, const BatchArguments& arguments) {
+bool SelectRows(CommandContext& context, const CommandArguments& arguments) {
     const Long from = ToLong(arguments[0]);
     const Long to = ToLong(arguments[1]);
     if (!IsRow(context, from) || !IsRow(context, to)) return false;
@@ -31,17 +31,17 @@ bool SelectRows(BatchContext& context, const BatchArguments& arguments) {
     return true;
 }
 
-bool Select(BatchContext& context, const BatchArguments& arguments) {
+bool Select(CommandContext& context, const CommandArguments& arguments) {
     context.Controller.SelectSymbols(ToLong(arguments[0]), ToLong(arguments.back()));
     return true;
 }
 
-bool AddFiles(BatchContext& context, const BatchArguments& arguments) {
+bool AddFiles(CommandContext& context, const CommandArguments& arguments) {
     return context.Controller.mnuAddSymbolItem_File(arguments);
 }
 
 /// Width and height from the arguments `first` and the next, where they are given.
-bool TakeSize(const BatchArguments& arguments, std::size_t first, Long& width, Long& height) {
+bool TakeSize(const CommandArguments& arguments, std::size_t first, Long& width, Long& height) {
     if (arguments.size() <= first) return true;
     if (arguments.size() != first + 2) return false;
     width = ToLong(arguments[first]);
@@ -51,7 +51,7 @@ bool TakeSize(const BatchArguments& arguments, std::size_t first, Long& width, L
 }
 
 /// A symbol that a button or a koma can show, by its row; null for any other row.
-std::shared_ptr<clsSymbolData> PictureAt(BatchContext& context, StringView row) {
+std::shared_ptr<clsSymbolData> PictureAt(CommandContext& context, StringView row) {
     const Long index = ToLong(row);
     if (!IsRow(context, index)) return nullptr;
     const auto symbol = (*context.Controller.colSymbol())(index);
@@ -69,7 +69,7 @@ std::shared_ptr<clsSymbolData> PictureAt(BatchContext& context, StringView row) 
     }
 }
 
-bool AddSprite(BatchContext& context, const BatchArguments& arguments) {
+bool AddSprite(CommandContext& context, const CommandArguments& arguments) {
     return context.Controller.mnuAddSymbolItem_Sprite([&arguments](clsSymbolData& symbol) {
         auto& sprite = *symbol.Property<clsPropertySprite>();
         if (!arguments.empty()) sprite.SpriteName = arguments[0];
@@ -77,7 +77,7 @@ bool AddSprite(BatchContext& context, const BatchArguments& arguments) {
     });
 }
 
-bool AddButton(BatchContext& context, const BatchArguments& arguments) {
+bool AddButton(CommandContext& context, const CommandArguments& arguments) {
     return context.Controller.mnuAddSymbolItem_Button([&](clsSymbolData& symbol) {
         auto& button = *symbol.Property<clsPropertyButton>();
         button.ButtonName = arguments[0];
@@ -94,7 +94,7 @@ bool AddButton(BatchContext& context, const BatchArguments& arguments) {
     });
 }
 
-bool AddKoma(BatchContext& context, const BatchArguments& arguments) {
+bool AddKoma(CommandContext& context, const CommandArguments& arguments) {
     return context.Controller.mnuAddSymbolItem_Koma([&](clsSymbolData& symbol) {
         auto& koma = *symbol.Property<clsPropertyKoma>();
         koma.KomaName = arguments[0];
@@ -109,7 +109,7 @@ bool AddKoma(BatchContext& context, const BatchArguments& arguments) {
     });
 }
 
-bool AddMovieEmp(BatchContext& context, const BatchArguments& arguments) {
+bool AddMovieEmp(CommandContext& context, const CommandArguments& arguments) {
     return context.Controller.mnuAddSymbolItem_MovieEmp([&arguments](clsSymbolData& symbol) {
         auto& movie = *symbol.Property<clsPropertyMovieEmp>();
         movie.MovieName = arguments[0];
@@ -117,7 +117,7 @@ bool AddMovieEmp(BatchContext& context, const BatchArguments& arguments) {
     });
 }
 
-bool AddLink(BatchContext& context, const BatchArguments& arguments) {
+bool AddLink(CommandContext& context, const CommandArguments& arguments) {
     return context.Controller.mnuAddSymbolItem_Link([&arguments](clsSymbolData& symbol) {
         auto& link = *symbol.Property<clsPropertyLinkSymbol>();
         link.SymbolName = arguments[0];
@@ -128,7 +128,7 @@ bool AddLink(BatchContext& context, const BatchArguments& arguments) {
     });
 }
 
-bool AddClass(BatchContext& context, const BatchArguments& arguments) {
+bool AddClass(CommandContext& context, const CommandArguments& arguments) {
     return context.Controller.mnuAddSymbolItem_Class([&arguments](clsSymbolData& symbol) {
         auto& record = *symbol.Property<clsPropertyClass>();
         record.className = arguments[0];
@@ -137,18 +137,18 @@ bool AddClass(BatchContext& context, const BatchArguments& arguments) {
     });
 }
 
-bool AddFolder(BatchContext& context, const BatchArguments& arguments) {
+bool AddFolder(CommandContext& context, const CommandArguments& arguments) {
     return arguments.empty() ? context.Controller.mnuAddSymbolItem_Folder()
                              : context.Controller.mnuAddSymbolItem_Folder(arguments[0]);
 }
 
-bool Remove(BatchContext& context, const BatchArguments& arguments) {
+bool Remove(CommandContext& context, const CommandArguments& arguments) {
     if (!SelectRows(context, arguments)) return false;
     context.Controller.mnuRemoveSymbolItem();
     return true;
 }
 
-bool EditIds(BatchContext& context, const BatchArguments& arguments) {
+bool EditIds(CommandContext& context, const CommandArguments& arguments) {
     const bool renumber = arguments[0] == u"renumber";
     const bool descending = arguments.size() > 2;
     if (!renumber && (arguments[0] != u"add" || descending)) return false;
@@ -163,18 +163,18 @@ bool EditIds(BatchContext& context, const BatchArguments& arguments) {
 }
 
 template <void (frmMain::*Command)(bool)>
-bool Sort(BatchContext& context, const BatchArguments& arguments) {
+bool Sort(CommandContext& context, const CommandArguments& arguments) {
     if (!arguments.empty() && arguments[0] != u"asc" && arguments[0] != u"desc") return false;
     (context.Controller.*Command)(!arguments.empty() && arguments[0] == u"desc");
     return true;
 }
 
-bool SortFolder(BatchContext& context, const BatchArguments&) {
+bool SortFolder(CommandContext& context, const CommandArguments&) {
     context.Controller.mnuSortSymbolFolder();
     return true;
 }
 
-bool Move(BatchContext& context, const BatchArguments& arguments) {
+bool Move(CommandContext& context, const CommandArguments& arguments) {
     const auto given = [&arguments](StringView word) {
         return std::find(arguments.begin() + 3, arguments.end(), word) != arguments.end();
     };
@@ -185,42 +185,120 @@ bool Move(BatchContext& context, const BatchArguments& arguments) {
                                           ToLong(arguments[2]), inFolder, after);
 }
 
-bool Reload(BatchContext& context, const BatchArguments& arguments) {
+bool Reload(CommandContext& context, const CommandArguments& arguments) {
     return SelectRows(context, arguments) && context.Controller.mnuSymbolReLoad();
 }
 
-bool ChangeProperty(BatchContext& context, const BatchArguments& arguments) {
+bool ChangeProperty(CommandContext& context, const CommandArguments& arguments) {
     const StringView value = arguments.size() > 1 ? StringView(arguments[1]) : StringView();
     return context.Controller.ChangeSymbol([&arguments, value](clsSymbolData& symbol) {
         return SetSymbolField(symbol, arguments[0], value);
     });
 }
 
-constexpr BatchCommand Commands[]{
+bool HasSymbol(const frmMain& controller) {
+    return controller.inSession().SelectedSymbols().Count() > 0;
+}
+
+bool HasSymbols(const frmMain& controller) {
+    return controller.inSession().SelectedSymbols().Count() > 1;
+}
+
+constexpr StringView Ascending = u"asc";
+constexpr StringView Descending = u"desc";
+
+constexpr Command Commands[]{
     {u"SelectSymbols", u"FROM [TO]", 1, 2, Select},
-    {u"mnuAddSymbolItem_File", u"PATH...", 1, BatchCommand::AnyNumber, AddFiles},
-    {u"mnuAddSymbolItem_Sprite", u"[NAME [WIDTH HEIGHT]]", 0, 3, AddSprite},
-    {u"mnuAddSymbolItem_Button", u"NAME UP [OVER [DOWN [HIT]]]", 2, 5, AddButton},
-    {u"mnuAddSymbolItem_Koma", u"NAME FRAMES ROW...", 3, BatchCommand::AnyNumber, AddKoma},
-    {u"mnuAddSymbolItem_MovieEmp", u"NAME WIDTH HEIGHT", 3, 3, AddMovieEmp},
-    {u"mnuAddSymbolItem_Link", u"NAME URL KIND [WIDTH HEIGHT]", 3, 5, AddLink},
-    {u"mnuAddSymbolItem_Class", u"NAME [EXTENDS]", 1, 2, AddClass},
-    {u"mnuAddSymbolItem_Folder", u"[NAME]", 0, 1, AddFolder},
-    {u"mnuRemoveSymbolItem", u"FROM TO", 2, 2, Remove},
-    {u"mnuSymbolIDEdit", u"add NUMBER | renumber START [desc]", 2, 3, EditIds},
-    {u"mnuSortSymbolID", u"[asc|desc]", 0, 1, Sort<&frmMain::mnuSortSymbolID>},
-    {u"mnuSortSymbolType", u"[asc|desc]", 0, 1, Sort<&frmMain::mnuSortSymbolType>},
-    {u"mnuSortSymbolFolder", u"", 0, 0, SortFolder},
-    {u"mnuSortSymbolSelID", u"[asc|desc]", 0, 1, Sort<&frmMain::mnuSortSymbolSelID>},
-    {u"mnuSortSymbolSelType", u"[asc|desc]", 0, 1, Sort<&frmMain::mnuSortSymbolSelType>},
+    {u"mnuAddSymbolItem_File",
+     u"PATH...",
+     1,
+     Command::AnyNumber,
+     AddFiles,
+     {{{u"ファイル追加", u"Ctrl+I"}}}},
+    {u"mnuAddSymbolItem_Sprite",
+     u"[NAME [WIDTH HEIGHT]]",
+     0,
+     3,
+     AddSprite,
+     {{{u"スプライト追加", u"Ctrl+Shift+N"}}}},
+    {u"mnuAddSymbolItem_Button",
+     u"NAME UP [OVER [DOWN [HIT]]]",
+     2,
+     5,
+     AddButton,
+     {{{u"ボタン追加", u"Ctrl+Shift+B"}}}},
+    {u"mnuAddSymbolItem_Koma",
+     u"NAME FRAMES ROW...",
+     3,
+     Command::AnyNumber,
+     AddKoma,
+     {{{u"コマ動画追加", u"Ctrl+Shift+K"}}}},
+    {u"mnuAddSymbolItem_MovieEmp",
+     u"NAME WIDTH HEIGHT",
+     3,
+     3,
+     AddMovieEmp,
+     {{{u"空動画追加", u"Ctrl+Shift+M"}}}},
+    {u"mnuAddSymbolItem_Link",
+     u"NAME URL KIND [WIDTH HEIGHT]",
+     3,
+     5,
+     AddLink,
+     {{{u"リンクシンボル追加", u"Ctrl+Shift+L"}}}},
+    {u"mnuAddSymbolItem_Class",
+     u"NAME [EXTENDS]",
+     1,
+     2,
+     AddClass,
+     {{{u"クラス追加", u"Ctrl+Shift+C"}}}},
+    {u"mnuAddSymbolItem_Folder",
+     u"[NAME]",
+     0,
+     1,
+     AddFolder,
+     {{{u"フォルダ追加", u"Ctrl+Shift+F"}}}},
+    {u"mnuRemoveSymbolItem", u"FROM TO", 2, 2, Remove, {{{u"削除", u"Del", u"", HasSymbol}}}},
+    {u"mnuSymbolIDEdit",
+     u"add NUMBER | renumber START [desc]",
+     2,
+     3,
+     EditIds,
+     {{{u"ID編集", u"", u"", HasSymbol}}}},
+    {u"mnuSortSymbolID",
+     u"[asc|desc]",
+     0,
+     1,
+     Sort<&frmMain::mnuSortSymbolID>,
+     {{{u"IDで並べ替え（昇順）", u"", Ascending}, {u"IDで並べ替え（降順）", u"", Descending}}}},
+    {u"mnuSortSymbolType",
+     u"[asc|desc]",
+     0,
+     1,
+     Sort<&frmMain::mnuSortSymbolType>,
+     {{{u"種別で並べ替え（昇順）", u"", Ascending}, {u"種別で並べ替え（降順）", u"", Descending}}}},
+    {u"mnuSortSymbolFolder", u"", 0, 0, SortFolder, {{{u"フォルダを先頭へ並べ替え"}}}},
+    {u"mnuSortSymbolSelID",
+     u"[asc|desc]",
+     0,
+     1,
+     Sort<&frmMain::mnuSortSymbolSelID>,
+     {{{u"選択範囲をIDで並べ替え（昇順）", u"", Ascending, HasSymbols},
+       {u"選択範囲をIDで並べ替え（降順）", u"", Descending, HasSymbols}}}},
+    {u"mnuSortSymbolSelType",
+     u"[asc|desc]",
+     0,
+     1,
+     Sort<&frmMain::mnuSortSymbolSelType>,
+     {{{u"選択範囲を種別で並べ替え（昇順）", u"", Ascending, HasSymbols},
+       {u"選択範囲を種別で並べ替え（降順）", u"", Descending, HasSymbols}}}},
     {u"MoveSymbols", u"FROM TO ROW [into] [after]", 3, 5, Move},
-    {u"mnuSymbolReLoad", u"FROM TO", 2, 2, Reload},
+    {u"mnuSymbolReLoad", u"FROM TO", 2, 2, Reload, {{{u"再読み込み", u"Ctrl+R", u"", HasSymbol}}}},
     {u"Symbol", u"FIELD [VALUE]", 1, 2, ChangeProperty},
 };
 
 }  // namespace
 
-std::span<const BatchCommand> BatchLibraryCommands() {
+std::span<const Command> LibraryCommands() {
     return Commands;
 }
 

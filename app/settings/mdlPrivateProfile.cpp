@@ -1,4 +1,4 @@
-#include "app/mdlPrivateProfile.h"
+#include "app/settings/mdlPrivateProfile.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
-#include "app/KeyFrameFields.h"
+#include "app/fields/KeyFrameFields.h"
 
-#include "app/CellNames.h"
-#include "app/RecordCells.h"
+#include "app/fields/CellNames.h"
+#include "app/fields/RecordCells.h"
 #include "document/elements/clsLayerFolder.h"
 #include "document/elements/clsLayerObjElement.h"
 #include "document/elements/clsObjSprite.h"

@@ -1,6 +1,6 @@
-#include "app/AssetReader.h"
+#include "app/operations/AssetReader.h"
 
-#include "app/mdlPrivateProfile.h"
+#include "app/settings/mdlPrivateProfile.h"
 #include "document/records/clsPropertyBmp.h"
 #include "document/records/clsPropertyText.h"
 #include "document/records/clsPropertyVector.h"

@@ -1,7 +1,7 @@
-#include "app/SymbolFields.h"
+#include "app/fields/SymbolFields.h"
 
-#include "app/CellNames.h"
-#include "app/RecordCells.h"
+#include "app/fields/CellNames.h"
+#include "app/fields/RecordCells.h"
 #include "document/records/clsPropertyClass.h"
 #include "document/records/clsPropertyLinkSymbol.h"
 #include "document/records/clsPropertySymbolFolder.h"

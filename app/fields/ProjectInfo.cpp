@@ -1,12 +1,11 @@
-#include "app/ProjectInfo.h"
+#include "app/fields/ProjectInfo.h"
 
 #include <nlohmann/json.hpp>
 #include <unordered_map>
 
-#include "app/CellNames.h"
-#include "document/elements/SymbolKinds.h"
+#include "app/fields/CellNames.h"
 #include "document/cells/clsCSV.h"
-#include "document/symbols/clsLayer.h"
+#include "document/elements/SymbolKinds.h"
 #include "document/elements/clsLayerObjElement.h"
 #include "document/elements/clsObjSprite.h"
 #include "document/elements/clsObjText.h"
@@ -16,6 +15,7 @@
 #include "document/records/clsPropertySprite.h"
 #include "document/records/clsPropertyText.h"
 #include "document/records/clsPropertyVector.h"
+#include "document/symbols/clsLayer.h"
 #include "document/symbols/clsSymbolData.h"
 #include "platform/codepage.h"
 #include "platform/text.h"

@@ -1,4 +1,4 @@
-#include "app/RecordCells.h"
+#include "app/fields/RecordCells.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "app/SymbolFromFile.h"
+#include "app/operations/SymbolFromFile.h"
 
 #include "document/SymbolFiles.h"
 #include "document/records/clsPropertyText.h"

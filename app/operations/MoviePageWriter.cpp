@@ -1,6 +1,6 @@
-#include "app/MoviePageWriter.h"
+#include "app/operations/MoviePageWriter.h"
 
-#include "app/mdlPrivateProfile.h"
+#include "app/settings/mdlPrivateProfile.h"
 #include "output/PagePlayer.h"
 #include "platform/UserInterface.h"
 #include "platform/codepage.h"

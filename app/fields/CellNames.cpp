@@ -1,4 +1,4 @@
-#include "app/CellNames.h"
+#include "app/fields/CellNames.h"
 
 #include "document/elements/SymbolKinds.h"
 

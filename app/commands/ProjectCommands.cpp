@@ -3,8 +3,8 @@
 #include <nlohmann/json.hpp>
 #include <optional>
 
-#include "app/BatchCommand.h"
-#include "app/ProjectInfo.h"
+#include "app/commands/Command.h"
+#include "app/fields/ProjectInfo.h"
 #include "platform/codepage.h"
 #include "platform/paths.h"
 #include "platform/text.h"
@@ -61,28 +61,28 @@ bool SetImportOption(ImportOptions& options, StringView argument) {
     return true;
 }
 
-bool New(BatchContext& context, const BatchArguments&) {
+bool New(CommandContext& context, const CommandArguments&) {
     return context.Controller.mnuNew();
 }
 
-bool Open(BatchContext& context, const BatchArguments& arguments) {
+bool Open(CommandContext& context, const CommandArguments& arguments) {
     return context.Controller.OpenProject(AbsolutePath(arguments[0]));
 }
 
-bool Save(BatchContext& context, const BatchArguments&) {
+bool Save(CommandContext& context, const CommandArguments&) {
     return context.Controller.mnuSave();
 }
 
-bool SaveNew(BatchContext& context, const BatchArguments& arguments) {
+bool SaveNew(CommandContext& context, const CommandArguments& arguments) {
     return context.Controller.mnuSaveNew(AbsolutePath(arguments[0]));
 }
 
-bool Property(BatchContext& context, const BatchArguments& arguments) {
+bool Property(CommandContext& context, const CommandArguments& arguments) {
     return context.Controller.mnuPrjProperty(ToLong(arguments[0]), ToLong(arguments[1]),
                                              ToSingle(arguments[2]), ToLong(arguments[3]));
 }
 
-bool Import(BatchContext& context, const BatchArguments& arguments) {
+bool Import(CommandContext& context, const CommandArguments& arguments) {
     ImportOptions options;
     for (std::size_t i = 1; i < arguments.size(); ++i)
         if (!SetImportOption(options, arguments[i])) return false;
@@ -93,51 +93,47 @@ bool Import(BatchContext& context, const BatchArguments& arguments) {
                                            });
 }
 
-bool ChangeTimeline(BatchContext& context, const BatchArguments& arguments) {
+bool ChangeTimeline(CommandContext& context, const CommandArguments& arguments) {
     const Long index = ToLong(arguments[0]);
     context.Controller.ChangeSprite(index);
-    return index == 0 || context.Controller.editIndex == index;
+    return index == 0 || context.Controller.editIndex() == index;
 }
 
-bool UndoRedo(BatchContext& context, const BatchArguments& arguments) {
+bool UndoRedo(CommandContext& context, const CommandArguments& arguments) {
     const Long index = ToLong(arguments[0]);
     if (index != 0 && index != 1) return false;
     context.Controller.mnuUndoRedo(index);
     return true;
 }
 
-bool Authoring(BatchContext& context, const BatchArguments& arguments) {
+bool Authoring(CommandContext& context, const CommandArguments& arguments) {
     return context.Controller.mnuAuthoring(AbsolutePath(arguments[0]));
 }
 
-bool ShowFrame(BatchContext& context, const BatchArguments& arguments) {
+bool ShowFrame(CommandContext& context, const CommandArguments& arguments) {
     return context.Controller.ShowEditSWFBitmap(arguments.empty() ? 0 : ToLong(arguments[0]));
 }
 
-bool AnswerNext(BatchContext& context, const BatchArguments& arguments) {
-    const String word = FoldCase(arguments[0]);
-    if (word == u"yes")
-        context.Interface.Answers.push_back(Answer::Yes);
-    else if (word == u"no")
-        context.Interface.Answers.push_back(Answer::No);
-    else if (word == u"cancel")
-        context.Interface.Answers.push_back(Answer::Cancel);
-    else
-        return false;
+bool AnswerNext(CommandContext& context, const CommandArguments& arguments) {
+    const std::map<StringView, Answer> answers{
+        {u"yes", Answer::Yes}, {u"no", Answer::No}, {u"cancel", Answer::Cancel}};
+    const auto answer = answers.find(FoldCase(arguments[0]));
+    if (context.Interface == nullptr || answer == answers.end()) return false;
+    context.Interface->Answers.push_back(answer->second);
     return true;
 }
 
-bool Print(BatchContext& context, const BatchArguments&) {
+bool Print(CommandContext& context, const CommandArguments&) {
     frmMain& controller = context.Controller;
-    auto state = nlohmann::ordered_json::parse(ProjectInfoJson(controller.inProject));
-    state["path"] = ToNarrow(controller.ProjectFileName);
-    state["editIndex"] = controller.editIndex;
-    state["SelIndex1"] = controller.SelIndex1;
-    state["SelIndex2"] = controller.SelIndex2;
-    state["SelFrame1"] = controller.SelFrame1;
-    state["SelFrame2"] = controller.SelFrame2;
-    state["SelSymbol1"] = controller.SelSymbol1;
-    state["SelSymbol2"] = controller.SelSymbol2;
+    auto state = nlohmann::ordered_json::parse(ProjectInfoJson(controller.inProject()));
+    state["path"] = ToNarrow(controller.ProjectFileName());
+    state["editIndex"] = controller.editIndex();
+    state["SelIndex1"] = controller.SelIndex1();
+    state["SelIndex2"] = controller.SelIndex2();
+    state["SelFrame1"] = controller.SelFrame1();
+    state["SelFrame2"] = controller.SelFrame2();
+    state["SelSymbol1"] = controller.SelSymbol1();
+    state["SelSymbol2"] = controller.SelSymbol2();
     state["SelectIndex"] = controller.EditLayer() ? controller.EditLayer()->SelectIndex : 0;
     state["canUndo"] = controller.CanUndo();
     state["canRedo"] = controller.CanRedo();
@@ -146,20 +142,41 @@ bool Print(BatchContext& context, const BatchArguments&) {
     return true;
 }
 
-constexpr BatchCommand Commands[]{
-    {u"mnuNew", u"", 0, 0, New},
-    {u"OpenProject", u"PATH", 1, 1, Open},
-    {u"mnuSave", u"", 0, 0, Save},
-    {u"mnuSaveNew", u"PATH", 1, 1, SaveNew},
-    {u"mnuPrjProperty", u"WIDTH HEIGHT RATE VERSION", 4, 4, Property},
+bool CanUndo(const frmMain& controller) {
+    return controller.CanUndo();
+}
+
+bool CanRedo(const frmMain& controller) {
+    return controller.CanRedo();
+}
+
+constexpr Command Commands[]{
+    {u"mnuNew", u"", 0, 0, New, {{{u"新規作成", u"Ctrl+N"}}}},
+    {u"OpenProject", u"PATH", 1, 1, Open, {{{u"開く", u"Ctrl+O"}}}},
+    {u"mnuSave", u"", 0, 0, Save, {{{u"上書き保存", u"Ctrl+S"}}}},
+    {u"mnuSaveNew", u"PATH", 1, 1, SaveNew, {{{u"名前を付けて保存", u"Ctrl+Shift+S"}}}},
+    {u"mnuPrjProperty",
+     u"WIDTH HEIGHT RATE VERSION",
+     4,
+     4,
+     Property,
+     {{{u"プロジェクトのプロパティ", u"Ctrl+P"}}}},
     {u"mnuKVFImport",
      u"PATH [ID=N] [AddID=N] [IDMode=0|1] [SpriteName=TEXT] [FolderName=TEXT] "
      u"[LayerFolderName=TEXT] [blNotRepetition=0|1] [chkSprite=0|1] [chkNoMain=0|1] "
      u"[chkFolder=0|1] [chkLayerFolder=0|1] [Symbols=ROWS] [Layers=ROWS]",
-     1, BatchCommand::AnyNumber, Import},
+     1,
+     Command::AnyNumber,
+     Import,
+     {{{u"プロジェクトのインポート", u"Ctrl+Shift+I"}}}},
     {u"ChangeSprite", u"INDEX", 1, 1, ChangeTimeline},
-    {u"mnuUndoRedo", u"0|1", 1, 1, UndoRedo},
-    {u"mnuAuthoring", u"PATH", 1, 1, Authoring},
+    {u"mnuUndoRedo",
+     u"0|1",
+     1,
+     1,
+     UndoRedo,
+     {{{u"元に戻す", u"Ctrl+Z", u"0", CanUndo}, {u"やり直し", u"Ctrl+Y", u"1", CanRedo}}}},
+    {u"mnuAuthoring", u"PATH", 1, 1, Authoring, {{{u"SWFファイル生成", u"Ctrl+E"}}}},
     {u"ShowEditSWFBitmap", u"[FRAME]", 0, 1, ShowFrame},
     {u"Answer", u"yes|no|cancel", 1, 1, AnswerNext},
     {u"Print", u"", 0, 0, Print},
@@ -167,7 +184,7 @@ constexpr BatchCommand Commands[]{
 
 }  // namespace
 
-std::span<const BatchCommand> BatchProjectCommands() {
+std::span<const Command> ProjectCommands() {
     return Commands;
 }
 

@@ -1,4 +1,4 @@
-#include "app/BatchUserInterface.h"
+#include "app/commands/BatchUserInterface.h"
 
 namespace tamber {
 
