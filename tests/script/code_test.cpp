@@ -177,6 +177,33 @@ TEST(Code, OfVersion7HasFunctionsWithRegistersExceptionsAndCasts) {
     });
 }
 
+TEST(Code, OfADeclarationWithAPathSetsWhereItLeads) {
+    const CodeCase cases[] = {
+        {4, "var /:v = \"x\";", "/:v = \"x\";"},
+        {4, "var a.v = 1, ../b:w = 2;", "a.v = 1; ../b:w = 2;"},
+        {5, "var _root.v = 1;", "_root.v = 1;"},
+        {5, "var a:b = 1;", "var a = 1;"},
+        {6, "var a.b.c:Number = 1, d;", "a.b.c = 1; var d;"},
+        {6, "var this.v = 1;", "this.v = 1;"},
+        {8, "var a/b:v:Number = 1;", "a/b:v = 1;"},
+        {8, "var _root.v; var /:v;", ""},
+        {6, "for (var a.k in o) ;", "for (a.k in o) ;"},
+        {5, "function /:f(a) { b(); }", "/:f = function (a) { b(); };"},
+        {7, "function a:f(a) { b(); }", "a:f = function (a) { b(); };"},
+        {8, "c(); function _root.f() { }", "_root.f = function () { }; c();"},
+        {6, "a = {}; function a.f() { }", "a = {}; a.f = function () { };"},
+        {7, "function f(a) { var a.b = 1; }", "function f(a) { a.b = 1; }"},
+        {7, "function f() { g(); function this.h() { } }",
+         "function f() { this.h = function () { }; g(); }"},
+    };
+    for (const CodeCase& path : cases) {
+        EXPECT_NE(Compiled(path.Source, path.Version), "not compiled") << path.Source;
+        EXPECT_EQ(Compiled(path.Source, path.Version), Compiled(path.Code, path.Version))
+            << path.Source;
+    }
+    EXPECT_EQ(Compiled("var /:v = \"x\";", 5), "96 08 00 00 2F 3A 76 00 00 78 00 1D");
+}
+
 TEST(Code, IsNotMadeOfWhatHasNoEffectOrCannotBeReached) {
     Check({
         {6, "", ""},
