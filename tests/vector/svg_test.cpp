@@ -324,6 +324,21 @@ TEST(SvgStyle, makes_lines_as_wide_as_their_transformations_say) {
     EXPECT_TRUE(shapes[3]->colLineStyles->empty());
 }
 
+TEST(SvgStyle, goes_without_attributes_that_have_no_value_between_double_quotes) {
+    const clsVector vector = Read(R"~(<svg><g fill="red" stroke="blue" stroke-width="2">
+        <rect width="1" height="1" opacity='0.5' fill='none' stroke-width='3' style='fill:none'/>
+        <rect width="1" height="1" opacity=0.5 fill stroke-width = stroke="lime"/></g></svg>)~");
+    const auto& shapes = vector.inVector->colShapeData;
+    ASSERT_EQ(shapes.size(), 2u);
+    for (const auto& shape : shapes) {
+        EXPECT_EQ(SolidOf(*shape), static_cast<Long>(0xFF0000FF));
+        ASSERT_EQ(shape->colLineStyles->size(), 1u);
+        EXPECT_EQ(shape->colLineStyles->at(0).Width, 40);
+    }
+    EXPECT_EQ(shapes[0]->colLineStyles->at(0).Color, static_cast<Long>(0xFFFF0000));
+    EXPECT_EQ(shapes[1]->colLineStyles->at(0).Color, static_cast<Long>(0xFF00FF00));
+}
+
 TEST(SvgSize, comes_from_the_sides_the_box_or_the_shapes) {
     struct {
         const char* Root;
