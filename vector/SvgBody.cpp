@@ -239,6 +239,8 @@ void SvgBody::AddShape(const SvgStyleState& state, const SvgMatrixList& own, boo
     SvgPen pen(records, transformation, line, width, document_.Budget);
     draw(pen);
     if (IsEmpty(records.GetEdgeBounds())) return;
+    if (!document_.LeftOut.Has(SvgFeature::TransformOrder) && transformation.DependsOnOrder())
+        document_.LeftOut.Note(SvgFeature::TransformOrder);
     if (fill) {
         shape->colFillStyles->push_back(MakeFill(state, transformation, draw));
         if (shape->colFillStyles->back().FillMode() == clsSWFTFillStyle::Focal) shape->Ver = 4;

@@ -218,6 +218,20 @@ public:
         end_ = Place(gradient.EndX, gradient.EndY);
     }
 
+    /// Fractions of the extent are taken to twips before the gradient's own transformations.
+    bool DependsOnOrder() const {
+        if (gradient_.colGradientMatrix.empty()) return false;
+        SvgMatrixList list;
+        if (!gradient_.UserSpaceOnUse)
+            list.push_back({static_cast<Single>(width_), static_cast<Single>(height_), 0, 0,
+                            bounds_.xMin, bounds_.yMin});
+        list.insert(list.end(), gradient_.colGradientMatrix.begin(),
+                    gradient_.colGradientMatrix.end());
+        const SvgMatrixList none;
+        return SvgTransformation{list, none}.DependsOnOrder(
+            gradient_.UserSpaceOnUse ? SvgTransformation::UsualReach : 1);
+    }
+
     clsSWFTFillStyle MakeLinearGradientFill() const {
         clsSWFTFillStyle fill(clsSWFTFillStyle::Linear);
         FillMatrix& matrix = *fill.StyleObject()->Matrix();
@@ -306,8 +320,7 @@ std::shared_ptr<clsSvgGradientData> FindSvgGradient(SvgDocument& document, std::
     return nullptr;
 }
 
-clsSWFTFillStyle MakeSvgGradientFill(const SvgDocument& document,
-                                     const clsSvgGradientData& gradient,
+clsSWFTFillStyle MakeSvgGradientFill(SvgDocument& document, const clsSvgGradientData& gradient,
                                      const SvgTransformation& transformation, const SwfRect& bounds,
                                      Long alpha) {
     const clsSvgGradientData& colors = FollowLinks(document, gradient);
@@ -319,6 +332,7 @@ clsSWFTFillStyle MakeSvgGradientFill(const SvgDocument& document,
         return fill;
     }
     const GradientFill maker(gradient, transformation, bounds);
+    if (maker.DependsOnOrder()) document.LeftOut.Note(SvgFeature::TransformOrder);
     clsSWFTFillStyle fill = gradient.GradName == "Radial" ? maker.MakeRadialGradientFill()
                                                           : maker.MakeLinearGradientFill();
     CopyColors(colors, gradient.Spread, alpha, *fill.StyleAs<clsSWFTFillLinearRadial>());

@@ -14,8 +14,7 @@ std::shared_ptr<clsSvgGradientData> FindSvgGradient(SvgDocument& document, std::
 
 /// Makes the fill of a shape; `bounds` is its extent before any transformation, `alpha` 0 to 255.
 /// A gradient without colours gives a style without an object.
-clsSWFTFillStyle MakeSvgGradientFill(const SvgDocument& document,
-                                     const clsSvgGradientData& gradient,
+clsSWFTFillStyle MakeSvgGradientFill(SvgDocument& document, const clsSvgGradientData& gradient,
                                      const SvgTransformation& transformation, const SwfRect& bounds,
                                      Long alpha);
 

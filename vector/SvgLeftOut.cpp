@@ -35,6 +35,7 @@ constexpr std::array<StringView, static_cast<std::size_t>(SvgFeature::Count)> Fe
     u"縦横比の指定",
     u"小数点の続く数値",
     u"接頭辞の付いた要素",
+    u"変換の順序",
 };
 
 struct NamedFeature {

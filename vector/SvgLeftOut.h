@@ -7,7 +7,7 @@
 
 namespace tamber {
 
-/// What a drawing may use and the reader passes over.
+/// What a drawing may use and the reader passes over, or takes otherwise than it was meant.
 enum class SvgFeature {
     Arc,
     Text,
@@ -35,6 +35,7 @@ enum class SvgFeature {
     AspectRatio,
     JoinedDecimals,
     PrefixedElement,
+    TransformOrder,
     Count,
 };
 
@@ -42,6 +43,7 @@ enum class SvgFeature {
 class SvgLeftOut {
 public:
     void Note(SvgFeature feature);
+    bool Has(SvgFeature feature) const { return noted_.test(static_cast<std::size_t>(feature)); }
     /// Notes what the name of an element that is not drawn stands for, if it leaves a gap.
     void NoteElement(std::string_view name);
     /// Notes an attribute or style item that has no effect here, unless its value is "none".

@@ -73,28 +73,29 @@ std::string_view SvgScanner::ReadName() {
     return text_.substr(start, position_ - start);
 }
 
-void SvgScanner::ReadValue(SvgAttribute& attribute) {
+/// False when none stands between double quotes behind the name.
+bool SvgScanner::ReadValue(SvgAttribute& attribute) {
+    SkipSpace();
+    if (AtEnd() || text_[position_] != '=') return false;
+    ++position_;
+    SkipSpace();
     const char quote = AtEnd() ? '\0' : text_[position_];
-    if (quote != '"' && quote != '\'') return;
+    if (quote != '"' && quote != '\'') return false;
     const std::size_t start = position_ + 1;
     const std::size_t end = FindSvgChar(text_, quote, start);
     position_ = std::min(end + 1, text_.size());
-    if (end == text_.size()) return;
-    if (quote == '"')
-        attribute.Value = text_.substr(start, end - start);
-    else
-        leftOut_.Note(SvgFeature::SingleQuote);
+    if (end == text_.size()) return false;
+    attribute.Value = text_.substr(start, end - start);
+    if (quote == '\'') leftOut_.Note(SvgFeature::SingleQuote);
+    return quote == '"';
 }
 
 bool SvgScanner::NextAttribute(SvgAttribute& attribute) {
-    SkipSpace();
-    if (AtEnd() || IsTagEnd(text_, position_)) return false;
-    attribute = {ReadName(), {}};
-    SkipSpace();
-    if (AtEnd() || text_[position_] != '=') return true;
-    ++position_;
-    SkipSpace();
-    ReadValue(attribute);
+    do {
+        SkipSpace();
+        if (AtEnd() || IsTagEnd(text_, position_)) return false;
+        attribute = {ReadName(), {}};
+    } while (!ReadValue(attribute));
     return true;
 }
 

@@ -33,8 +33,8 @@ public:
     /// Comments, declarations and character data are passed over. Empty when there is no more.
     std::string_view NextTag();
     /// Next attribute of the tag. False at the tag's end or at the next tag, before which the
-    /// cursor then stands. The value is what stands between double quotes; one between single
-    /// quotes is passed over.
+    /// cursor then stands. The value is what stands between double quotes; an attribute without
+    /// one, or with one between single quotes, is passed over.
     bool NextAttribute(SvgAttribute& attribute);
     /// Moves behind the ">" that ends the tag. True when a "/" stands before it.
     bool PassTagEnd();
@@ -48,7 +48,7 @@ private:
     void PassText(std::string_view mark, std::size_t from);
     bool PassMarkup();
     std::string_view ReadName();
-    void ReadValue(SvgAttribute& attribute);
+    bool ReadValue(SvgAttribute& attribute);
 
     std::string_view text_;
     std::size_t position_;

@@ -11,6 +11,8 @@
 #include "swf/mdlZlib.h"
 #include "swf/tags/TagCodes.h"
 #include "vector/LoadProgress.h"
+#include "vector/SwfJpeg.h"
+#include "vector/SwfLeftOut.h"
 #include "vector/SwfShapeReader.h"
 
 namespace tamber {
@@ -22,14 +24,24 @@ constexpr std::size_t LengthOffset = 4;
 constexpr std::size_t MaxInflated = std::size_t{256} << 20;
 /// The longest RECT: a width of 5 bits and four fields of 31.
 constexpr std::size_t MaxRectBytes = 17;
-constexpr std::size_t RateAndCountBytes = 4;
+constexpr std::size_t RateBytes = 2;
+/// Bytes that pictures may take of tables they share; more than those of any real movie.
+constexpr std::size_t MaxSharedTables = std::size_t{64} << 20;
 constexpr std::uint32_t LongLength = 63;
 /// Definitions and placements of one frame are 65535 each at most.
 constexpr Long MaxTags = 1 << 20;
 
-enum PlaceFlag : Long { Move = 1, HasCharacter = 2, HasMatrix = 4 };
-/// Of the second flag byte of PlaceObject3. Either names something that is no shape.
-enum PlaceFlag3 : Long { HasClassName = 8, HasImage = 16 };
+enum PlaceFlag : Long {
+    Move = 1,
+    HasCharacter = 2,
+    HasMatrix = 4,
+    HasColorTransform = 8,
+    HasClipDepth = 64
+};
+/// Of the second flag byte of PlaceObject3. The last two name something that is no shape.
+enum PlaceFlag3 : Long { HasFilters = 1, HasBlendMode = 2, HasClassName = 8, HasImage = 16 };
+/// Of the first byte of a colour transform: whether it adds or multiplies anything.
+constexpr Long ColorTerms = 0xC0;
 
 /// Bytes of a file, read from the front.
 class ByteReader {
@@ -78,6 +90,9 @@ class SwfMovie {
 public:
     SwfMovie(ByteView body, StringView fileName, clsVector& vector)
         : tags_(body), fileName_(fileName), vector_(vector) {}
+    ~SwfMovie() { vector_.LeftOut = std::move(leftOut_.Names); }
+    SwfMovie(const SwfMovie&) = delete;
+    SwfMovie& operator=(const SwfMovie&) = delete;
 
     bool Read() {
         vector_.inVector = std::make_shared<clsVectorData>();
@@ -86,6 +101,7 @@ public:
         Long count = 0;
         while (ReadTag())
             if (++count > MaxTags) return false;
+        if (frames_ > 1) leftOut_.Note(SwfLeftOut::LaterFrames);
         ReadShapes(progress);
         return !entries_.empty();
     }
@@ -98,7 +114,8 @@ private:
         const SwfRect size = mdlSWFTag::GetRect();
         vector_.Width = (size.xMax - size.xMin) / TwipsPerPixel;
         vector_.height = (size.yMax - size.yMin) / TwipsPerPixel;
-        tags_.Take(mdlSWFTag::swfBytePos() + RateAndCountBytes);
+        tags_.Take(mdlSWFTag::swfBytePos() + RateBytes);
+        frames_ = tags_.U16();
     }
 
     /// False at the end of the first frame.
@@ -122,20 +139,34 @@ private:
             case TagCode::PlaceObject3:
                 mdlSWFTag::LoadBuffer(Bytes(body.Rest().begin(), body.Rest().end()));
                 if (code == TagCode::PlaceObject)
-                    ReadPlaceObject();
+                    ReadPlaceObject(body.Rest().size());
                 else
                     ReadPlaceObject2(code);
                 break;
+            case TagCode::DefineBits:
             case TagCode::DefineBitsLossless:
             case TagCode::DefineBitsJPEG2:
             case TagCode::DefineBitsJPEG3:
             case TagCode::DefineBitsLossless2:
                 AddBitmap(code, body);
                 break;
+            case TagCode::JPEGTables:
+                jpegTables_ = body.Rest();
+                break;
             default:
+                AddOther(code, body);
                 break;
         }
         return true;
+    }
+
+    /// A character that is no shape, or what else a tag tells of.
+    void AddOther(Long code, ByteReader body) {
+        const StringView name = SwfLeftOut::CharacterName(code);
+        if (!name.empty())
+            othersByID_.emplace(static_cast<Long>(body.U16()), name);
+        else
+            leftOut_.NoteTag(code);
     }
 
     /// The first definition of an identifier counts, for shapes and bitmaps alike.
@@ -148,53 +179,87 @@ private:
     void AddBitmap(Long code, ByteReader body) {
         const auto id = static_cast<Long>(body.U16());
         if (bitmapsByID_.contains(id)) return;
-        auto bitmap = std::make_shared<clsVectorBitmap>(code);
+        const bool sharesTables = code == TagCode::DefineBits;
+        auto bitmap =
+            std::make_shared<clsVectorBitmap>(sharesTables ? TagCode::DefineBitsJPEG2 : code);
         bitmap->ID = id;
-        bitmap->bufBitmap.assign(body.Rest().begin(), body.Rest().end());
+        if (sharesTables)
+            bitmap->bufBitmap = WithTables(body.Rest());
+        else
+            bitmap->bufBitmap.assign(body.Rest().begin(), body.Rest().end());
         bitmapsByID_.emplace(id, bitmap);
         vector_.inVector->colBitmap.push_back(std::move(bitmap));
     }
 
-    void ReadPlaceObject() {
+    Bytes WithTables(ByteView picture) {
+        sharedTables_ += jpegTables_.size();
+        if (sharedTables_ > MaxSharedTables)
+            throw RuntimeError(ErrorOutOfRange, u"ReadSwfFile", u"");
+        return JoinJpegTables(jpegTables_, picture);
+    }
+
+    void ReadPlaceObject(std::size_t size) {
         const Long id = mdlSWFTag::GetUI(2);
         const Long depth = mdlSWFTag::GetUI(2);
-        Place(id, depth, ReadTranslation());
+        const bool isShape = entriesByID_.contains(id);
+        const SwfPoint placement = ReadTranslation(isShape);
+        if (isShape && mdlSWFTag::swfBytePos() < size) ReadColorTransform();
+        Place(id, depth, placement);
     }
 
     void ReadPlaceObject2(Long code) {
         const Long flags = mdlSWFTag::GetUI(1);
         const Long flags3 = code == TagCode::PlaceObject3 ? mdlSWFTag::GetUI(1) : 0;
-        if ((flags3 & (HasClassName | HasImage)) != 0) return;
+        if ((flags & HasClipDepth) != 0) leftOut_.Note(SwfLeftOut::Clipping);
+        if ((flags3 & HasFilters) != 0) leftOut_.Note(SwfLeftOut::Filter);
+        if ((flags3 & HasBlendMode) != 0) leftOut_.Note(SwfLeftOut::BlendMode);
+        if ((flags3 & (HasClassName | HasImage)) != 0)
+            return leftOut_.Note(SwfLeftOut::ClassPlacement);
         const Long depth = mdlSWFTag::GetUI(2);
         const auto found = entriesByDepth_.find(depth);
         SwfShapeEntry* former = found != entriesByDepth_.end() ? &entries_[found->second] : nullptr;
         SwfPoint placement = former != nullptr ? former->Placement : SwfPoint{};
         if ((flags & HasCharacter) == 0) {
             // What stands at the depth moves.
-            if (former != nullptr && (flags & HasMatrix) != 0)
-                former->Placement = ReadTranslation();
+            if (former == nullptr) return;
+            if ((flags & HasMatrix) != 0) former->Placement = ReadTranslation(true);
+            if ((flags & HasColorTransform) != 0) ReadColorTransform();
             return;
         }
         const Long id = mdlSWFTag::GetUI(2);
+        const bool isShape = entriesByID_.contains(id);
         if ((flags & Move) == 0) {
             placement = {};
         } else if (former != nullptr) {
             former->depth = 0;
             entriesByDepth_.erase(found);
         }
-        if ((flags & HasMatrix) != 0) placement = ReadTranslation();
+        if ((flags & HasMatrix) != 0) placement = ReadTranslation(isShape);
+        if (isShape && (flags & HasColorTransform) != 0) ReadColorTransform();
         Place(id, depth, placement);
     }
 
-    static SwfPoint ReadTranslation() {
+    SwfPoint ReadTranslation(bool isShape) {
         const SwfMatrix matrix = mdlSWFTag::GetMatrix();
+        const SwfMatrix moved{.TranslateX = matrix.TranslateX, .TranslateY = matrix.TranslateY};
+        if (isShape && matrix != moved) leftOut_.Note(SwfLeftOut::Transformation);
         return {matrix.TranslateX, matrix.TranslateY};
+    }
+
+    /// Only whether it changes anything.
+    void ReadColorTransform() {
+        if ((mdlSWFTag::GetUI(1) & ColorTerms) != 0) leftOut_.Note(SwfLeftOut::ColorTransform);
     }
 
     void Place(Long id, Long depth, SwfPoint placement) {
         const auto found = entriesByID_.find(id);
-        if (found == entriesByID_.end()) return;
+        if (found == entriesByID_.end()) {
+            const auto other = othersByID_.find(id);
+            if (other != othersByID_.end()) leftOut_.Note(other->second);
+            return;
+        }
         SwfShapeEntry& entry = entries_[found->second];
+        if (entry.depth != 0 && entry.depth != depth) leftOut_.Note(SwfLeftOut::SecondPlacement);
         entry.depth = depth;
         entry.Placement = placement;
         entriesByDepth_[depth] = found->second;
@@ -227,6 +292,12 @@ private:
     std::unordered_map<Long, std::size_t> entriesByID_;
     std::unordered_map<Long, std::size_t> entriesByDepth_;
     SwfShapeReader::BitmapTable bitmapsByID_;
+    /// Names of the characters that are no shapes.
+    std::unordered_map<Long, StringView> othersByID_;
+    ByteView jpegTables_;
+    std::size_t sharedTables_ = 0;
+    std::uint32_t frames_ = 0;
+    SwfLeftOut leftOut_;
 };
 
 bool ReadMovie(ByteView file, StringView fileName, clsVector& vector) {

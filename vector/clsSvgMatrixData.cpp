@@ -10,6 +10,8 @@ namespace tamber {
 namespace {
 
 constexpr double Pi = 3.14159265358979;
+/// Twips that can be told from rounded shifts.
+constexpr double LeastStep = 4;
 
 using Arguments = std::vector<Single>;
 
@@ -114,6 +116,17 @@ Single SvgTransformation::WidthScale() const {
     return static_cast<Single>(std::hypot(whole.A, whole.C) + std::hypot(whole.B, whole.D));
 }
 
+bool SvgTransformation::DependsOnOrder(double reach) const {
+    if (Own.size() + Around.size() < 2) return false;
+    SvgAffine forward;
+    forward.Then(Own);
+    forward.Then(Around);
+    SvgAffine backward;
+    backward.ThenBackward(Own);
+    backward.ThenBackward(Around);
+    return forward.IsElsewhere(backward, reach);
+}
+
 void SvgAffine::Then(const clsSvgMatrixData& next) {
     const SvgAffine before = *this;
     A = next.ScaleX * before.A + next.Skew1 * before.B;
@@ -126,6 +139,16 @@ void SvgAffine::Then(const clsSvgMatrixData& next) {
 
 void SvgAffine::Then(const SvgMatrixList& list) {
     for (const clsSvgMatrixData& matrix : list) Then(matrix);
+}
+
+void SvgAffine::ThenBackward(const SvgMatrixList& list) {
+    for (auto matrix = list.rbegin(); matrix != list.rend(); ++matrix) Then(*matrix);
+}
+
+bool SvgAffine::IsElsewhere(const SvgAffine& other, double reach) const {
+    const double x = reach * (std::abs(A - other.A) + std::abs(C - other.C));
+    const double y = reach * (std::abs(B - other.B) + std::abs(D - other.D));
+    return x + std::abs(E - other.E) > LeastStep || y + std::abs(F - other.F) > LeastStep;
 }
 
 }  // namespace tamber

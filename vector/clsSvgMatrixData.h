@@ -37,6 +37,11 @@ struct SvgTransformation {
     }
     /// Sum of the scales along both axes, 2 where nothing is scaled.
     Single WidthScale() const;
+    /// Where parts of a drawing stand at the farthest, as a rule; twips.
+    static constexpr double UsualReach = 10000;
+    /// Whether what reaches so far from the origin would stand elsewhere if in each of the lists
+    /// the last came first.
+    bool DependsOnOrder(double reach = UsualReach) const;
 
 private:
     struct SinglePoint {
@@ -64,6 +69,11 @@ struct SvgAffine {
     /// Adds a transformation that comes after those merged so far.
     void Then(const clsSvgMatrixData& next);
     void Then(const SvgMatrixList& list);
+    /// Adds those of a list, its last first.
+    void ThenBackward(const SvgMatrixList& list);
+    /// Whether it takes a place that is not farther than `reach` from the origin to another one
+    /// than `other` does, and not only because shifts are rounded to twips.
+    bool IsElsewhere(const SvgAffine& other, double reach) const;
 };
 
 }  // namespace tamber

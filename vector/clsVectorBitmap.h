@@ -6,8 +6,8 @@
 namespace tamber {
 
 /// A bitmap tag taken whole out of a movie: code (20, 21, 35 or 36), identifier in 16 bits, and the
-/// rest of its body as it stood. `ID` is that of the source while reading, later that of the movie
-/// being written.
+/// rest of its body as it stood. One of code 6 has become one of 21, joined with the movie's
+/// tables. `ID` is that of the source while reading, later that of the movie being written.
 class clsVectorBitmap : public clsSWFTag, public BitmapReference {
 public:
     Bytes bufBitmap;

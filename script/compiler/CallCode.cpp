@@ -123,9 +123,13 @@ bool CodeGenerator::IsMethodOfClip(const Builtin& builtin) const {
     }
 }
 
-/// "/a/b/play": play in the clip /a/b.
+/// "/a/b/play": play in the clip /a/b. "/a/b:f": a function of its own, which the player finds.
 bool CodeGenerator::CallInSlashPath(const Node& node) {
     const std::string_view text = node.A->Name->Text;
+    if (version_ >= FirstObjectVersion && text.find(':') != text.npos) {
+        PlainCall(node);
+        return true;
+    }
     const std::size_t slash = text.rfind('/');
     Symbol* name = symbols_.Intern(slash == text.npos ? text : text.substr(slash + 1));
     if (!name->IsClassified) Classify(*name, version_);
@@ -312,7 +316,8 @@ void CodeGenerator::PushArgumentsBackward(const Node* first, std::uint32_t count
 
 void CodeGenerator::PlainCall(const Node& node) {
     const Node& callee = Meant(*node.A);
-    if (callee.Kind != NodeKind::Name || IsMemberPlace(callee)) return MethodCall(node);
+    const bool isNamed = callee.Kind == NodeKind::Name || callee.Kind == NodeKind::SlashPath;
+    if (!isNamed || IsMemberPlace(callee)) return MethodCall(node);
     PushArgumentsBackward(node.B, node.Count);
     Numeric(node.Count);
     code_->PushText(Called(callee));

@@ -86,6 +86,9 @@ private:
         bool IsWithin = false;
         /// Whether it is a variable's name when the object has no such member.
         bool IsUncertain = false;
+        /// Whether the variable is a property of a target, which may not be there, and is read as
+        /// such.
+        bool IsOfTarget = false;
     };
 
     /// What must be there before the value of a field is worked out: nothing that the player does
@@ -196,6 +199,7 @@ private:
     // Places.
     const Node& Meant(const Node& node);
     Place PlaceOf(const Node& node);
+    Place PlaceOfVariable(const Node& name) const;
     Place PlaceOfClass(const Node& path);
     Place PlaceOfVersion4(const Node& node);
     void PushPlace(const Place& place);
@@ -211,6 +215,7 @@ private:
     void PushOwner(const Place& place);
     void LoadWithOwner(const Place& place);
     void LoadPlace(const Place& place);
+    void LoadPropertyOfTarget(Byte property);
     void Load(const Place& place);
     void Store(const Place& place);
     void Assign(const Node& node, bool isWanted);

@@ -12,6 +12,16 @@ namespace {
 /// A function has 255; what stands above is for values in between.
 constexpr int MaxRegister = 240;
 
+/// Whether a path leads to a variable of a clip, which is there before the script runs.
+bool IsAtClip(const Node& path) {
+    if (path.Kind == NodeKind::SlashPath) return true;
+    const Node& object = *path.A;
+    if (object.Kind != NodeKind::Name) return object.Kind == NodeKind::This;
+    const Symbol& name = *object.Name;
+    return name.Special == SpecialName::Root || name.Special == SpecialName::Parent ||
+           name.Special == SpecialName::Global || name.Text.starts_with("_level");
+}
+
 int PreloadedCount(const FunctionNode& function) {
     return (function.UsesThis || function.IsMethod) + function.UsesArguments + function.UsesSuper +
            function.UsesRoot + function.UsesParent + function.UsesGlobal;
@@ -19,22 +29,46 @@ int PreloadedCount(const FunctionNode& function) {
 
 }  // namespace
 
+Parser::DeclaredPlace Parser::DeclaredName(StringView what, Lexer::PathForm form) {
+    if (Node* path = SlashPath(form)) return {.Path = MembersOf(path)};
+    if (Is(TokenKind::This) && Peek().Kind == TokenKind::Dot) return {.Path = MembersOf(Primary())};
+    const Spot spot = token_.At;
+    Symbol* name = TakeName(what);
+    if (!Is(TokenKind::Dot)) return {.Name = name};
+    return {.Path = MembersOf(Named(name, spot))};
+}
+
+/// One that the script's own statements may have to make a place for is made in its turn.
 Node* Parser::FunctionStatement() {
     const Spot spot = token_.At;
     Advance();
-    Node* node = FunctionRest(FunctionName(), spot);
+    const DeclaredPlace declared = DeclaredName(u"関数名", Lexer::PathForm::WithColon);
+    if (declared.Path != nullptr)
+        CheckTarget(*declared.Path);
+    else
+        DeclareFunction(declared.Name);
+    Node* node = FunctionRest(declared.Name, spot);
+    if (declared.Path != nullptr && !IsAtClip(*declared.Path))
+        return AssignmentTo(declared.Path, node);
+    node->A = declared.Path;
     node->Flag = true;
     if (function_ == nullptr || blocks_ > 0) return node;
     function_->Functions.Add(node);
     return Make(NodeKind::Empty, spot);
 }
 
+Node* Parser::AssignmentTo(Node* target, Node* value) {
+    Node* statement = Make(NodeKind::Expression, value->At);
+    statement->A = Make(NodeKind::Assign, value->At);
+    statement->A->A = target;
+    statement->A->B = value;
+    return statement;
+}
+
 /// A function with a name becomes a variable of that name.
-Symbol* Parser::FunctionName() {
-    Symbol* name = TakeName(u"関数名");
+void Parser::DeclareFunction(Symbol* name) {
     Declare(name);
     KeepNamed(name);
-    return name;
 }
 
 /// What stands behind the name: parameters, the type of the result, the body.

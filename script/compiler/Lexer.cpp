@@ -284,7 +284,7 @@ bool Lexer::ReadSlashPath(Token& token, PathForm form) {
         return at != first;
     };
     const bool begins = is('/') || is(':') || (is('.') && end_ - at > 1 && at[1] == '.');
-    const bool goesOn = Ahead(0) == '/' || Ahead(0) == ':';
+    const bool goesOn = Ahead(0) == '/' || (Ahead(0) == ':' && form != PathForm::WithSlash);
     if (!begins && (form == PathForm::Rooted || !goesOn)) return false;
     if (form == PathForm::WithColon && begin >= noPath_.data() &&
         begin < noPath_.data() + noPath_.size())

@@ -17,10 +17,10 @@ public:
     /// The next token. A character that begins none is told and passed over.
     Token Next();
     /// How much a path in slash syntax may look like something else.
-    enum class PathForm { Rooted, WithColon, WithColonOrCall };
+    enum class PathForm { Rooted, WithSlash, WithColon, WithColonOrCall };
     /// Where an operand may stand: a path in slash syntax that begins at the token just read:
-    /// "/a/b:x" and "../x", by the form also "a/b:x" and "a/play(". False, and nothing has moved,
-    /// when there is none.
+    /// "/a/b:x" and "../x", by the form also "a/b:x", then "a:x", then "a/play(". False, and
+    /// nothing has moved, when there is none.
     bool ReadSlashPath(Token& token, PathForm form);
     /// State that Restore goes back to.
     struct Mark {

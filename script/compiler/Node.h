@@ -115,7 +115,9 @@ enum class Operator : Byte {
 /// | Object | first value (a list by Next, each with its key in D) | Count |
 /// | Array, Comma, Block | first (a list by Next) | Count |
 /// | Boolean | | Flag |
-/// | Var, Expression, Return, Throw | value or null | Var: Name |
+/// | Expression, Return, Throw | value or null | |
+/// | Var | value or null; B: null, or the path that stands for the name | Name |
+/// | Function | A: null, or the path where it is kept | Function; Flag: a statement |
 /// | While, DoWhile | condition, body | |
 /// | For | start, condition, step, body | |
 /// | ForIn | target (a Var or an expression), object, body | |

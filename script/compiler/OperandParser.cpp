@@ -18,23 +18,26 @@ bool IsOfClip(const Symbol& name) {
 
 }  // namespace
 
-bool Parser::IsSlashPathAhead() {
-    const bool isStatement = std::exchange(atStatement_, false);
-    if (Is(TokenKind::Slash) || Is(TokenKind::Colon) || Is(TokenKind::Dot))
-        return lexer_.ReadSlashPath(token_, Lexer::PathForm::Rooted);
-    if (!Is(TokenKind::Identifier) || colonsAwaited_ > 0) return false;
-    const bool mayCall = isStatement && version_ < FirstObjectVersion;
-    return lexer_.ReadSlashPath(
-        token_, mayCall ? Lexer::PathForm::WithColonOrCall : Lexer::PathForm::WithColon);
+/// Null, and nothing has moved, when there is none. The form is what a name may begin.
+Node* Parser::SlashPath(Lexer::PathForm form) {
+    const bool isRooted = Is(TokenKind::Slash) || Is(TokenKind::Colon) || Is(TokenKind::Dot);
+    if (!isRooted && !Is(TokenKind::Identifier)) return nullptr;
+    if (!lexer_.ReadSlashPath(token_, isRooted ? Lexer::PathForm::Rooted : form)) return nullptr;
+    Node* node = Make(NodeKind::SlashPath, token_.At);
+    node->Name = token_.Name;
+    Advance();
+    return node;
+}
+
+/// A colon behind a name may be awaited, by what stands before it.
+Node* Parser::SlashPathOperand() {
+    const bool mayCall = std::exchange(atStatement_, false) && version_ < FirstObjectVersion;
+    if (colonsAwaited_ > 0) return SlashPath(Lexer::PathForm::Rooted);
+    return SlashPath(mayCall ? Lexer::PathForm::WithColonOrCall : Lexer::PathForm::WithColon);
 }
 
 Node* Parser::Primary() {
-    if (IsSlashPathAhead()) {
-        Node* node = Make(NodeKind::SlashPath, token_.At);
-        node->Name = token_.Name;
-        Advance();
-        return node;
-    }
+    if (Node* path = SlashPathOperand()) return path;
     Node* node = nullptr;
     switch (token_.Kind) {
         case TokenKind::Identifier:
@@ -64,7 +67,9 @@ Node* Parser::Primary() {
             Advance();
             if (Is(TokenKind::OpenParenthesis) || Is(TokenKind::OpenBrace))
                 return FunctionRest(nullptr, spot);
-            return FunctionRest(FunctionName(), spot);
+            Symbol* name = TakeName(u"関数名");
+            DeclareFunction(name);
+            return FunctionRest(name, spot);
         }
         default:
             Fail(Is(TokenKind::End) ? u"式が必要です。" : u"ここには式が必要です。");
@@ -77,6 +82,10 @@ Node* Parser::Name() {
     const Spot spot = token_.At;
     Symbol* name = token_.Name;
     Advance();
+    return Named(name, spot);
+}
+
+Node* Parser::Named(Symbol* name, Spot spot) {
     if (name->Special != SpecialName::None && name->Special <= SpecialName::Super)
         return SpecialValue(name->Special, spot);
     NoteName(name, spot);

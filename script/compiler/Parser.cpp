@@ -319,12 +319,18 @@ Node* Parser::Grouped(const NodeList& list, Spot spot) {
     return block;
 }
 
+/// A colon behind a name begins its type.
 Node* Parser::Variable() {
     Node* variable = Make(NodeKind::Var, token_.At);
-    Symbol* name = TakeName(u"変数名");
-    variable->Name = name;
-    Declare(name);
-    NoteName(name, variable->At);
+    const DeclaredPlace declared = DeclaredName(u"変数名", Lexer::PathForm::WithSlash);
+    variable->Name = declared.Name;
+    variable->B = declared.Path;
+    if (declared.Path != nullptr) {
+        CheckTarget(*declared.Path);
+    } else {
+        Declare(declared.Name);
+        NoteName(declared.Name, variable->At);
+    }
     SkipType();
     if (Accept(TokenKind::Assign)) variable->A = Assignment();
     return variable;

@@ -122,6 +122,8 @@ private:
     Node* NewExpression();
     Node* Primary();
     Node* Name();
+    /// What a name that was read stands for.
+    Node* Named(Symbol* name, Spot spot);
     Node* SpecialValue(SpecialName name, Spot spot);
     Node* Imported(Symbol* name, Spot spot);
     /// Tells of a name that the version's players do not know.
@@ -137,14 +139,23 @@ private:
     Node* ObjectLiteral();
     Node* PropertyKey();
     void Arguments(Node* call);
-    bool IsSlashPathAhead();
+    Node* SlashPath(Lexer::PathForm form);
+    Node* SlashPathOperand();
     void CheckTarget(const Node& target);
     static void NoteOwn(Symbol& name);
     void NoteSharedMember(const Node& target);
     Node* MakeBinary(Operator op, Node* left, Node* right, Spot spot);
 
+    /// What `var` or `function` declares: a name, or where a path leads.
+    struct DeclaredPlace {
+        Symbol* Name = nullptr;
+        Node* Path = nullptr;
+    };
+    DeclaredPlace DeclaredName(StringView what, Lexer::PathForm form);
+
     // Functions and classes.
-    Symbol* FunctionName();
+    void DeclareFunction(Symbol* name);
+    Node* AssignmentTo(Node* target, Node* value);
     Node* FunctionRest(Symbol* name, Spot spot);
     void Parameters(FunctionNode& function);
     void Parameter(FunctionNode& function);

@@ -32,7 +32,7 @@ CodeGenerator::Place CodeGenerator::PlaceOf(const Node& told) {
             const ClassTable::Member found = FindMember(node.Name);
             if (!found.IsFound) CheckStatic(node);
             const bool isUncertain = !found.IsFound && !node.Flag && MayBeInherited(*node.Name);
-            if (!found.IsFound && !isUncertain) return {.Name = Called(node)};
+            if (!found.IsFound && !isUncertain) return PlaceOfVariable(node);
             return {.Kind = PlaceKind::Member,
                     .Name = node.Name,
                     .Class = found.Class,
@@ -53,6 +53,16 @@ CodeGenerator::Place CodeGenerator::PlaceOf(const Node& told) {
         default:
             return {PlaceKind::Named, 0, 0, nullptr, node.B};
     }
+}
+
+/// An object of a `with` may have a member that is called like a property.
+CodeGenerator::Place CodeGenerator::PlaceOfVariable(const Node& name) const {
+    const Symbol& symbol = *name.Name;
+    const bool isProperty = symbol.Property != Symbol::NoProperty && symbol.Declarations == 0 &&
+                            symbol.Alias == nullptr && function_.Withs == 0;
+    return {.Property = symbol.Property,
+            .Name = Called(name),
+            .IsOfTarget = isProperty && IsInTarget()};
 }
 
 /// A class as what its package or the global object has.
@@ -211,8 +221,16 @@ void CodeGenerator::PushObjectWithin(const Place& place) {
 }
 
 void CodeGenerator::LoadPlace(const Place& place) {
+    if (place.IsOfTarget) return LoadPropertyOfTarget(place.Property);
     PushPlace(place);
     Load(place);
+}
+
+/// As a variable it would be one of the script's own clip where there is no target.
+void CodeGenerator::LoadPropertyOfTarget(Byte property) {
+    code_->PushText(Known(""));
+    PushInteger(property);
+    code_->Emit(Opcode::GetProperty);
 }
 
 void CodeGenerator::Load(const Place& place) {
@@ -319,11 +337,11 @@ void CodeGenerator::LoadWithOwner(const Place& place) {
         code_->PushRegister(function_.Key);
         return Load(place);
     }
+    if (place.Kind == PlaceKind::Variable) return LoadPlace(place);
     PushOwner(place);
     const bool hasOwner = place.Kind == PlaceKind::Member || place.Kind == PlaceKind::Named;
-    const bool isByName = place.Kind == PlaceKind::Member || place.Kind == PlaceKind::Variable;
     if (hasOwner) code_->Emit(Opcode::PushDuplicate);
-    if (isByName) code_->PushText(place.Name);
+    if (place.Kind == PlaceKind::Member) code_->PushText(place.Name);
     Load(place);
 }
 

@@ -21,7 +21,7 @@ CodeGenerator::CodeGenerator(SymbolTable& symbols, Long version, std::uint32_t k
 void CodeGenerator::Generate(const Node& statement) {
     if (statement.Kind == NodeKind::Function && statement.Flag) {
         code_ = &functions_;
-        Function(statement);
+        Statement(statement);
         code_ = &main_;
     } else {
         Statement(statement);
@@ -81,7 +81,7 @@ void CodeGenerator::Statement(const Node& node) {
             Expression(*node.A);
             return Throw();
         case NodeKind::Function:
-            return Function(node);
+            return node.A == nullptr ? Function(node) : AssignPlain(PlaceOf(*node.A), node, false);
         case NodeKind::Class:
             return ClassInPlace(*node.Class);
         default:
@@ -89,9 +89,12 @@ void CodeGenerator::Statement(const Node& node) {
     }
 }
 
-/// On a timeline a variable is the clip's; version 4 has no other.
+/// On a timeline a variable is the clip's; version 4 has no other. Where a path leads, a value is
+/// set, and without one nothing is done.
 void CodeGenerator::Var(const Node& node) {
-    if (node.Name->Register != Symbol::NoRegister) {
+    if (node.B != nullptr) {
+        if (node.A != nullptr) AssignPlain(PlaceOf(*node.B), *node.A, false);
+    } else if (node.Name->Register != Symbol::NoRegister) {
         if (node.A != nullptr)
             AssignPlain({PlaceKind::Register, node.Name->Register, 0, node.Name}, *node.A, false);
     } else if (version_ < FirstObjectVersion) {
@@ -228,6 +231,7 @@ void CodeGenerator::EnumerateObject(const Node& object) {
 
 /// Register 0 holds the name.
 void CodeGenerator::AssignEnumerated(const Node& target) {
+    if (target.Kind == NodeKind::Var && target.B != nullptr) return AssignEnumerated(*target.B);
     if (target.Kind == NodeKind::Var && target.Name->Register == Symbol::NoRegister) {
         code_->PushText(Called(target));
         code_->PushRegister(0);

@@ -17,6 +17,8 @@ class clsPropertySprite;
 /// Versions of the movie from which there are imports, and nine-slice scaling.
 inline constexpr Long LinkVersion = 5;
 inline constexpr Long ScalingGridVersion = 8;
+/// Version of the movie from which players know gradients with a focus of their own.
+inline constexpr Long FocalVersion = 8;
 
 /// Kinds of symbols that this generation can put on a timeline.
 bool CanPlace(Long kind);
@@ -101,6 +103,7 @@ private:
     bool IsGated(const clsLayer& layer) const;
     void LeaveOut(const clsLayer& layer);
     void LeaveOutKomas(const clsLayer& layer);
+    void WarnOfFocus(const clsSymbolData& symbol);
     void ShowProgress(Long done, Long total) const;
 
     const MovieRequest& request_;
@@ -108,6 +111,7 @@ private:
     const SnapshotRequest* snapshot_ = nullptr;
     PlacedTags placed_;
     std::set<const clsLayer*> leftOut_;
+    std::set<const clsSymbolData*> focal_;
     Long nesting_ = 0;
 };
 

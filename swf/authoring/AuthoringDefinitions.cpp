@@ -206,6 +206,7 @@ void Authoring::DefineText(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame
 }
 
 void Authoring::DefineVector(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
+    WarnOfFocus(symbol);
     tamber::DefineVector({admin, movie_, frame}, symbol);
     if (symbol.DefineNum == VectorForm::Clip && symbol.DefineID() != 0)
         AddExport(admin, symbol, symbol.DefineID(), frame);

@@ -132,6 +132,17 @@ void Authoring::LeaveOutKomas(const clsLayer& layer) {
         ProgramTitle, MessageIcon::Warning);
 }
 
+/// Once for a symbol. The canvas shows its movie in a player that knows the gradient.
+void Authoring::WarnOfFocus(const clsSymbolData& symbol) {
+    const Long version = mdlSWFTag::swfVersion();
+    if (version >= FocalVersion || snapshot_ != nullptr) return;
+    if (!HasFocalGradient(*symbol.Property<clsPropertyVector>())) return;
+    if (!focal_.insert(&symbol).second) return;
+    ShowMessage(u"焦点をずらした円形グラデーションはSWF8以降の機能です。\r\nSWF" + ToText(version) +
+                    u"では正しく表示されません。\r\nベクタ（" + symbol.Value() + u"）",
+                ProgramTitle, MessageIcon::Warning);
+}
+
 void Authoring::WriteLayer(const Timeline& timeline, Long index, Long& depth) {
     const clsLayer& layer = *timeline.Layers(index);
     const Long kind = layer.SymbolData()->eType();
@@ -270,6 +281,7 @@ DeformedCharacter Authoring::Deform(const Timeline& timeline, const clsLayer& la
         record.blDivide || (from != nullptr && from->blDivide) || (to != nullptr && to->blDivide);
     own.blDivide = wanted && layer.DepthCnt(true) == own.ShapeCount();
     if (layer.ClippingDepth != 0) deformed.Start->DefineNum = VectorForm::Clip;
+    WarnOfFocus(*layer.SymbolData());
     const Long frame =
         timeline.IsMain() ? std::min(start.StartFrame(), LateFrame()) : timeline.SpriteFrame;
     tamber::DefineVector({timeline.Admin, movie_, frame}, *deformed.Start);

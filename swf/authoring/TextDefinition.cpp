@@ -28,8 +28,6 @@ void AddSmoothing(clsSWFAdmin& admin, Long id, const clsPropertyText& text, Long
 /// a field that nobody can change.
 clsPropertyText LockedField(const clsPropertyText& text) {
     clsPropertyText field = text;
-    // A field shows CR LF as two line ends.
-    field.InitialText = WithLineFeeds(text.InitialText);
     field.blDynamic = true;
     field.blAutoSize = false;
     field.blMultiLine = true;
@@ -125,7 +123,8 @@ std::shared_ptr<clsSWFTagDefineEditText> GetNewEditText(clsSWFAdmin& admin,
     tag->FontColorBlue = text.FontColorBlue;
     tag->Alignment = text.Alignment;
     tag->VariableName = text.VariableName;
-    tag->InitialText = text.InitialText;
+    // A field shows CR LF as two line ends.
+    tag->InitialText = WithLineFeeds(text.InitialText);
     return tag;
 }
 

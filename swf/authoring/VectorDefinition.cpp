@@ -162,6 +162,14 @@ bool HasShapes(const clsPropertyVector& record) {
     return record.inVector && !record.inVector->colShapeData.empty();
 }
 
+bool HasFocalGradient(const clsPropertyVector& record) {
+    if (!record.inVector) return false;
+    for (const auto& shape : record.inVector->colShapeData)
+        for (const clsSWFTFillStyle& fill : *shape->colFillStyles)
+            if (fill.FillMode() == clsSWFTFillStyle::Focal) return true;
+    return false;
+}
+
 void DefineVector(const DefinitionPlace& place, clsSymbolData& symbol) {
     if (HasShapes(*symbol.Property<clsPropertyVector>())) VectorDefinition(place, symbol).Run();
 }

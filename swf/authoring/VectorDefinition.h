@@ -28,6 +28,9 @@ struct DefinitionPlace {
 /// The drawing has shapes to define.
 bool HasShapes(const clsPropertyVector& record);
 
+/// The drawing has a radial gradient whose focus lies beside its centre.
+bool HasFocalGradient(const clsPropertyVector& record);
+
 /// Writes the definitions of a vector symbol in the form that its `DefineNum` selects, and sets its
 /// `DefineID` to the last of them. A divided symbol has one for each shape in its plain form. A
 /// drawing without shapes has none.

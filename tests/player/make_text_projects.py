@@ -51,6 +51,9 @@ for name, version in (("text-input", 6), ("text-input-swf4", 4), ("text-input-sw
     write(name, version, [text(1, "", field=FIELD, embed="|", box=(160, 50), automatic=False)], ["0"], [placed(1, at)])
 write("text-field", 8, [text(1, "■■", field=FIELD, embed="■一", box=(160, 50), automatic=False, colour=(0, 0, 255))], ["0"],
       [placed(1, at)])
+# Three lines of an output field, in a box that the program measures: 40 pixels from one to the next.
+OUTPUT = ["False", "False", "False", "True", "False", "False", "False", ""]
+write("text-field-lines", 6, [text(1, "■\r\n■\r\n■", field=OUTPUT, embed="■")], ["0"], [placed(1, at)])
 
 # Half-width kana are half as wide: U+25A0 begins 2 x 18.59 pixels on, as behind one full-width character. The order of the codes
 # differs: A6 to DF come before all of two bytes below version 6, and behind kanji from it on.

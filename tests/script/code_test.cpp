@@ -123,6 +123,8 @@ TEST(Code, OfBuiltInFunctionsIsTheirAction) {
         {4, "fscommand(\"a\", \"b\");", "83 0E 00 46 53 43 6F 6D 6D 61 6E 64 3A 61 00 62 00"},
         {4, "call(\"x\");", "96 03 00 00 78 00 9E 00 00"},
         {4, "tellTarget(\"c\") { stop(); }", "8B 02 00 63 00 07 8B 01 00 00"},
+        {5, "tellTarget(\"c\") { x = _name; }",
+         "8B 02 00 63 00 96 0A 00 00 78 00 00 00 07 0D 00 00 00 22 1D 8B 01 00 00"},
         {4, "/c/stop();", "8B 03 00 2F 63 00 07 8B 01 00 00"},
         {4, "ifFrameLoaded(2) { play(); }", "8A 03 00 01 00 01 99 02 00 05 00 99 02 00 01 00 06"},
         {5, "duplicateMovieClip(\"a\", \"b\", 1);", "96 0B 00 00 61 00 00 62 00 07 01 40 00 00 24"},
@@ -175,6 +177,33 @@ TEST(Code, OfVersion7HasFunctionsWithRegistersExceptionsAndCasts) {
         {7, "x = MovieClip(a);",
          "96 06 00 00 78 00 00 61 00 1C 96 0B 00 00 4D 6F 76 69 65 43 6C 69 70 00 1C 4D 2B 1D"},
     });
+}
+
+TEST(Code, OfADeclarationWithAPathSetsWhereItLeads) {
+    const CodeCase cases[] = {
+        {4, "var /:v = \"x\";", "/:v = \"x\";"},
+        {4, "var a.v = 1, ../b:w = 2;", "a.v = 1; ../b:w = 2;"},
+        {5, "var _root.v = 1;", "_root.v = 1;"},
+        {5, "var a:b = 1;", "var a = 1;"},
+        {6, "var a.b.c:Number = 1, d;", "a.b.c = 1; var d;"},
+        {6, "var this.v = 1;", "this.v = 1;"},
+        {8, "var a/b:v:Number = 1;", "a/b:v = 1;"},
+        {8, "var _root.v; var /:v;", ""},
+        {6, "for (var a.k in o) ;", "for (a.k in o) ;"},
+        {5, "function /:f(a) { b(); }", "/:f = function (a) { b(); };"},
+        {7, "function a:f(a) { b(); }", "a:f = function (a) { b(); };"},
+        {8, "c(); function _root.f() { }", "_root.f = function () { }; c();"},
+        {6, "a = {}; function a.f() { }", "a = {}; a.f = function () { };"},
+        {7, "function f(a) { var a.b = 1; }", "function f(a) { a.b = 1; }"},
+        {7, "function f() { g(); function this.h() { } }",
+         "function f() { this.h = function () { }; g(); }"},
+    };
+    for (const CodeCase& path : cases) {
+        EXPECT_NE(Compiled(path.Source, path.Version), "not compiled") << path.Source;
+        EXPECT_EQ(Compiled(path.Source, path.Version), Compiled(path.Code, path.Version))
+            << path.Source;
+    }
+    EXPECT_EQ(Compiled("var /:v = \"x\";", 5), "96 08 00 00 2F 3A 76 00 00 78 00 1D");
 }
 
 TEST(Code, IsNotMadeOfWhatHasNoEffectOrCannotBeReached) {

@@ -5,9 +5,8 @@
 namespace tamber {
 namespace {
 
-/// The field that stands for a static text in a font of the player's own, 30 by 50 pixels.
-clsSWFTagDefineEditText LockedField(Long version, Long alignment) {
-    mdlSWFTag::swfVersion(version);
+/// A text in a font of the player's own, 30 by 50 pixels.
+clsSymbolData DeviceText() {
     clsSymbolData symbol(KindText);
     auto& text = *symbol.Property<clsPropertyText>();
     text.FontName = u"_sans";
@@ -15,9 +14,13 @@ clsSWFTagDefineEditText LockedField(Long version, Long alignment) {
     text.InitialText = u"a\r\nb";
     text.VariableName = u"v";
     text.blInput = true;
-    text.Alignment = alignment;
     text.Width = 30;
     text.height = 50;
+    return symbol;
+}
+
+/// The field that it becomes.
+clsSWFTagDefineEditText FieldOf(clsSymbolData& symbol) {
     clsSWFAdmin admin;
     admin.inFontAdmin = std::make_shared<clsFontAdmin>();
     admin.inFontAdmin->CinFontObject(u"_sans_");
@@ -38,7 +41,10 @@ TEST(TextDefinition, static_text_in_the_players_own_font_is_a_locked_field_with_
                  {6, 0, 680, 1080},
                  {8, 1, 680, 1080}};
     for (const auto& expected : cases) {
-        const auto field = LockedField(expected.Version, expected.Alignment);
+        mdlSWFTag::swfVersion(expected.Version);
+        clsSymbolData symbol = DeviceText();
+        symbol.Property<clsPropertyText>()->Alignment = expected.Alignment;
+        const auto field = FieldOf(symbol);
         SCOPED_TRACE(expected.Version * 10 + expected.Alignment);
         EXPECT_EQ(field.Width, expected.Width);
         EXPECT_EQ(field.height, expected.Height);
@@ -47,6 +53,20 @@ TEST(TextDefinition, static_text_in_the_players_own_font_is_a_locked_field_with_
         EXPECT_TRUE(field.blAutoSize && field.blReadOnly && field.blNoSelect && field.blMultiLine);
         EXPECT_FALSE(field.blUseOutLines);
         EXPECT_EQ(field.VariableName, u"");
+    }
+}
+
+TEST(TextDefinition, each_line_of_a_dynamic_text_ends_once) {
+    mdlSWFTag::swfVersion(6);
+    for (const StringView told : {u"a\r\nb\r\n\r\nc", u"a\rb\r\rc", u"a\nb\n\nc"}) {
+        clsSymbolData symbol = DeviceText();
+        auto& text = *symbol.Property<clsPropertyText>();
+        text.blDynamic = true;
+        text.InitialText = told;
+        const auto field = FieldOf(symbol);
+        EXPECT_EQ(field.InitialText, u"a\nb\n\nc");
+        EXPECT_FALSE(field.blReadOnly);
+        EXPECT_EQ(text.InitialText, told);
     }
 }
 

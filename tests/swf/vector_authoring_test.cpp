@@ -74,6 +74,27 @@ TEST_F(VectorAuthoringTest, a_pair_that_cannot_morph_is_told_and_stays_plain) {
     EXPECT_EQ(interface.Messages[0].Text, u"モーフィングできませんでした。[ID：1→ID：2]");
 }
 
+TEST_F(VectorAuthoringTest, a_gradient_with_a_focus_is_told_once_below_version_8) {
+    const auto symbol = AddVector(2);
+    symbol->FilePathName = u"/d/玉.svg";
+    symbol->Property<clsPropertyVector>()->inVector->ShapeDataTbl(2)->colFillStyles->emplace_back(
+        clsSWFTFillStyle::Focal);
+    const auto layer = AddLayer(symbol);
+    AddKeyFrame(*layer, 1, 1);
+    Bend(AddKeyFrame(*layer, 2, 1));
+    const auto mask = AddLayer(symbol);
+    mask->ClippingDepth = 1;
+    AddKeyFrame(*mask, 1, 2);
+    Build(7);
+    ASSERT_EQ(interface.Messages.size(), 1u);
+    EXPECT_EQ(interface.Messages[0].Text,
+              u"焦点をずらした円形グラデーションはSWF8以降の機能です。\r\n"
+              u"SWF7では正しく表示されません。\r\nベクタ（玉.svg）");
+    interface.Messages.clear();
+    Build(8);
+    EXPECT_TRUE(interface.Messages.empty());
+}
+
 TEST_F(VectorAuthoringTest, a_koma_shows_the_start_of_a_morph) {
     const auto from = AddVector(1);
     from->Property<clsPropertyVector>()->MorphSymbol(AddVector(1));

@@ -324,6 +324,21 @@ TEST(SvgStyle, makes_lines_as_wide_as_their_transformations_say) {
     EXPECT_TRUE(shapes[3]->colLineStyles->empty());
 }
 
+TEST(SvgStyle, goes_without_attributes_that_have_no_value_between_double_quotes) {
+    const clsVector vector = Read(R"~(<svg><g fill="red" stroke="blue" stroke-width="2">
+        <rect width="1" height="1" opacity='0.5' fill='none' stroke-width='3' style='fill:none'/>
+        <rect width="1" height="1" opacity=0.5 fill stroke-width = stroke="lime"/></g></svg>)~");
+    const auto& shapes = vector.inVector->colShapeData;
+    ASSERT_EQ(shapes.size(), 2u);
+    for (const auto& shape : shapes) {
+        EXPECT_EQ(SolidOf(*shape), static_cast<Long>(0xFF0000FF));
+        ASSERT_EQ(shape->colLineStyles->size(), 1u);
+        EXPECT_EQ(shape->colLineStyles->at(0).Width, 40);
+    }
+    EXPECT_EQ(shapes[0]->colLineStyles->at(0).Color, static_cast<Long>(0xFFFF0000));
+    EXPECT_EQ(shapes[1]->colLineStyles->at(0).Color, static_cast<Long>(0xFF00FF00));
+}
+
 TEST(SvgSize, comes_from_the_sides_the_box_or_the_shapes) {
     struct {
         const char* Root;
@@ -538,6 +553,60 @@ TEST(SvgLeftOut, names_each_feature_once_in_the_order_met) {
     // The quotes are met by the first pass already.
     EXPECT_EQ(vector.LeftOut, expected);
     EXPECT_TRUE(Read(OneLine).LeftOut.empty());
+}
+
+TEST(SvgLeftOut, names_the_order_of_transformations_where_another_would_show) {
+    const struct {
+        const char* Body;
+        bool IsNamed;
+    } cases[] = {
+        {R"~(<line x2="1" transform="translate(1) scale(2)"/>)~", true},
+        {R"~(<g transform="scale(2)"><line x2="1" transform="translate(1)"/></g>)~", false},
+        {R"~(<g transform="scale(2)"><g transform="translate(1)"><line x2="1"/></g></g>)~", true},
+        {R"~(<g transform="scale(2)"><use xlink:href="#a" x="1"/></g>)~", true},
+        {R"~(<g transform="scale(2)"><line id="a" x2="1"/></g>)~", false},
+        {R"~(<line x2="1" transform="translate(1) translate(2,3)"/>)~", false},
+        {R"~(<line x2="1" transform="scale(2) scale(3,4)"/>)~", false},
+        {R"~(<line x2="1" transform="scale(2) rotate(30)"/>)~", false},
+        {R"~(<line x2="1" transform="scale(2,3) rotate(30)"/>)~", true},
+        {R"~(<line x2="1" transform="rotate(30) scale(2,3) rotate(-30) rotate(30)"/>)~", true},
+        {R"~(<line x2="1" transform="rotate(10 5 7.01) rotate(20 5 7.01)"/>)~", false},
+        {R"~(<line x2="1" transform="rotate(10 5 7) rotate(20 5 50)"/>)~", true},
+        {R"~(<line x2="1" transform="translate(0.001) rotate(20)"/>)~", false},
+        {R"~(<line transform="translate(1) scale(2)"/>)~", false},
+    };
+    for (const auto& item : cases) {
+        const clsVector vector = Read(
+            "<svg width=\"9\" height=\"9\"><defs><line id=\"a\" x2=\"1\"/>"
+            "</defs><line x2=\"1\"/>" +
+            std::string(item.Body) + "</svg>");
+        const std::vector<String> named{u"変換の順序"};
+        EXPECT_EQ(vector.LeftOut, item.IsNamed ? named : std::vector<String>()) << item.Body;
+    }
+    const struct {
+        const char* Gradient;
+        bool IsNamed;
+    } gradients[] = {
+        {R"~(gradientTransform="rotate(90)")~", false},
+        {R"~(gradientTransform="translate(0.5)")~", true},
+        {R"~(gradientTransform="scale(2) translate(1)" gradientUnits="userSpaceOnUse")~", true},
+        {R"~(gradientTransform="translate(1)" gradientUnits="userSpaceOnUse")~", false},
+    };
+    for (const auto& item : gradients) {
+        const clsVector vector =
+            Read("<svg><linearGradient id=\"a\" " + std::string(item.Gradient) +
+                 "><stop/><stop offset=\"1\"/></linearGradient>"
+                 "<rect width=\"9\" height=\"9\" fill=\"url(#a)\"/></svg>");
+        EXPECT_EQ(vector.LeftOut.size(), item.IsNamed ? 1u : 0u) << item.Gradient;
+    }
+    // The box is fitted before the group's shift, which it should have scaled.
+    EXPECT_EQ(Read(R"~(<svg width="9" viewBox="0 0 3 3"><g transform="translate(1)">
+        <line x2="1"/></g></svg>)~")
+                  .LeftOut.size(),
+              1u);
+    EXPECT_TRUE(Read(R"~(<svg width="9" viewBox="0 0 9 9"><g transform="translate(1)">
+        <line x2="1"/></g></svg>)~")
+                    .LeftOut.empty());
 }
 
 std::string Repeated(std::string_view part, std::size_t count) {

@@ -166,6 +166,40 @@ TEST(SwfReader, bitmaps_are_kept_whole_and_a_missing_one_leaves_the_other_fills_
     EXPECT_EQ(ShapeTexts(vector), "a1 b1 M0,0 L0,1 a2 b2 L0,2 a1 b1 L0,3\n");
 }
 
+TEST(SwfReader, pictures_of_the_first_format_get_the_tables_of_the_movie) {
+    const auto bytes = [](const Bytes& list) {
+        Maker maker;
+        for (const Byte byte : list) maker.Low(1, byte);
+        return maker;
+    };
+    const struct {
+        Bytes Tables;
+        Bytes Picture;
+        Bytes Joined;
+    } cases[] = {
+        {{0xFF, 0xD8, 0xFF, 0xDB, 1, 0xFF, 0xD9},
+         {0xFF, 0xD8, 0xFF, 0xC0, 2, 0xFF, 0xD9},
+         {0xFF, 0xD8, 0xFF, 0xDB, 1, 0xFF, 0xC0, 2, 0xFF, 0xD9}},
+        // With what old writers put in front.
+        {{0xFF, 0xD9, 0xFF, 0xD8, 0xFF, 0xD8, 1, 0xFF, 0xD9},
+         {0xFF, 0xD9, 0xFF, 0xD8, 0xFF, 0xD8, 2, 0xFF, 0xD9},
+         {0xFF, 0xD8, 1, 2, 0xFF, 0xD9}},
+        {{}, {0xFF, 0xD8, 2, 0xFF, 0xD9}, {0xFF, 0xD8, 2, 0xFF, 0xD9}},
+        {{0xFF, 0xD8, 0xFF, 0xD9}, {0xFF, 0xD8, 2, 0xFF}, {0xFF, 0xD8, 2, 0xFF}},
+        {{0xFF, 0xD8, 1}, {}, {0xFF, 0xD8, 1}},
+    };
+    for (const auto& c : cases) {
+        Maker movie;
+        movie.Tag(8, bytes(c.Tables)).Tag(6, Maker().Low(2, 9).Add(bytes(c.Picture)));
+        clsVector vector;
+        ASSERT_TRUE(ReadSwfBytes(Movie(movie.Add(RedShape(1, 1)).Add(Place(1, 1))), vector));
+        ASSERT_EQ(vector.inVector->colBitmap.size(), 1u);
+        EXPECT_EQ(vector.inVector->colBitmap[0]->TagNum(), 21);
+        EXPECT_EQ(vector.inVector->colBitmap[0]->ID, 9);
+        EXPECT_EQ(vector.inVector->colBitmap[0]->bufBitmap, c.Joined);
+    }
+}
+
 TEST(SwfReader, line_styles_of_the_fourth_format_keep_their_options) {
     Maker styles;
     styles.Low(1, 0).Low(1, 3);
@@ -293,6 +327,65 @@ TEST(SwfReader, what_the_first_frame_shows_comes_in_the_order_of_depths) {
     }
     clsVector vector;
     EXPECT_FALSE(ReadSwfBytes(Movie(Maker().Tag(9, Maker().Low(3, 0))), vector));
+}
+
+TEST(SwfLeftOut, names_what_the_first_frame_has_besides_shapes_that_are_moved) {
+    const auto place2 = [](int flags, const Maker& rest) {
+        return Maker().Tag(
+            26, Maker().Low(1, static_cast<unsigned>(flags)).Low(2, 5).Low(2, 1).Add(rest));
+    };
+    const auto place3 = [](unsigned flags3) {
+        return Maker().Tag(70, Maker().Low(1, 2).Low(1, flags3).Low(2, 5).Low(2, 1));
+    };
+    const auto other = [](int code) {
+        return Maker().Tag(code, Maker().Low(2, 9).Low(4, 0)).Add(Place(9, 3));
+    };
+    const Maker moved = Maker().Bits(2, 0).Move(3, 4);
+    const Maker turned = Maker().Bits(2, 1).Bits(5, 2).Bits(4, 5).Move(3, 4);
+    const struct {
+        Maker Tags;
+        std::vector<String> Names;
+    } cases[] = {
+        {place2(2 | 4, moved), {}},
+        {place2(2 | 4 | 8, Maker(moved).Low(1, 0x04)), {}},
+        {place2(2 | 4 | 8, Maker(moved).Low(4, 0x40)), {u"配置のカラー変換"}},
+        {place2(2 | 4, turned), {u"配置の拡大縮小や回転"}},
+        {Place(1, 1), {u"配置の拡大縮小や回転"}},
+        {place2(2 | 64, {}), {u"クリッピング"}},
+        {place2(2, {}).Tag(26, Maker().Low(1, 1 | 4).Low(2, 5).Add(turned)),
+         {u"配置の拡大縮小や回転"}},
+        {place2(2, {}).Add(Maker().Tag(26, Maker().Low(1, 2).Low(2, 6).Low(2, 1))),
+         {u"同じ図形の再度の配置"}},
+        {Maker().Tag(4, Maker().Low(2, 1).Low(2, 1).Add(moved)), {}},
+        {Maker().Tag(4, Maker().Low(2, 1).Low(2, 1).Add(moved).Low(2, 0x80)),
+         {u"配置のカラー変換"}},
+        {place3(0), {}},
+        {place3(1), {u"フィルタ"}},
+        {place3(2), {u"ブレンドモード"}},
+        {place3(8), {u"クラス名での配置"}},
+        {other(39), {u"スプライト"}},
+        {other(7).Add(other(34)), {u"ボタン"}},
+        {other(11), {u"テキスト"}},
+        {other(33), {u"テキスト"}},
+        {other(37), {u"テキスト"}},
+        {other(46), {u"モーフィング"}},
+        {other(60), {u"動画"}},
+        {Maker().Tag(39, Maker().Low(2, 9)), {}},
+        {Maker().Tag(12, {}).Tag(15, {}).Tag(12, {}).Tag(28, Maker().Low(2, 1)),
+         {u"スクリプト", u"サウンド", u"配置の取り消し"}},
+        {Maker().Tag(1, {}).Tag(12, {}), {}},
+    };
+    for (const auto& c : cases) {
+        clsVector vector;
+        EXPECT_TRUE(ReadSwfBytes(Movie(RedShape(1, 1).Add(c.Tags)), vector));
+        EXPECT_EQ(vector.LeftOut, c.Names) << &c - std::begin(cases);
+    }
+    Bytes movie = Movie(RedShape(1, 1));
+    constexpr std::size_t FrameCountAt = 8 + 9 + 2;
+    movie[FrameCountAt] = 2;
+    clsVector vector;
+    EXPECT_TRUE(ReadSwfBytes(movie, vector));
+    EXPECT_EQ(vector.LeftOut, std::vector<String>{u"2フレーム目以降"});
 }
 
 /// The compressed form; `length` is what its header tells.

@@ -64,6 +64,11 @@ for (var t = 0; t < 3; t++) { tellTarget("clip") { if (t == 1) break; } }
 trace(_target);              //= /
 tellTarget("clip") { tellTarget("/") { trace(_target); } trace(_name); } //= /
                              //= clip
+tellTarget("/nowhere") { trace(typeof(_name) + typeof(_x)); } //= undefinedundefined
+tellTarget("clip") { _x = 10; _x += 5; _x++; trace(_x++ + "," + (_x -= 7) + "," + _x); } //= 16,10,10
+function ownProperty(_alpha) { var _y = 8; tellTarget("clip") { return _alpha + _y + _x; } }
+trace(ownProperty(1));       //= 19
+tellTarget("clip") { with ({_name: "within"}) { trace(_name + _x); } } //= within10
 //@ frame 2
 trace("frame 2");            //= frame 2
 go();

@@ -77,6 +77,8 @@ n == 3 && (w = 7); n == 3 || (w = 8); trace(w); //= 7
 trace(1 + (n && w) * 2); //=4-4 3
                      //=5+ 19
 call("f3");          //= frame 3
+var /clip:told = "t", _root.u = 5, clip/../:w;
+trace(/clip:told add u add _root.u); //= t55
 //@ frame 2
 trace("frame 2");    //= frame 2
 gotoAndPlay("f4");
