@@ -31,6 +31,7 @@ FLOORS = [
     "canvas/picture",
     "output",
     "app/settings",
+    "app/tasks",
     "app/session",
     "app/operations",
     "app/controller",
