@@ -18,9 +18,6 @@ class clsPropertySprite;
 inline constexpr Long LinkVersion = 5;
 inline constexpr Long ScalingGridVersion = 8;
 
-/// Kinds of symbols that this generation can put on a timeline.
-bool CanPlace(Long kind);
-
 /// A timeline being walked: its tags, and where its positions are counted from.
 struct Timeline {
     clsSWFAdmin& Admin;
@@ -101,6 +98,7 @@ private:
     bool IsGated(const clsLayer& layer) const;
     void LeaveOut(const clsLayer& layer);
     void LeaveOutKomas(const clsLayer& layer);
+    void LeaveOutStates(const clsLayer& layer);
     void ShowProgress(Long done, Long total) const;
 
     const MovieRequest& request_;
