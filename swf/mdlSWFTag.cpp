@@ -212,9 +212,8 @@ Long ToColorField(std::int64_t value) {
     return static_cast<Long>(std::clamp<std::int64_t>(value, -0x4000, 0x3FFF));
 }
 
-void SetMatrixTransform(Single scaleX, Single scaleY, Single angle, SwfPoint translate,
-                        SwfPoint centre, Single skewX, Single skewY) {
-    SetAlign();
+SwfTransform ComposeTransform(Single scaleX, Single scaleY, Single angle, SwfPoint translate,
+                              SwfPoint centre, Single skewX, Single skewY) {
     const auto radians = static_cast<Single>(static_cast<double>(angle) * Pi / 180.0);
     const auto s = static_cast<Single>(std::sin(static_cast<double>(radians)));
     const auto c = static_cast<Single>(std::cos(static_cast<double>(radians)));
@@ -244,11 +243,33 @@ void SetMatrixTransform(Single scaleX, Single scaleY, Single angle, SwfPoint tra
         px = xa + yc;
         py = xb + yd;
     }
-    const Long translateX = ToField(static_cast<double>(px) + translate.X);
-    const Long translateY = ToField(static_cast<double>(py) + translate.Y);
-    SetOptionalPair(a != 1.0f || d != 1.0f, ToFixed(a), ToFixed(d));
-    SetOptionalPair(b != 0 || cc != 0, ToFixed(b), ToFixed(cc));
-    SetPair(translateX, translateY);
+    return {a,
+            d,
+            b,
+            cc,
+            {ToField(static_cast<double>(px) + translate.X),
+             ToField(static_cast<double>(py) + translate.Y)}};
+}
+
+void ClampToField(SwfTransform& m) {
+    // The next Single below 16384 is 2 ^ -10 less.
+    constexpr Single Lowest = -16384.0f;
+    constexpr Single Highest = 16384.0f - 0.0009765625f;
+    for (Single* term : {&m.ScaleX, &m.ScaleY, &m.RotateSkew0, &m.RotateSkew1})
+        *term = std::clamp(*term, Lowest, Highest);
+}
+
+void SetTransform(const SwfTransform& m) {
+    SetAlign();
+    SetOptionalPair(m.ScaleX != 1.0f || m.ScaleY != 1.0f, ToFixed(m.ScaleX), ToFixed(m.ScaleY));
+    SetOptionalPair(m.RotateSkew0 != 0 || m.RotateSkew1 != 0, ToFixed(m.RotateSkew0),
+                    ToFixed(m.RotateSkew1));
+    SetPair(m.Translate.X, m.Translate.Y);
+}
+
+void SetMatrixTransform(Single scaleX, Single scaleY, Single angle, SwfPoint translate,
+                        SwfPoint centre, Single skewX, Single skewY) {
+    SetTransform(ComposeTransform(scaleX, scaleY, angle, translate, centre, skewX, skewY));
 }
 
 void SetCXFormWithAlpha(const SwfColorTransform& t) {

@@ -47,6 +47,15 @@ struct SwfPoint {
     bool operator==(const SwfPoint&) const = default;
 };
 
+/// A MATRIX before its terms become fixed point; the translation in twips.
+struct SwfTransform {
+    Single ScaleX = 1;
+    Single ScaleY = 1;
+    Single RotateSkew0 = 0;
+    Single RotateSkew1 = 0;
+    SwfPoint Translate;
+};
+
 /// The byte and bit stream through which every tag is written, and movies are read back. One buffer
 /// and one cursor a thread: two threads may each build a movie.
 namespace mdlSWFTag {
@@ -144,8 +153,15 @@ void SetTagHeader(Long tagCode, Long length, bool blLong);
 void SetEndTag();
 void SetRect(Long xMin, Long xMax, Long yMin, Long yMax);
 void SetMatrix(const SwfMatrix& matrix);
-/// MATRIX composed of scale, rotation in degrees, translation and centre in twips, and skews as
-/// tangents; each product is rounded to Single.
+/// Composed of scale, rotation in degrees, translation and centre in twips, and skews as tangents;
+/// each product is rounded to Single.
+SwfTransform ComposeTransform(Single scaleX, Single scaleY, Single angle, SwfPoint translate,
+                              SwfPoint centre, Single skewX, Single skewY);
+/// Cuts the terms to what a field of 31 bits holds: five bits tell no wider one.
+void ClampToField(SwfTransform& transform);
+/// MATRIX of a composed transform. A term beyond 16384 takes 32 bits.
+void SetTransform(const SwfTransform& transform);
+/// SetTransform of ComposeTransform.
 void SetMatrixTransform(Single scaleX, Single scaleY, Single angle, SwfPoint translate,
                         SwfPoint centre, Single skewX, Single skewY);
 void SetCXFormWithAlpha(const SwfColorTransform& transform);

@@ -20,9 +20,6 @@ inline constexpr Long ScalingGridVersion = 8;
 /// Version of the movie from which players know gradients with a focus of their own.
 inline constexpr Long FocalVersion = 8;
 
-/// Kinds of symbols that this generation can put on a timeline.
-bool CanPlace(Long kind);
-
 /// A timeline being walked: its tags, and where its positions are counted from.
 struct Timeline {
     clsSWFAdmin& Admin;
@@ -104,6 +101,7 @@ private:
     void LeaveOut(const clsLayer& layer);
     void LeaveOutKomas(const clsLayer& layer);
     void WarnOfFocus(const clsSymbolData& symbol);
+    void LeaveOutStates(const clsLayer& layer);
     void ShowProgress(Long done, Long total) const;
 
     const MovieRequest& request_;

@@ -12,7 +12,6 @@
 #include "platform/twips.h"
 #include "script/InitBlock.h"
 #include "swf/authoring/Authoring.h"
-#include "swf/authoring/ExportFrames.h"
 #include "swf/authoring/FitText.h"
 #include "swf/authoring/FramePlacement.h"
 #include "swf/authoring/MovieLimits.h"
@@ -26,6 +25,11 @@ namespace tamber {
 namespace {
 
 constexpr Long BitmapExportVersion = 8;
+
+/// Whether a symbol goes into a movie for its name, though nothing may place it.
+bool IsExported(const clsSymbolData& symbol) {
+    return symbol.blExportEx() && symbol.eType() != KindBackGround;
+}
 
 /// Kinds whose exports are not generated yet.
 bool LacksExport(Long kind) {
@@ -93,16 +97,15 @@ void Authoring::PreDefineFrameOne(clsSWFAdmin& admin) {
 }
 
 void Authoring::DefineExports(clsSWFAdmin& admin, Long mode) {
-    ExportFrames frames(*request_.Library, std::min(mode, 2));
-    std::vector<std::shared_ptr<clsSymbolData>> classes;
-    for (const auto& symbol : *request_.Library) {
-        if (!IsExported(*symbol)) continue;
-        if (symbol->eTypeEx() == KindClass)
-            classes.push_back(symbol);
-        else
-            DefineExport(admin, *symbol, frames.FrameOf(*symbol));
-    }
-    for (const auto& symbol : classes) DefineExport(admin, *symbol, frames.FrameOf(*symbol));
+    const auto define = [&](bool classes, bool onTop) {
+        for (const auto& symbol : *request_.Library)
+            if (IsExported(*symbol) && symbol->blExportTop == onTop &&
+                (symbol->eTypeEx() == KindClass) == classes)
+                DefineExport(admin, *symbol, onTop ? 1 : std::min(mode, 2));
+    };
+    // A part is defined once: those of what stands in frame 1 come before the late ones take them.
+    for (const bool classes : {false, true})
+        for (const bool onTop : {true, false}) define(classes, onTop);
 }
 
 void Authoring::DefineExport(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {

@@ -2,7 +2,6 @@
 #include <utility>
 
 #include "document/elements/SymbolKinds.h"
-#include "document/elements/clsLayerFolder.h"
 #include "document/elements/clsObjBackGround.h"
 #include "document/elements/clsObjFrameAction.h"
 #include "document/elements/clsObjFrameLabel.h"
@@ -14,6 +13,7 @@
 #include "swf/authoring/FramePlacement.h"
 #include "swf/authoring/LayerPlacement.h"
 #include "swf/authoring/MovieLimits.h"
+#include "swf/authoring/TimelineRows.h"
 #include "swf/authoring/VectorDefinition.h"
 
 namespace tamber {
@@ -24,31 +24,9 @@ constexpr Long TopDepth = 16383;
 constexpr Long BottomDepth = 257;
 constexpr Long MovieVersion = 6;
 
-bool IsPlaced(Long kind) {
-    return CanPlace(kind) || kind == KindMovie || kind == KindMovieEmp;
-}
-
-}  // namespace
-
-bool CanPlace(Long kind) {
-    switch (kind) {
-        case KindBitmap:
-        case KindText:
-        case KindVector:
-        case KindSprite:
-        case KindButton:
-        case KindKoma:
-        case KindLink:
-            return true;
-        default:
-            return false;
-    }
-}
-
-namespace {
-
-/// Buttons are made for layers, and komas have no character of their own.
-bool CanBeKoma(Long kind) {
+/// For a picture of a koma and a state of a button: buttons are made for layers, and komas have no
+/// character of their own.
+bool CanBePart(Long kind) {
     return CanPlace(kind) && kind != KindButton && kind != KindKoma;
 }
 
@@ -63,14 +41,9 @@ void Authoring::WriteTimeline(const Timeline& timeline) {
     const Long count = timeline.Layers.Count();
     const bool falling = request_.blTopToBottom;
     Long depth = falling ? TopDepth : BottomDepth;
-    for (Long i = 1; i <= count; ++i) {
-        const Long index = falling ? i : count + 1 - i;
-        if (timeline.IsMain()) ShowProgress(i - 1, count);
-        const clsLayer& layer = *timeline.Layers(index);
-        if (layer.Visible(true))
-            WriteLayer(timeline, index, depth);
-        else if (const clsLayerFolder* folder = falling ? layer.Folder() : nullptr)
-            i += std::clamp(folder->LayerCount, 0, count - i);
+    for (const Long index : WalkedRows(timeline.Layers, falling)) {
+        if (timeline.IsMain()) ShowProgress(falling ? index - 1 : count - index, count);
+        WriteLayer(timeline, index, depth);
     }
     if (timeline.IsMain()) ShowProgress(count, count);
 }
@@ -125,7 +98,7 @@ void Authoring::LeaveOut(const clsLayer& layer) {
 void Authoring::LeaveOutKomas(const clsLayer& layer) {
     const auto& komas = *layer.SymbolData()->Property<clsPropertyKoma>()->colKomas;
     const bool whole = std::all_of(komas.begin(), komas.end(),
-                                   [](const auto& koma) { return CanBeKoma(koma->eType()); });
+                                   [](const auto& koma) { return CanBePart(koma->eType()); });
     if (whole || !leftOut_.insert(&layer).second) return;
     ShowMessage(
         u"生成に対応していない種類のコマがあります。\r\nコマ動画（" + layer.LayerNameView() + u"）",
@@ -143,12 +116,24 @@ void Authoring::WarnOfFocus(const clsSymbolData& symbol) {
                 ProgramTitle, MessageIcon::Warning);
 }
 
+void Authoring::LeaveOutStates(const clsLayer& layer) {
+    const auto& button = *layer.SymbolData()->Property<clsPropertyButton>();
+    const auto whole = [](const auto& state) { return !state || CanBePart(state->eType()); };
+    if ((whole(button.UpSymbol()) && whole(button.OverSymbol()) && whole(button.DownSymbol()) &&
+         whole(button.HitTestSymbol())) ||
+        !leftOut_.insert(&layer).second)
+        return;
+    ShowMessage(
+        u"生成に対応していない種類の状態があります。\r\nボタン（" + layer.LayerNameView() + u"）",
+        ProgramTitle, MessageIcon::Warning);
+}
+
 void Authoring::WriteLayer(const Timeline& timeline, Long index, Long& depth) {
     const clsLayer& layer = *timeline.Layers(index);
     const Long kind = layer.SymbolData()->eType();
     if (IsGated(layer)) return;
     if (snapshot_ == nullptr) WriteUnplaced(timeline, layer);
-    const Long depths = IsPlaced(kind) ? layer.DepthCnt(true) : 0;
+    const Long depths = TakesDepths(kind) ? layer.DepthCnt(true) : 0;
     if (depths == 0) return;
     if (request_.blTopToBottom) depth -= depths - 1;
     if (!CanPlace(kind))
@@ -240,6 +225,7 @@ void Authoring::Place(const Timeline& timeline, Long index, const LayerCharacter
 
 Long Authoring::DefineButton(const Timeline& timeline, const clsLayer& layer, Long depth) {
     if (layer.ObjectCount() == 0) return 0;
+    LeaveOutStates(layer);
     auto& button = *layer.SymbolData()->Property<clsPropertyButton>();
     const Long start = snapshot_ == nullptr ? layer.Object(1)->StartFrame() : LateFrame();
     const Long frame = timeline.IsMain() ? start : timeline.SpriteFrame;

@@ -1,8 +1,11 @@
 #include "swf/authoring/MovieLimits.h"
 
+#include "document/edit/SymbolReferences.h"
+#include "document/elements/SymbolKinds.h"
 #include "document/records/clsPropertySprite.h"
 #include "platform/text.h"
 #include "swf/authoring/LayerCharacter.h"
+#include "swf/authoring/TimelineRows.h"
 #include "swf/mdlSWFTag.h"
 
 namespace tamber {
@@ -16,17 +19,12 @@ bool FitsFrames(const clsLayerObject& object) {
 
 /// Key frames that hide nothing count too: they may be shown at any time.
 bool FitsFrames(const Collection<clsLayer>& layers) {
-    for (const auto& layer : layers)
+    for (const auto& layer : layers) {
+        if (!layer->Visible(true)) continue;
         for (const auto& object : layer->colObject)
             if (!FitsFrames(*object)) return false;
+    }
     return true;
-}
-
-std::int64_t DepthsOf(const Collection<clsLayer>& layers) {
-    std::int64_t depths = 0;
-    for (const auto& layer : layers)
-        if (layer->Visible(true)) depths += layer->DepthCnt(true);
-    return depths;
 }
 
 std::int64_t PlacementsOf(const clsLayer& layer) {
@@ -37,27 +35,61 @@ std::int64_t PlacementsOf(const clsLayer& layer) {
     return placements;
 }
 
-std::int64_t PlacementsOf(const Collection<clsLayer>& layers) {
-    std::int64_t placements = 0;
-    for (const auto& layer : layers)
-        if (layer->Visible(true) && layer->DepthCnt(true) > 0) placements += PlacementsOf(*layer);
-    return placements;
-}
+using LayerTables = std::vector<const Collection<clsLayer>*>;
+
+/// The timelines that are generated: the movie's and those of the sprites that it shows or exports.
+class GeneratedTimelines {
+public:
+    explicit GeneratedTimelines(const MovieRequest& request) {
+        Take(*request.Layers);
+        if (request.blExports)
+            for (const auto& symbol : *request.Library)
+                if (symbol->blExportEx()) open_.push_back(symbol.get());
+        while (!open_.empty()) {
+            const clsSymbolData* symbol = open_.back();
+            open_.pop_back();
+            if (symbol != nullptr && known_.insert(symbol).second) TakePartsOf(*symbol);
+        }
+    }
+
+    const LayerTables& Tables() const { return tables_; }
+
+private:
+    void Take(const Collection<clsLayer>& layers) {
+        tables_.push_back(&layers);
+        for (const auto& layer : layers)
+            if (layer->Visible(true)) open_.push_back(layer->SymbolData().get());
+    }
+    void TakePartsOf(const clsSymbolData& symbol) {
+        if (const auto* sprite = symbol.Property<clsPropertySprite>())
+            Take(*sprite->colLayer);
+        else
+            for (const auto& part : ReferencesOf(symbol)) open_.push_back(part.get());
+    }
+
+    LayerTables tables_;
+    SymbolSet known_;
+    /// What is yet to be looked through.
+    std::vector<const clsSymbolData*> open_;
+};
 
 String TimelineFault(const MovieRequest& request) {
-    std::vector<const Collection<clsLayer>*> timelines{request.Layers};
-    for (const auto& symbol : *request.Library)
-        if (const auto* sprite = symbol->Property<clsPropertySprite>())
-            timelines.push_back(sprite->colLayer.get());
     std::int64_t placements = 0;
-    for (const auto* layers : timelines) {
+    const GeneratedTimelines timelines(request);
+    for (const auto* layers : timelines.Tables()) {
         if (!FitsFrames(*layers))
             return u"フレーム数が多すぎます。\r\nSWFファイルは" + ToText(MaxFrames) +
                    u"フレームまでです。";
-        if (DepthsOf(*layers) > MaxDepths)
+        std::int64_t depths = 0;
+        for (const Long row : WalkedRows(*layers, request.blTopToBottom)) {
+            const clsLayer& layer = *(*layers)(row);
+            if (!TakesDepths(layer.SymbolData()->eType()) || layer.DepthCnt(true) == 0) continue;
+            depths += layer.DepthCnt(true);
+            placements += PlacementsOf(layer);
+        }
+        if (depths > MaxDepths)
             return u"レイヤー数が多すぎます。\r\n表示できる深さは" + ToText(MaxDepths) +
                    u"までです。";
-        placements += PlacementsOf(*layers);
     }
     if (placements > MaxPlacements)
         return u"トゥイーンのフレームの合計が多すぎます。\r\n" + ToGroupedText(MaxPlacements) +

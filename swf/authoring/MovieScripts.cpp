@@ -169,7 +169,7 @@ std::vector<SwfEventActions> MovieScripts::ClipActions(const clsLayer& layer) {
         if (blMessages)
             ShowMessage(u"クリップアクションはSWF" + ToText(version) + u"では使用できません。\r\n" +
                             ClipPlace(layer),
-                        FaultTitle, MessageIcon::Warning);
+                        ProgramTitle, MessageIcon::Warning);
         return actions;
     }
     if (CompileEvents(actions, script, EventScript::Clip)) return actions;

@@ -21,6 +21,8 @@ namespace {
 
 constexpr std::size_t PlainHeaderSize = 8;
 constexpr std::size_t LengthPosition = 4;
+/// 8.8 fixed point.
+constexpr Long MaxRate = 0xFFFF;
 constexpr Long CompressionVersion = 5;
 constexpr Long AttributesVersion = 8;
 /// DefineShape4 and DefineMorphShape2 come with this version.
@@ -275,7 +277,7 @@ void clsSWFAdmin::SaveHeader() {
     mdlSWFTag::SetBytes(1, Ver);
     mdlSWFTag::SetBytes(4, 0);
     mdlSWFTag::SetRect(dimension_.xMin, dimension_.xMax, dimension_.yMin, dimension_.yMax);
-    mdlSWFTag::SetBytes(2, RoundToLong(static_cast<double>(FrameRate) * 256.0));
+    mdlSWFTag::SetBytes(2, std::min(RoundToLong(static_cast<double>(FrameRate) * 256.0), MaxRate));
     mdlSWFTag::SetBytes(2, FrameCount());
     if (Ver >= AttributesVersion) clsSWFTagFileAttributes().Save();
 }

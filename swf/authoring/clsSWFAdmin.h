@@ -3,7 +3,6 @@
 #include <memory>
 #include <vector>
 
-#include "swf/tags/clsSWFTagPlaceObject.h"
 #include "swf/authoring/clsSWFrame.h"
 #include "swf/tags/clsFontAdmin.h"
 #include "swf/tags/clsSWFTagDefineBitsJPEG.h"
@@ -11,6 +10,7 @@
 #include "swf/tags/clsSWFTagDefineScalingGrid.h"
 #include "swf/tags/clsSWFTagDefineShape.h"
 #include "swf/tags/clsSWFTagImport.h"
+#include "swf/tags/clsSWFTagPlaceObject.h"
 #include "vector/clsVectorData2.h"
 
 namespace tamber {

@@ -3,8 +3,8 @@
 #include "document/symbols/clsLayer.h"
 #include "document/symbols/clsSymbolData.h"
 #include "platform/Collection.h"
-#include "swf/tags/clsSWFTagPlaceObject.h"
 #include "swf/tags/clsFontAdmin.h"
+#include "swf/tags/clsSWFTagPlaceObject.h"
 
 namespace tamber {
 

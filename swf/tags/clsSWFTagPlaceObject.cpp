@@ -157,9 +157,13 @@ void clsSWFTagPlaceObject::SaveOne(Long offset) const {
     if (extended) mdlSWFTag::SetBytes(1, (blHasBlend_ ? 2 : 0) | (filterCount_ != 0 ? 1 : 0));
     mdlSWFTag::SetBytes(2, depth + offset);
     if (PlaceID != 0) mdlSWFTag::SetBytes(2, PlaceID + offset);
-    if (blHasMatrix)
-        mdlSWFTag::SetMatrixTransform(ScaleX, ScaleY, Rotate, {TranslateX, TranslateY},
-                                      {CtrlX, CtrlY}, TangentOf(SkewX), TangentOf(SkewY));
+    if (blHasMatrix) {
+        SwfTransform transform =
+            mdlSWFTag::ComposeTransform(ScaleX, ScaleY, Rotate, {TranslateX, TranslateY},
+                                        {CtrlX, CtrlY}, TangentOf(SkewX), TangentOf(SkewY));
+        mdlSWFTag::ClampToField(transform);
+        mdlSWFTag::SetTransform(transform);
+    }
     if ((flags & 8) != 0) mdlSWFTag::SetCXFormWithAlpha(Color);
     if (blHasRatio_) mdlSWFTag::SetBytes(2, ratio_);
     // Players look instance names up in the code page, whatever the version.

@@ -331,6 +331,59 @@ TEST_F(AuthoringTest, what_a_movie_file_cannot_hold_is_refused_before_anything_i
     EXPECT_EQ(Refusal(Request()).substr(0, 12), u"シンボル数が多すぎます。");
 }
 
+TEST_F(AuthoringTest, what_is_not_generated_is_within_every_limit) {
+    const auto picture = AddBitmap(1, 1);
+    const auto beyond = [&](clsLayer& layer) { AddKeyFrame(layer, 1, 70000).blTween = true; };
+    const auto unused = AddSymbol(std::make_shared<clsSymbolData>(KindSprite));
+    unused->Property<clsPropertySprite>()->colLayer->Add(LayerOf(picture));
+    beyond(*unused->Property<clsPropertySprite>()->colLayer->Item(1));
+    const auto hidden = AddLayer(picture);
+    beyond(*hidden);
+    hidden->Visible(true, false);
+    EXPECT_EQ(Build().Codes(), (std::vector<Long>{9, 1, 0}));
+    unused->blExport = true;
+    unused->ObjectName = u"a";
+    std::filesystem::remove(path);
+    EXPECT_EQ(Refusal(Request()).substr(0, 12), u"フレーム数が多すぎます。");
+    unused->blExport = false;
+
+    // As many rows as there are depths, and some that take none.
+    layers.Clear();
+    AddKeyFrame(*AddLayer(std::make_shared<clsSymbolData>(KindBackGround)), 1, 1);
+    const auto folder = AddLayer(std::make_shared<clsSymbolData>(KindLayerFolder));
+    AddKeyFrame(*folder, 1, 1);
+    folder->Folder()->LayerCount = 5;
+    folder->Visible(true, false);
+    for (Long i = 0; i < 5 + 16383; ++i) AddLayer(picture);
+    EXPECT_EQ(Build().Frames, 1);
+    blTopToBottom = false;
+    std::filesystem::remove(path);
+    EXPECT_EQ(Refusal(Request()).substr(0, 12), u"レイヤー数が多すぎます。");
+}
+
+TEST_F(AuthoringTest, a_placement_has_terms_that_a_matrix_can_tell) {
+    const auto layer = AddLayer(AddBitmap(1, 1));
+    clsLayerObjElement& placement = *AddKeyFrame(*layer, 1, 1, 2, 3).Placement();
+    // 290 times tan(89 degrees) is 16614; the greatest Single that takes 31 bits is 16384 - 2 ^
+    // -10.
+    placement.ScaleX(290);
+    placement.SkewX(89);
+    const SwfMatrix matrix = test::Places(Build())[0].Matrix;
+    EXPECT_EQ(matrix.ScaleX, 290 * 0x10000);
+    EXPECT_EQ(matrix.RotateSkew1, 0x3FFFFFC0);
+    EXPECT_EQ(matrix.TranslateX, 40);
+    placement.SkewX(-89);
+    EXPECT_EQ(test::Places(Build())[0].Matrix.RotateSkew1, -0x40000000);
+}
+
+TEST_F(AuthoringTest, the_highest_rate_fits_the_header) {
+    const UserInterfaceScope scope(interface);
+    MovieRequest request = Request();
+    request.FrameRate = 255.999f;
+    EXPECT_TRUE(mdlSWFAuthoring::BuildMovie(request));
+    EXPECT_EQ(test::ParseMovie(request.Path).Rate, 0xFFFF);
+}
+
 TEST_F(AuthoringTest, values_beyond_a_field_stay_within_it) {
     const auto layer = AddLayer(AddBitmap(1, 1));
     AddKeyFrame(*layer, 1, 1, 1e30f, -1e30f);

@@ -214,26 +214,29 @@ TEST_F(ScriptAuthoring, a_class_of_another_movie_gets_its_sprites_wherever_it_is
     EXPECT_TRUE(Build(5).Bodies(TagCode::DoAction).empty());
 }
 
-TEST_F(ScriptAuthoring, a_part_of_an_early_export_stands_before_a_late_one_that_has_it) {
-    const auto part = AddSprite();
-    const auto exported = [&](StringView name, bool onTop) {
+TEST_F(ScriptAuthoring, what_is_exported_on_the_top_is_defined_first_and_whole) {
+    const auto share = [&](StringView name, bool onTop,
+                           std::vector<std::shared_ptr<clsSymbolData>> parts) {
         const auto symbol = AddSprite();
-        const auto layer = LayerOf(part);
-        AddKeyFrame(*layer, 1, 1);
-        symbol->Property<clsPropertySprite>()->colLayer->Add(layer);
+        for (const auto& part : parts) {
+            const auto layer = LayerOf(part);
+            AddKeyFrame(*layer, 1, 1);
+            symbol->Property<clsPropertySprite>()->colLayer->Add(layer);
+        }
         symbol->blExport = true;
         symbol->blExportTop = onTop;
         symbol->ObjectName = name;
+        return symbol;
     };
-    exported(u"late", false);
-    exported(u"early", true);
-    const auto alone = AddSprite();
-    alone->blExport = true;
-    alone->blExportTop = false;
-    alone->ObjectName = u"alone";
+    const auto early = share(u"early", true, {});
+    const auto late = share(u"late", false, {});
+    share(u"both", false, {early, late});
+    share(u"top", true, {late});
     AddFrameAction(2, u"stop();");
-    // Part, late and early with their names, the first frame; the one by itself, the second.
-    EXPECT_EQ(Build().Codes(), (std::vector<Long>{9, 39, 39, 56, 39, 56, 1, 39, 56, 12, 1, 0}));
+    // Early, late for the top one, and that one; in the second frame the one that shows both.
+    EXPECT_EQ(Build().Codes(), (std::vector<Long>{9, 39, 56, 39, 56, 39, 56, 1, 39, 56, 12, 1, 0}));
+    library(4)->blExportTop = false;
+    EXPECT_EQ(Build().Codes(), (std::vector<Long>{9, 39, 56, 1, 39, 56, 39, 56, 39, 56, 12, 1, 0}));
 }
 
 TEST_F(ScriptAuthoring, a_layer_that_is_never_seen_takes_no_frame_and_has_no_faults) {
@@ -247,6 +250,24 @@ TEST_F(ScriptAuthoring, a_layer_that_is_never_seen_takes_no_frame_and_has_no_fau
     // The first frame has what its layers begin with.
     EXPECT_EQ(Build().Codes(), (std::vector<Long>{9, 39, 39, 26, 1, 0}));
     EXPECT_EQ(Texts(), std::vector<String>{});
+}
+
+TEST_F(ScriptAuthoring, a_button_with_a_state_that_has_no_character_is_told) {
+    const auto button = AddSymbol(std::make_shared<clsSymbolData>(KindButton));
+    auto& record = *button->Property<clsPropertyButton>();
+    record.UpSymbol(AddBitmap(4, 4));
+    AddKeyFrame(*AddLayer(button), 1, 1);
+    layers(1)->LayerName = u"釦";
+    Build();
+    EXPECT_EQ(Texts(), std::vector<String>{});
+    for (const Long kind : {KindKoma, KindButton}) {
+        record.UpSymbol(AddSymbol(std::make_shared<clsSymbolData>(kind)));
+        interface.Messages.clear();
+        Build();
+        EXPECT_EQ(Texts(), std::vector<String>{String(ProgramTitle) +
+                                               u"|生成に対応していない種類の状態があります。\r\n"
+                                               u"ボタン（釦）"});
+    }
 }
 
 TEST_F(ScriptAuthoring, an_exported_koma_is_no_fault) {
@@ -317,8 +338,9 @@ TEST_F(ScriptAuthoring, faults_are_told_and_the_movie_goes_on) {
         u"クリップアクション（玉）：ファイルが見つかりません。"));
     interface.Messages.clear();
     Build(4);
-    EXPECT_EQ(interface.Messages.back().Text,
-              u"クリップアクションはSWF4では使用できません。\r\nクリップアクション（玉）");
+    EXPECT_EQ(Texts().back(), String(ProgramTitle) +
+                                  u"|クリップアクションはSWF4では使用できません。\r\n"
+                                  u"クリップアクション（玉）");
 }
 
 }  // namespace
