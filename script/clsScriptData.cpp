@@ -1,13 +1,10 @@
 #include "script/clsScriptData.h"
 
-#include "document/cells/ProjectFileVersion.h"
 #include "platform/text.h"
 
 namespace tamber {
 
 namespace {
-
-constexpr Long VersionWithTargetPath = 0x50600;
 
 String Quoted(const String& text) {
     return u"\"" + text + u"\"";
@@ -84,31 +81,6 @@ String clsScriptData::PrevScript(Long length, Long swfVersion) const {
     if (cut) text.resize(limit);
     text = ReplaceAll(ReplaceAll(text, u"\t", u"    "), u"&", u"&&");
     return cut ? text + u"..." : text;
-}
-
-bool clsScriptData::Compare(const clsScriptData& other) const {
-    return mode_ == other.mode_ && nPrm1 == other.nPrm1 && nPrm2 == other.nPrm2 &&
-           strPrm1 == other.strPrm1 && strPrm2 == other.strPrm2 && ScriptText == other.ScriptText;
-}
-
-void clsScriptData::Load(clsCSV& csv) {
-    ScriptText = csv.TakeText();
-    mode_ = csv.TakeLong();
-    nPrm1 = csv.TakeLong();
-    nPrm2 = csv.TakeLong();
-    strPrm1 = csv.TakeText();
-    strPrm2 = csv.TakeText();
-    TargetPath = ProjectFileVersion >= VersionWithTargetPath ? csv.TakeText() : String();
-}
-
-void clsScriptData::Save(clsCSV& csv) const {
-    csv.Put(ScriptText);
-    csv.Put(mode_);
-    csv.Put(nPrm1);
-    csv.Put(nPrm2);
-    csv.Put(strPrm1);
-    csv.Put(strPrm2);
-    csv.Put(TargetPath);
 }
 
 }  // namespace tamber

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/cells/clsCSV.h"
+#include "document/cells/Fields.h"
 #include "platform/types.h"
 
 namespace tamber {
@@ -39,11 +39,25 @@ public:
     /// The script cut to `length` characters for a tool tip.
     String PrevScript(Long length, Long swfVersion) const;
     /// Target paths don't count.
-    bool Compare(const clsScriptData& other) const;
+    bool Compare(const clsScriptData& other) const { return SameFields(*this, other); }
     clsScriptData Copy() const { return *this; }
     void CopyTo(clsScriptData& target) const { target = *this; }
-    void Load(clsCSV& csv);
-    void Save(clsCSV& csv) const;
+    void Load(clsCSV& csv) { LoadFields(*this, csv); }
+    void Save(clsCSV& csv) const { SaveFields(*this, csv); }
+
+    static constexpr auto Fields() {
+        using T = clsScriptData;
+        constexpr FromVersion WithTargetPath(0x50600);
+        return std::tuple{
+            Field(u"Script", &T::ScriptText),
+            Field(u"eScriptMode", &T::mode_),
+            Field(u"nPrm1", &T::nPrm1),
+            Field(u"nPrm2", &T::nPrm2),
+            Field(u"strPrm1", &T::strPrm1),
+            Field(u"strPrm2", &T::strPrm2),
+            Group(WithTargetPath, Field(u"TargetPath", &T::TargetPath, Apart)),
+        };
+    }
 
 private:
     Long mode_ = ModeFree;

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "document/cells/clsCSV.h"
+#include "document/cells/Fields.h"
 #include "platform/types.h"
 
 namespace tamber {
@@ -23,6 +23,9 @@ public:
     virtual void CopyTo(clsElement& target, bool withPoints) const = 0;
     /// True when the other is of this kind and all its values agree.
     virtual bool Compare(const clsElement& other) const = 0;
+    /// Tells all values by name, as `SetField` takes them.
+    virtual void TellFields(const FieldSink& sink) const = 0;
+    virtual bool SetField(StringView name, StringView value) = 0;
     /// Placement values; null for a kind without them.
     virtual clsLayerObjElement* Placement() { return nullptr; }
     virtual const clsLayerObjElement* Placement() const { return nullptr; }

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "document/elements/FieldElement.h"
 #include "document/elements/SymbolKinds.h"
-#include "document/elements/clsElement.h"
 
 namespace tamber {
 
 /// A folder row's state.
-class clsLayerFolder : public clsElement {
+class clsLayerFolder : public FieldElement<clsLayerFolder> {
 public:
     String FolderName;
     /// For display only.
@@ -17,10 +17,18 @@ public:
     String Comment;
 
     Long eType() const override { return KindLayerFolder; }
-    void Load(clsCSV& csv) override;
-    void Save(clsCSV& csv) const override;
-    void CopyTo(clsElement& target, bool withPoints) const override;
-    bool Compare(const clsElement& other) const override;
+
+    static constexpr auto Fields() {
+        using T = clsLayerFolder;
+        return std::tuple{
+            Field(u"FolderName", &T::FolderName),
+            Field(u"FolderDepth", &T::FolderDepth, Follows),
+            Field(u"LayerCount", &T::LayerCount, Follows),
+            Field(u"Expand", &T::Expand),
+            Field(u"Comment", &T::Comment),
+
+        };
+    }
 };
 
 }  // namespace tamber

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <limits>
 
-#include "document/cells/ProjectFileVersion.h"
 #include "document/elements/clsLayerObjElement.h"
 #include "document/elements/clsObjFrameAction.h"
 #include "platform/RuntimeError.h"
@@ -11,8 +10,6 @@
 namespace tamber {
 
 namespace {
-
-constexpr Long VersionWithVisible = 0x50A00;
 
 void Require(bool valid, StringView source) {
     if (!valid)
@@ -36,9 +33,17 @@ bool SameTarget(const clsLayerObject& a, const clsLayerObject& b) {
 
 }  // namespace
 
-void clsLayerObject::StartFrame(Long frame) {
+Long FirstFrame(Long frame) {
     Require(frame >= 1, u"clsLayer[StartFrame]");
-    start_ = frame;
+    return frame;
+}
+
+Long FramesRead(Long count) {
+    return std::max(count, 1);
+}
+
+void clsLayerObject::StartFrame(Long frame) {
+    start_ = FirstFrame(frame);
 }
 
 void clsLayerObject::DispCount(Long count) {
@@ -69,11 +74,7 @@ std::shared_ptr<clsLayerObject> clsLayerObject::Copy() const {
 }
 
 void clsLayerObject::CopyTo(clsLayerObject& target, bool deep) const {
-    target.start_ = start_;
-    target.count_ = count_;
-    target.blFixed = blFixed;
-    target.blTween = blTween;
-    target.blVisible = blVisible;
+    CopyFields(*this, target);
     if (!deep) {
         target.kind_ = kind_;
         target.Object = Object;
@@ -83,30 +84,20 @@ void clsLayerObject::CopyTo(clsLayerObject& target, bool deep) const {
 }
 
 bool clsLayerObject::Compare(const clsLayerObject& other) const {
-    if (start_ != other.start_ || count_ != other.count_ || blTween != other.blTween ||
-        blFixed != other.blFixed || blVisible != other.blVisible || kind_ != other.kind_)
-        return false;
+    if (!SameFields(*this, other) || kind_ != other.kind_) return false;
     if (!Object || !other.Object) return Object == other.Object;
     return Object->Compare(*other.Object) && SamePath(Placement(), other.Placement()) &&
            SameTarget(*this, other);
 }
 
 void clsLayerObject::Load(clsCSV& csv) {
-    StartFrame(csv.TakeLong());
-    count_ = std::max(csv.TakeLong(), 1);
-    blFixed = csv.TakeBoolean();
-    blTween = csv.TakeBoolean();
-    if (ProjectFileVersion >= VersionWithVisible) blVisible = csv.TakeBoolean();
+    LoadFields(*this, csv);
     if (Object) Object->Load(csv);
     csv.CrLf();
 }
 
 void clsLayerObject::Save(clsCSV& csv) const {
-    csv.Put(start_);
-    csv.Put(count_);
-    csv.Put(blFixed);
-    csv.Put(blTween);
-    csv.Put(blVisible);
+    SaveFields(*this, csv);
     if (Object) Object->Save(csv);
     csv.CrLf();
 }

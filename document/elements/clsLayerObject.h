@@ -2,11 +2,16 @@
 
 #include <memory>
 
-#include "document/cells/clsCSV.h"
+#include "document/cells/Fields.h"
 #include "document/elements/clsElement.h"
 #include "platform/types.h"
 
 namespace tamber {
+
+/// First frame of a key frame; one below 1 raises.
+Long FirstFrame(Long frame);
+/// Frames of a key frame from a file, at least 1.
+Long FramesRead(Long count);
 
 /// A key frame: a span of frames, counted from 1, and the element it shows.
 class clsLayerObject {
@@ -50,6 +55,18 @@ public:
     bool Compare(const clsLayerObject& other) const;
     void Load(clsCSV& csv);
     void Save(clsCSV& csv) const;
+
+    static constexpr auto Fields() {
+        using T = clsLayerObject;
+        constexpr FromVersion WithVisible(0x50A00);
+        return std::tuple{
+            Field(u"StartFrame", &T::start_, Fitted(FirstFrame), Follows),
+            Field(u"DispCount", &T::count_, Fitted(FramesRead), Follows),
+            Field(u"blFixed", &T::blFixed, Follows),
+            Field(u"blTween", &T::blTween, Follows),
+            Group(WithVisible, Field(u"blVisible", &T::blVisible)),
+        };
+    }
 
 private:
     Long start_ = 1;

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "document/elements/FieldElement.h"
 #include "document/elements/SymbolKinds.h"
-#include "document/elements/clsElement.h"
 
 namespace tamber {
 
 /// The stage's background colour.
-class clsObjBackGround : public clsElement {
+class clsObjBackGround : public FieldElement<clsObjBackGround> {
 public:
     Byte BackColorBlue = 255;
     Byte BackColorGreen = 255;
@@ -18,10 +18,16 @@ public:
     void BackColor(Long color);
     /// Blue in the low byte.
     Long BackColorRev() const { return ColorLong(BackColorBlue, BackColorGreen, BackColorRed); }
-    void Load(clsCSV& csv) override;
-    void Save(clsCSV& csv) const override;
-    void CopyTo(clsElement& target, bool withPoints) const override;
-    bool Compare(const clsElement& other) const override;
+
+    static constexpr auto Fields() {
+        using T = clsObjBackGround;
+        return std::tuple{
+            Field(u"BackColorBlue", &T::BackColorBlue),
+            Field(u"BackColorGreen", &T::BackColorGreen),
+            Field(u"BackColorRed", &T::BackColorRed),
+
+        };
+    }
 };
 
 }  // namespace tamber

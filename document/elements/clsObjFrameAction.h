@@ -1,13 +1,13 @@
 #pragma once
 
+#include "document/elements/FieldElement.h"
 #include "document/elements/SymbolKinds.h"
-#include "document/elements/clsElement.h"
 #include "script/clsScriptData.h"
 
 namespace tamber {
 
 /// A frame's script.
-class clsObjFrameAction : public clsElement {
+class clsObjFrameAction : public FieldElement<clsObjFrameAction> {
 public:
     String Comment;
     clsScriptData inScript;
@@ -18,10 +18,14 @@ public:
     void eScriptMode(Long mode) { inScript.eScriptMode(mode); }
     /// Caption in the timeline.
     String TimeLineText() const { return Comment.empty() ? inScript.Comment() : Comment; }
-    void Load(clsCSV& csv) override;
-    void Save(clsCSV& csv) const override;
-    void CopyTo(clsElement& target, bool withPoints) const override;
-    bool Compare(const clsElement& other) const override;
+
+    static constexpr auto Fields() {
+        using T = clsObjFrameAction;
+        return std::tuple{
+            Field(u"Comment", &T::Comment),
+            Record(u"script", u"", &T::inScript),
+        };
+    }
 };
 
 }  // namespace tamber

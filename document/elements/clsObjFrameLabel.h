@@ -1,21 +1,25 @@
 #pragma once
 
+#include "document/elements/FieldElement.h"
 #include "document/elements/SymbolKinds.h"
-#include "document/elements/clsElement.h"
 
 namespace tamber {
 
 /// A frame's label.
-class clsObjFrameLabel : public clsElement {
+class clsObjFrameLabel : public FieldElement<clsObjFrameLabel> {
 public:
     String LabelName;
     bool blAnchor = false;
 
     Long eType() const override { return KindFrameLabel; }
-    void Load(clsCSV& csv) override;
-    void Save(clsCSV& csv) const override;
-    void CopyTo(clsElement& target, bool withPoints) const override;
-    bool Compare(const clsElement& other) const override;
+
+    static constexpr auto Fields() {
+        using T = clsObjFrameLabel;
+        return std::tuple{
+            Field(u"LabelName", &T::LabelName),
+            Group(IfFilled(), Field(u"blAnchor", &T::blAnchor)),
+        };
+    }
 };
 
 }  // namespace tamber

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "document/elements/FieldElement.h"
 #include "document/elements/SymbolKinds.h"
-#include "document/elements/clsElement.h"
 
 namespace tamber {
 
 /// What a sound does at a frame.
-class clsObjSound : public clsElement {
+class clsObjSound : public FieldElement<clsObjSound> {
 public:
     /// 0 play, 1 stop, 2 play streaming, 3 stop streaming.
     Long eEvent = 0;
@@ -23,10 +23,20 @@ public:
     Long eType() const override { return KindSound; }
     bool blStreaming() const { return eEvent == 2 || eEvent == 3; }
     bool blPlay() const { return eEvent == 0 || eEvent == 2; }
-    void Load(clsCSV& csv) override;
-    void Save(clsCSV& csv) const override;
-    void CopyTo(clsElement& target, bool withPoints) const override;
-    bool Compare(const clsElement& other) const override;
+
+    static constexpr auto Fields() {
+        using T = clsObjSound;
+        return std::tuple{
+            Field(u"eEvent", &T::eEvent),
+            Field(u"Loops", &T::Loops),
+            Field(u"VolumeL", &T::VolumeL),
+            Field(u"VolumeR", &T::VolumeR),
+            Field(u"StartTime", &T::StartTime),
+            Field(u"StopTime", &T::StopTime),
+            Group(IfFilled(), Field(u"FadeInTime", &T::FadeInTime)),
+            Group(IfFilled(), Field(u"FadeOutTime", &T::FadeOutTime)),
+        };
+    }
 };
 
 }  // namespace tamber

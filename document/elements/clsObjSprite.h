@@ -7,15 +7,18 @@
 namespace tamber {
 
 /// A placed sprite.
-class clsObjSprite : public clsPlacedElement {
+class clsObjSprite : public PlacedFieldElement<clsObjSprite> {
 public:
     clsEffectElement inEfElement;
 
     Long eType() const override { return KindSprite; }
-    void Load(clsCSV& csv) override;
-    void Save(clsCSV& csv) const override;
-    void CopyTo(clsElement& target, bool withPoints) const override;
-    bool Compare(const clsElement& other) const override;
+
+    static constexpr auto Fields() {
+        using T = clsObjSprite;
+        return std::tuple{
+            Group(IfFilled(), Record(u"effect", u"", &T::inEfElement)),
+        };
+    }
 };
 
 }  // namespace tamber

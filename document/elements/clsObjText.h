@@ -7,16 +7,19 @@
 namespace tamber {
 
 /// A placed text.
-class clsObjText : public clsPlacedElement {
+class clsObjText : public PlacedFieldElement<clsObjText> {
 public:
     clsEffectElement inEfElement;
 
     clsObjText();
     Long eType() const override { return KindText; }
-    void Load(clsCSV& csv) override;
-    void Save(clsCSV& csv) const override;
-    void CopyTo(clsElement& target, bool withPoints) const override;
-    bool Compare(const clsElement& other) const override;
+
+    static constexpr auto Fields() {
+        using T = clsObjText;
+        return std::tuple{
+            Group(IfFilled(), Record(u"effect", u"", &T::inEfElement)),
+        };
+    }
 };
 
 }  // namespace tamber

@@ -8,7 +8,7 @@
 namespace tamber {
 
 /// A placed vector drawing, which may be deformed at its key frame.
-class clsObjVector : public clsPlacedElement {
+class clsObjVector : public PlacedFieldElement<clsObjVector> {
 public:
     bool blFreeTrans = false;
     std::array<Long, 8> FreeTransPoints{};
@@ -17,10 +17,15 @@ public:
     Long eType() const override { return KindVector; }
     /// The deformation is on and moves a corner.
     bool blFreeTransEx() const;
-    void Load(clsCSV& csv) override;
-    void Save(clsCSV& csv) const override;
-    void CopyTo(clsElement& target, bool withPoints) const override;
-    bool Compare(const clsElement& other) const override;
+
+    static constexpr auto Fields() {
+        using T = clsObjVector;
+        return std::tuple{
+            Group(IfFilled(), Field(u"blFreeTrans", &T::blFreeTrans),
+                  Array(u"FreeTransPoint", &T::FreeTransPoints),
+                  Group(IfFilled(), Field(u"blDivide", &T::blDivide))),
+        };
+    }
 };
 
 }  // namespace tamber

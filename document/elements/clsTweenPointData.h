@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/types.h"
+#include "document/cells/Fields.h"
 
 namespace tamber {
 
@@ -13,6 +13,15 @@ public:
     Single Y = 0;
 
     bool operator==(const clsTweenPointData&) const = default;
+
+    static constexpr auto Fields() {
+        using T = clsTweenPointData;
+        return std::tuple{
+            Field(u"type", &T::PointType, Words({{0, u"On"}, {1, u"Off"}}, 1)),
+            Field(u"x", &T::X),
+            Field(u"y", &T::Y),
+        };
+    }
 };
 
 }  // namespace tamber

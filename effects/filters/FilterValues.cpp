@@ -46,16 +46,4 @@ Long MixLong(Long a, Long b, double weightA, double weightB) {
     return RoundToLong(a * weightA + b * weightB);
 }
 
-Byte MixByte(Byte a, Byte b, double weightA, double weightB) {
-    return static_cast<Byte>(std::clamp(MixLong(a, b, weightA, weightB), 0, 255));
-}
-
-Byte MixPercent(Byte a, Byte b, double weightA, double weightB) {
-    return static_cast<Byte>(std::clamp(MixLong(a, b, weightA, weightB), 0, 100));
-}
-
-Byte TakePercent(clsCSV& csv) {
-    return std::min<Byte>(csv.TakeByte(), 100);
-}
-
 }  // namespace tamber

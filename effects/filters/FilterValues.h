@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/cells/clsCSV.h"
+#include "document/cells/FieldForms.h"
 #include "platform/types.h"
 
 namespace tamber {
@@ -18,14 +18,11 @@ void SetFilterColor(Long color, Byte& red, Byte& green, Byte& blue);
 /// "#RRGGBB".
 String FilterColorText(Long color);
 
-/// Weighted sums, worked out in double precision; whole numbers round half to even and stay within
-/// their range.
+/// An opacity.
+inline constexpr Within Percent{0, 100};
+
+/// Weighted sums, worked out in double precision; whole numbers round half to even.
 Single Mix(Single a, Single b, double weightA, double weightB);
 Long MixLong(Long a, Long b, double weightA, double weightB);
-Byte MixByte(Byte a, Byte b, double weightA, double weightB);
-Byte MixPercent(Byte a, Byte b, double weightA, double weightB);
-
-/// Reads a percentage; above 100 gives 100.
-Byte TakePercent(clsCSV& csv);
 
 }  // namespace tamber

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "document/cells/clsCSV.h"
-#include "effects/filters/FilterValues.h"
+#include "effects/filters/FilterRecord.h"
 
 namespace tamber {
 
 /// A bevel on the edges of a placed symbol.
-class clsFilterBevel {
+class clsFilterBevel : public FilterRecord<clsFilterBevel> {
 public:
     Byte ShadowColorRed = 0;
     Byte ShadowColorGreen = 0;
@@ -51,21 +50,31 @@ public:
     Single Strength() const { return strength_; }
     void Strength(Single value) { strength_ = FilterStrength(value); }
 
-    /// True when a value differs that a tween can change.
-    bool CkMorphing(const clsFilterBevel& other) const;
-    /// The weighted sum of the two; counts and switches are of this one.
-    clsFilterBevel Morphing(const clsFilterBevel& other, double weightThis,
-                            double weightOther) const;
-    /// True when anything differs.
-    bool CkUpDate(const clsFilterBevel& other) const { return !(*this == other); }
-    clsFilterBevel Copy() const { return *this; }
-    void CopyTo(clsFilterBevel& target) const { target = *this; }
-    /// The filter with the source's shape and no strength, as a tween begins or ends with.
-    static clsFilterBevel AuthoringCopy(const clsFilterBevel* source);
-    static void AuthoringCopyTo(clsFilterBevel& target, const clsFilterBevel* source);
-    void Load(clsCSV& csv);
-    void Save(clsCSV& csv) const;
     bool operator==(const clsFilterBevel&) const = default;
+
+    static constexpr auto Fields() {
+        using T = clsFilterBevel;
+        return std::tuple{
+            Field(u"ShadowBlue", &T::ShadowColorBlue, Mixes),
+            Field(u"ShadowGreen", &T::ShadowColorGreen, Mixes),
+            Field(u"ShadowRed", &T::ShadowColorRed, Mixes),
+            Field(u"ShadowColorA", &T::ShadowColorA, Percent, Fades),
+            Field(u"HighlightBlue", &T::HighlightColorBlue, Mixes),
+            Field(u"HighlightGreen", &T::HighlightColorGreen, Mixes),
+            Field(u"HighlightRed", &T::HighlightColorRed, Mixes),
+            Field(u"HighlightColorA", &T::HighlightColorA, Percent, Fades),
+            Field(u"BlurX", &T::blurX_, Fitted(FilterNumber), Mixes),
+            Field(u"BlurY", &T::blurY_, Fitted(FilterNumber), Mixes),
+            Field(u"Angle", &T::angle_, Fitted(FilterNumber), Mixes),
+            Field(u"Distance", &T::distance_, Fitted(FilterNumber), Fades),
+            Field(u"Strength", &T::strength_, Fitted(FilterStrength), Fades),
+            Field(u"blInner", &T::blInner),
+            Field(u"blKnockout", &T::blKnockout),
+            Field(u"blCompositeSource", &T::blCompositeSource),
+            Field(u"blOnTop", &T::blOnTop),
+            Field(u"Passes", &T::Passes, Tells),
+        };
+    }
 
 private:
     Single blurX_ = 2;

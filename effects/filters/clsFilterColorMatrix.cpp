@@ -24,36 +24,4 @@ void clsFilterColorMatrix::SetMatrixTbl(const Matrix& values) {
     std::transform(values.begin(), values.end(), matrix_.begin(), FilterNumber);
 }
 
-bool clsFilterColorMatrix::CkMorphing(const clsFilterColorMatrix& other) const {
-    return matrix_ != other.matrix_;
-}
-
-clsFilterColorMatrix clsFilterColorMatrix::Morphing(const clsFilterColorMatrix& other,
-                                                    double weightThis, double weightOther) const {
-    clsFilterColorMatrix result;
-    for (std::size_t i = 0; i < matrix_.size(); ++i)
-        result.matrix_[i] =
-            FilterNumber(Mix(matrix_[i], other.matrix_[i], weightThis, weightOther));
-    return result;
-}
-
-clsFilterColorMatrix clsFilterColorMatrix::AuthoringCopy(const clsFilterColorMatrix* source) {
-    clsFilterColorMatrix result;
-    AuthoringCopyTo(result, source);
-    return result;
-}
-
-void clsFilterColorMatrix::AuthoringCopyTo(clsFilterColorMatrix& target,
-                                           const clsFilterColorMatrix*) {
-    target = clsFilterColorMatrix();
-}
-
-void clsFilterColorMatrix::Load(clsCSV& csv) {
-    for (Single& cell : matrix_) cell = FilterNumber(csv.TakeSingle());
-}
-
-void clsFilterColorMatrix::Save(clsCSV& csv) const {
-    for (const Single cell : matrix_) csv.Put(cell);
-}
-
 }  // namespace tamber

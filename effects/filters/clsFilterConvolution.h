@@ -2,15 +2,17 @@
 
 #include <array>
 
-#include "document/cells/clsCSV.h"
-#include "effects/filters/FilterValues.h"
+#include "effects/filters/FilterRecord.h"
 
 namespace tamber {
 
 /// A convolution of a placed symbol's pixels.
-class clsFilterConvolution {
+class clsFilterConvolution : public FilterRecord<clsFilterConvolution> {
 public:
     using Matrix = std::array<Single, 25>;
+
+    /// A larger size would reach beyond the 25 cells.
+    static constexpr Within MatrixSide{0, 5};
 
     /// Size of the matrix in use, up to 5 by 5.
     Long MatrixX = 5;
@@ -43,21 +45,24 @@ public:
     /// Divisor and bias that keep the brightness of the picture.
     void GetAutoCalculation(Single& divisor, Single& bias) const;
 
-    /// True when a value differs that a tween can change.
-    bool CkMorphing(const clsFilterConvolution& other) const;
-    /// The weighted sum of the two; counts and switches are of this one.
-    clsFilterConvolution Morphing(const clsFilterConvolution& other, double weightThis,
-                                  double weightOther) const;
-    /// True when anything differs.
-    bool CkUpDate(const clsFilterConvolution& other) const { return !(*this == other); }
-    clsFilterConvolution Copy() const { return *this; }
-    void CopyTo(clsFilterConvolution& target) const { target = *this; }
-    /// A filter without effect: there is no lesser form of it.
-    static clsFilterConvolution AuthoringCopy(const clsFilterConvolution* source);
-    static void AuthoringCopyTo(clsFilterConvolution& target, const clsFilterConvolution* source);
-    void Load(clsCSV& csv);
-    void Save(clsCSV& csv) const;
     bool operator==(const clsFilterConvolution&) const = default;
+
+    static constexpr auto Fields() {
+        using T = clsFilterConvolution;
+        return std::tuple{
+            Field(u"MatrixX", &T::MatrixX, MatrixSide),
+            Field(u"MatrixY", &T::MatrixY, MatrixSide),
+            Field(u"Divisor", &T::divisor_, Fitted(FilterNumber), Mixes),
+            Field(u"Bias", &T::bias_, Fitted(FilterNumber), Mixes),
+            Array(u"m", &T::matrix_, Fitted(FilterNumber), Mixes),
+            Field(u"Default.Blue", &T::DefaultColorBlue, Mixes),
+            Field(u"Default.Green", &T::DefaultColorGreen, Mixes),
+            Field(u"Default.Red", &T::DefaultColorRed, Mixes),
+            Field(u"Default.ColorA", &T::DefaultColorA, Percent, Mixes),
+            Field(u"blClamp", &T::blClamp),
+            Field(u"blPreserveAlpha", &T::blPreserveAlpha),
+        };
+    }
 
 private:
     Single divisor_ = 1;

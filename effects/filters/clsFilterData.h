@@ -47,6 +47,49 @@ public:
     void Load(clsCSV& csv);
     void Save(clsCSV& csv) const;
     bool operator==(const clsFilterData&) const = default;
+
+    /// The pairs of a switch and its record, each record right behind its switch.
+    static constexpr auto Fields() {
+        using T = clsFilterData;
+        return std::tuple{
+            Switched(u"blEditColor", &T::blEditColor, u"", &T::fltEditColor),
+            Switched(u"blDropShadow", &T::blDropShadow, u"DropShadow.", &T::fltDropShadow),
+            Switched(u"blBlur", &T::blBlur, u"Blur.", &T::fltBlur),
+            Switched(u"blGlow", &T::blGlow, u"Glow.", &T::fltGlow),
+            Switched(u"blBevel", &T::blBevel, u"Bevel.", &T::fltBevel),
+            Switched(u"blConvolution", &T::blConvolution, u"", &T::fltConvolution),
+            Switched(u"blColorMatrix", &T::blColorMatrix, u"", &T::fltColorMatrix),
+        };
+    }
+
+private:
+    template <class T>
+    struct Pair {
+        using Record = T;
+        CellField<clsFilterData, bool, AsIs> Switch;
+        RecordField<clsFilterData, T> Filter;
+
+        void Load(clsFilterData& owner, clsCSV& csv) const {
+            Switch.Load(owner, csv);
+            Filter.Load(owner, csv);
+        }
+        void Save(const clsFilterData& owner, clsCSV& csv) const {
+            Switch.Save(owner, csv);
+            Filter.Save(owner, csv);
+        }
+        void Tell(const clsFilterData& owner, const FieldSink& sink, const String& prefix) const {
+            Switch.Tell(owner, sink, prefix);
+            Filter.Tell(owner, sink, prefix);
+        }
+        bool Set(clsFilterData& owner, StringView name, StringView value) const {
+            return Switch.Set(owner, name, value) || Filter.Set(owner, name, value);
+        }
+    };
+    template <class T>
+    static constexpr Pair<T> Switched(StringView name, bool clsFilterData::*on, StringView prefix,
+                                      T clsFilterData::*filter) {
+        return {{name, on, {}, {}}, {{}, prefix, filter}};
+    }
 };
 
 }  // namespace tamber

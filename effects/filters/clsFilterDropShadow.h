@@ -1,12 +1,11 @@
 #pragma once
 
-#include "document/cells/clsCSV.h"
-#include "effects/filters/FilterValues.h"
+#include "effects/filters/FilterRecord.h"
 
 namespace tamber {
 
 /// A shadow behind a placed symbol.
-class clsFilterDropShadow {
+class clsFilterDropShadow : public FilterRecord<clsFilterDropShadow> {
 public:
     Byte DropShadowColorRed = 0;
     Byte DropShadowColorGreen = 0;
@@ -37,21 +36,32 @@ public:
     Single Strength() const { return strength_; }
     void Strength(Single value) { strength_ = FilterStrength(value); }
 
-    /// True when a value differs that a tween can change.
-    bool CkMorphing(const clsFilterDropShadow& other) const;
-    /// The weighted sum of the two; counts and switches are of this one.
-    clsFilterDropShadow Morphing(const clsFilterDropShadow& other, double weightThis,
-                                 double weightOther) const;
-    /// True when anything differs.
-    bool CkUpDate(const clsFilterDropShadow& other) const { return !(*this == other); }
-    clsFilterDropShadow Copy() const { return *this; }
-    void CopyTo(clsFilterDropShadow& target) const { target = *this; }
-    /// The filter with the source's shape and no strength, as a tween begins or ends with.
-    static clsFilterDropShadow AuthoringCopy(const clsFilterDropShadow* source);
-    static void AuthoringCopyTo(clsFilterDropShadow& target, const clsFilterDropShadow* source);
-    void Load(clsCSV& csv);
-    void Save(clsCSV& csv) const;
+    /// As those of the others, but both blurs follow the source's horizontal one, so that movies
+    /// come out as they always did.
+    static void AuthoringCopyTo(clsFilterDropShadow& target, const clsFilterDropShadow* source) {
+        FilterRecord::AuthoringCopyTo(target, source);
+        target.BlurY(target.BlurX());
+    }
     bool operator==(const clsFilterDropShadow&) const = default;
+
+    static constexpr auto Fields() {
+        using T = clsFilterDropShadow;
+        return std::tuple{
+            Field(u"Blue", &T::DropShadowColorBlue, Mixes),
+            Field(u"Green", &T::DropShadowColorGreen, Mixes),
+            Field(u"Red", &T::DropShadowColorRed, Mixes),
+            Field(u"ColorA", &T::DropShadowColorA, Percent, Fades),
+            Field(u"BlurX", &T::blurX_, Fitted(FilterNumber), Mixes),
+            Field(u"BlurY", &T::blurY_, Fitted(FilterNumber), Mixes),
+            Field(u"Angle", &T::angle_, Fitted(FilterNumber), Mixes),
+            Field(u"Distance", &T::distance_, Fitted(FilterNumber), Fades),
+            Field(u"Strength", &T::strength_, Fitted(FilterStrength), Fades),
+            Field(u"blInner", &T::blInner),
+            Field(u"blKnockout", &T::blKnockout),
+            Field(u"blCompositeSource", &T::blCompositeSource),
+            Field(u"Passes", &T::Passes, Tells),
+        };
+    }
 
 private:
     Single blurX_ = 2;

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "document/cells/clsCSV.h"
-#include "effects/filters/FilterValues.h"
+#include "effects/filters/FilterRecord.h"
 
 namespace tamber {
 
 /// A colour transform of a placed symbol: a factor in percent and a term for each channel.
-class clsFilterEditColor {
+class clsFilterEditColor : public FilterRecord<clsFilterEditColor> {
 public:
     Long MultR = 100;
     Long MultG = 100;
@@ -20,21 +19,17 @@ public:
     bool CkDefault() const { return *this == clsFilterEditColor(); }
     void SetDefault() { *this = clsFilterEditColor(); }
 
-    /// True when a value differs that a tween can change.
-    bool CkMorphing(const clsFilterEditColor& other) const;
-    /// The weighted sum of the two; counts and switches are of this one.
-    clsFilterEditColor Morphing(const clsFilterEditColor& other, double weightThis,
-                                double weightOther) const;
-    /// True when anything differs.
-    bool CkUpDate(const clsFilterEditColor& other) const { return !(*this == other); }
-    clsFilterEditColor Copy() const { return *this; }
-    void CopyTo(clsFilterEditColor& target) const { target = *this; }
-    /// The transform without effect.
-    static clsFilterEditColor AuthoringCopy(const clsFilterEditColor* source);
-    static void AuthoringCopyTo(clsFilterEditColor& target, const clsFilterEditColor* source);
-    void Load(clsCSV& csv);
-    void Save(clsCSV& csv) const;
     bool operator==(const clsFilterEditColor&) const = default;
+
+    static constexpr auto Fields() {
+        using T = clsFilterEditColor;
+        return std::tuple{
+            Field(u"MultR", &T::MultR, Mixes), Field(u"MultG", &T::MultG, Mixes),
+            Field(u"MultB", &T::MultB, Mixes), Field(u"MultA", &T::MultA, Mixes),
+            Field(u"AddR", &T::AddR, Mixes),   Field(u"AddG", &T::AddG, Mixes),
+            Field(u"AddB", &T::AddB, Mixes),   Field(u"AddA", &T::AddA, Mixes),
+        };
+    }
 };
 
 }  // namespace tamber

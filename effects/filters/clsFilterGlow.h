@@ -1,12 +1,11 @@
 #pragma once
 
-#include "document/cells/clsCSV.h"
-#include "effects/filters/FilterValues.h"
+#include "effects/filters/FilterRecord.h"
 
 namespace tamber {
 
 /// A glow around a placed symbol.
-class clsFilterGlow {
+class clsFilterGlow : public FilterRecord<clsFilterGlow> {
 public:
     Byte GlowColorRed = 0;
     Byte GlowColorGreen = 255;
@@ -31,20 +30,24 @@ public:
     Single Strength() const { return strength_; }
     void Strength(Single value) { strength_ = FilterStrength(value); }
 
-    /// True when a value differs that a tween can change.
-    bool CkMorphing(const clsFilterGlow& other) const;
-    /// The weighted sum of the two; counts and switches are of this one.
-    clsFilterGlow Morphing(const clsFilterGlow& other, double weightThis, double weightOther) const;
-    /// True when anything differs.
-    bool CkUpDate(const clsFilterGlow& other) const { return !(*this == other); }
-    clsFilterGlow Copy() const { return *this; }
-    void CopyTo(clsFilterGlow& target) const { target = *this; }
-    /// The filter with the source's shape and no strength, as a tween begins or ends with.
-    static clsFilterGlow AuthoringCopy(const clsFilterGlow* source);
-    static void AuthoringCopyTo(clsFilterGlow& target, const clsFilterGlow* source);
-    void Load(clsCSV& csv);
-    void Save(clsCSV& csv) const;
     bool operator==(const clsFilterGlow&) const = default;
+
+    static constexpr auto Fields() {
+        using T = clsFilterGlow;
+        return std::tuple{
+            Field(u"Blue", &T::GlowColorBlue, Mixes),
+            Field(u"Green", &T::GlowColorGreen, Mixes),
+            Field(u"Red", &T::GlowColorRed, Mixes),
+            Field(u"ColorA", &T::GlowColorA, Percent, Fades),
+            Field(u"BlurX", &T::blurX_, Fitted(FilterNumber), Mixes),
+            Field(u"BlurY", &T::blurY_, Fitted(FilterNumber), Mixes),
+            Field(u"Strength", &T::strength_, Fitted(FilterStrength), Fades),
+            Field(u"blInner", &T::blInner),
+            Field(u"blKnockout", &T::blKnockout),
+            Field(u"blCompositeSource", &T::blCompositeSource),
+            Field(u"Passes", &T::Passes, Tells),
+        };
+    }
 
 private:
     Single blurX_ = 10;
