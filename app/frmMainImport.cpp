@@ -10,7 +10,7 @@ bool frmMain::mnuKVFImport(StringView path, const ChooseImport& choose) {
     const AssetReader assets;
     Project incoming;
     ImportOptions options;
-    if (!LoadProject(chosen, incoming, assets, inProject.SWFVersion)) return false;
+    if (!ShowLoad(LoadProject(chosen, incoming, assets, inProject.SWFVersion))) return false;
     if (!choose(incoming, options)) return false;
     Collection<clsLayer> layers =
         ProjectImport(inProject, std::move(incoming), std::move(options), assets).Run();

@@ -5,11 +5,11 @@
 #include "app/SymbolFromFile.h"
 #include "app/frmMain.h"
 #include "app/mdlPrivateProfile.h"
-#include "document/edit/ClassNames.h"
 #include "document/SymbolFiles.h"
-#include "document/records/SymbolTimeline.h"
+#include "document/edit/ClassNames.h"
 #include "document/edit/SymbolUses.h"
 #include "document/edit/TimelineLength.h"
+#include "document/records/SymbolTimeline.h"
 #include "document/records/clsPropertyButton.h"
 #include "document/records/clsPropertyClass.h"
 #include "document/records/clsPropertyKoma.h"
@@ -370,17 +370,19 @@ bool frmMain::mnuSymbolReLoad() {
     const SymbolRange range = SelectedSymbols();
     const AssetReader assets;
     SymbolSet read;
+    Notices told;
     bool all = true;
     for (Long row = range.First; row <= range.Last; ++row) {
         clsSymbolData& symbol = *(*colSymbol())(row);
         if (symbol.FilePathName.empty()) continue;
-        if (FileExists(symbol.FilePathName) && assets.LoadFile(symbol)) {
+        if (FileExists(symbol.FilePathName) && assets.LoadFile(symbol, told)) {
             read.insert(&symbol);
             continue;
         }
         TellUnreadable(symbol.FilePathName);
         all = false;
     }
+    ShowNotices(told);
     FollowReload(*colSymbol(), read, assets);
     view_->RefreshFgrdSymbol();
     ShowEditFrame();

@@ -3,8 +3,8 @@
 #include "app/AssetReader.h"
 #include "app/frmMain.h"
 #include "app/mdlPrivateProfile.h"
-#include "document/edit/ProjectRelease.h"
 #include "document/ProjectWriter.h"
+#include "document/edit/ProjectRelease.h"
 #include "document/elements/SymbolKinds.h"
 #include "document/records/SymbolTimeline.h"
 #include "platform/UserInterface.h"
@@ -113,7 +113,7 @@ bool frmMain::OpenProject(StringView path) {
     const String chosen = ExistingProject(path, u"プロジェクトを開く");
     if (chosen.empty()) return false;
     Project opened = inProject;
-    if (!LoadProject(chosen, opened, AssetReader())) return false;
+    if (!ShowLoad(LoadProject(chosen, opened, AssetReader()))) return false;
     ReleaseProject(inProject, cUndoRedo);
     inProject = std::move(opened);
     ProjectFileName = chosen;
