@@ -10,10 +10,7 @@ namespace {
 /// Reads no files: the projects here have no symbols with one.
 class NoAssets : public ProjectAssets {
 public:
-    bool LoadBitmap(clsSymbolData&) const override { return true; }
-    bool LoadVector(clsSymbolData&) const override { return true; }
-    bool LoadSound(clsSymbolData&) const override { return true; }
-    bool LoadMovie(clsSymbolData&) const override { return true; }
+    bool LoadFile(clsSymbolData&, Notices&) const override { return true; }
     bool FontAvailable(StringView) const override { return true; }
     String DefaultFont() const override { return u"_sans"; }
     void SetTextSize(clsSymbolData&) const override {}

@@ -9,10 +9,10 @@
 #include <utility>
 #include <vector>
 
-#include "document/cells/ProjectFileVersion.h"
-#include "document/records/SymbolContents.h"
 #include "document/SymbolFiles.h"
+#include "document/cells/ProjectFileVersion.h"
 #include "document/cells/clsCSV.h"
+#include "document/records/SymbolContents.h"
 #include "document/records/clsPropertyText.h"
 #include "document/records/clsPropertyVector.h"
 #include "platform/RuntimeError.h"
@@ -37,7 +37,7 @@ constexpr std::size_t largestText = std::size_t{48} << 20;
 /// An asset could not be had; the user was told why.
 struct LoadStopped {};
 
-[[noreturn]] void Damaged() {
+[[noreturn]] void RaiseDamaged() {
     throw RuntimeError(ErrorOutOfRange, u"LoadProject", u"範囲外の数値が設定されました。");
 }
 
@@ -72,15 +72,15 @@ bool Inflate(ByteView packed, Bytes& out) {
 /// is added.
 Long ReadVersion(clsCSV& csv) {
     const String major = csv.TakeText();
-    if (major.empty() || major.size() > 2) Damaged();
+    if (major.empty() || major.size() > 2) RaiseDamaged();
     Long version = 0;
     for (const char16_t c : major) {
         const char16_t lower = static_cast<char16_t>(c | 0x20);
         const bool digit = c >= u'0' && c <= u'9';
-        if (!digit && (lower < u'a' || lower > u'f')) Damaged();
+        if (!digit && (lower < u'a' || lower > u'f')) RaiseDamaged();
         version = version * 16 + (digit ? c - u'0' : lower - u'a' + 10);
     }
-    if (version > 0x7F) Damaged();
+    if (version > 0x7F) RaiseDamaged();
     version = version << 8 | csv.TakeByte();
     version = version << 8 | csv.TakeByte();
     version <<= 8;
@@ -94,15 +94,19 @@ public:
         : csv_(csv), baseDir_(std::move(baseDir)), assets_(assets), importInto_(importInto) {}
 
     Project Read();
+    Notices TakeTold() { return std::exchange(told_, {}); }
     /// Undoes references among the symbols of a load that failed, which may go round in circles.
     void Release();
 
 private:
-    void AskForVersion() const;
+    void AskForVersion();
+    /// Shows what was to be told so far, so that it stands before a question.
+    void ShowTold() { ShowNotices(TakeTold()); }
     void ReadHtml();
     void ReadSymbols();
-    void FitFont(clsSymbolData& symbol) const;
-    void LoadAsset(clsSymbolData& symbol) const;
+    void FitFont(clsSymbolData& symbol);
+    void LoadAsset(clsSymbolData& symbol);
+    void ChooseFile(clsSymbolData& symbol);
     void ReadReferences();
     std::shared_ptr<clsSymbolData> TakeReference();
     void ReadLayers(Collection<clsLayer>& layers);
@@ -115,6 +119,7 @@ private:
     const ProjectAssets& assets_;
     std::optional<Long> importInto_;
     Project project_;
+    Notices told_;
     std::unordered_map<Long, std::shared_ptr<clsSymbolData>> byId_;
 };
 
@@ -136,11 +141,12 @@ Project Reader::Read() {
     return std::move(project_);
 }
 
-void Reader::AskForVersion() const {
+void Reader::AskForVersion() {
     if (!importInto_ || *importInto_ == project_.SWFVersion) return;
+    ShowTold();
     if (CurrentUserInterface().Ask(u"SWFのバージョンが違います。\r\n読み込みますか？", ProgramTitle,
                                    Choices::YesNo) != Answer::Yes)
-        Damaged();
+        RaiseDamaged();
 }
 
 void Reader::ShowProgress(Long done, Long total) {
@@ -206,27 +212,30 @@ void Reader::ReadSymbols() {
     }
 }
 
-void Reader::FitFont(clsSymbolData& symbol) const {
+void Reader::FitFont(clsSymbolData& symbol) {
     auto& text = *symbol.Property<clsPropertyText>();
     if (text.FontName.starts_with(u'_') || assets_.FontAvailable(text.FontName)) return;
     const String other = assets_.DefaultFont();
-    ShowMessage(u"「" + text.FontName + u"」が見つかりません。\r\n「" + other +
-                u"」へ変更します。");
+    told_.push_back(
+        {u"「" + text.FontName + u"」が見つかりません。\r\n「" + other + u"」へ変更します。"});
     text.FontName = other;
 }
 
-void Reader::LoadAsset(clsSymbolData& symbol) const {
-    if (!FileExists(symbol.FilePathName)) {
-        ShowMessage(symbol.FilePathName + u"\r\n\r\nファイルが見つかりません。");
-        FileDialog dialog;
-        dialog.Title = u"ファイル選択";
-        dialog.Filters.push_back(SymbolFileFilter(symbol.eType()));
-        const String chosen = CurrentUserInterface().OpenFileDialog(dialog);
-        if (chosen.empty()) throw LoadStopped();
-        symbol.FilePathName = chosen;
-    }
-    if (assets_.LoadFile(symbol)) return;
-    ShowMessage(u"ファイルの読み込みに失敗しました。", u"読み込みエラー", MessageIcon::Error);
+void Reader::ChooseFile(clsSymbolData& symbol) {
+    told_.push_back({symbol.FilePathName + u"\r\n\r\nファイルが見つかりません。"});
+    ShowTold();
+    FileDialog dialog;
+    dialog.Title = u"ファイル選択";
+    dialog.Filters.push_back(SymbolFileFilter(symbol.eType()));
+    const String chosen = CurrentUserInterface().OpenFileDialog(dialog);
+    if (chosen.empty()) throw LoadStopped();
+    symbol.FilePathName = chosen;
+}
+
+void Reader::LoadAsset(clsSymbolData& symbol) {
+    if (!FileExists(symbol.FilePathName)) ChooseFile(symbol);
+    if (assets_.LoadFile(symbol, told_)) return;
+    told_.push_back({u"ファイルの読み込みに失敗しました。", u"読み込みエラー", MessageIcon::Error});
     throw LoadStopped();
 }
 
@@ -269,7 +278,7 @@ void Reader::ReadLayers(Collection<clsLayer>& layers) {
         auto layer = std::make_shared<clsLayer>();
         if (id > 0) {
             const auto found = byId_.find(id);
-            if (found == byId_.end()) Damaged();
+            if (found == byId_.end()) RaiseDamaged();
             layer->SymbolData(found->second);
         } else {
             layer->SymbolData(std::make_shared<clsSymbolData>(id == -4   ? KindLayerFolder
@@ -308,7 +317,7 @@ void Reader::CheckNesting() const {
             auto& [symbol, next] = open.back();
             if (next < shown[symbol].size()) {
                 const auto inner = static_cast<std::size_t>(shown[symbol][next++]);
-                if (height[inner] == -1) Damaged();
+                if (height[inner] == -1) RaiseDamaged();
                 if (height[inner] == 0) {
                     height[inner] = -1;
                     open.push_back({inner, 0});
@@ -318,7 +327,7 @@ void Reader::CheckNesting() const {
             Long deepest = 0;
             for (const Long inner : shown[symbol])
                 deepest = std::max(deepest, height[static_cast<std::size_t>(inner)]);
-            if (deepest >= DeepestNesting) Damaged();
+            if (deepest >= DeepestNesting) RaiseDamaged();
             height[symbol] = deepest + 1;
             open.pop_back();
         }
@@ -340,62 +349,59 @@ bool DecodeProject(ByteView bytes, String& text) {
     return true;
 }
 
-bool TellDamaged() {
-    ShowMessage(u"読込できませんでした。\r\nファイルは本ソフト用ではない可能性があります。",
-                u"ファイルが不正です", MessageIcon::Error);
-    return false;
+ProjectLoad Damaged(Notices told) {
+    told.push_back({u"読込できませんでした。\r\nファイルは本ソフト用ではない可能性があります。",
+                    u"ファイルが不正です", MessageIcon::Error});
+    return {false, std::move(told)};
+}
+
+/// The table of a project file, its cursor behind the version; false when the bytes are no project.
+bool ReadHead(ByteView bytes, clsCSV& csv) {
+    String text;
+    if (!DecodeProject(bytes, text)) return false;
+    csv.Text(std::move(text));
+    if (csv.TakeText() != u"KVF") return false;
+    ProjectFileVersion = ReadVersion(csv);
+    csv.CrLf();
+    return true;
 }
 
 }  // namespace
 
-bool ProjectAssets::LoadFile(clsSymbolData& symbol) const {
-    switch (symbol.eType()) {
-        case KindBitmap:
-            return LoadBitmap(symbol);
-        case KindVector:
-            return LoadVector(symbol);
-        case KindSound:
-            return LoadSound(symbol);
-        case KindMovie:
-            return LoadMovie(symbol);
-        default:
-            return true;
-    }
-}
-
-bool LoadProject(StringView path, Project& out, const ProjectAssets& assets,
-                 std::optional<Long> importInto) {
+ProjectLoad LoadProject(StringView path, Project& out, const ProjectAssets& assets,
+                        std::optional<Long> importInto) {
     const auto size = FileSize(path);
     Bytes bytes;
-    if (!size || *size > largestText || !ReadFileBytes(path, bytes)) return TellDamaged();
+    if (!size || *size > largestText || !ReadFileBytes(path, bytes)) return Damaged({});
     return LoadProjectBytes(bytes, path, out, assets, importInto);
 }
 
-bool LoadProjectBytes(ByteView bytes, StringView path, Project& out, const ProjectAssets& assets,
-                      std::optional<Long> importInto) {
+ProjectLoad LoadProjectBytes(ByteView bytes, StringView path, Project& out,
+                             const ProjectAssets& assets, std::optional<Long> importInto) {
     const ProjectFileVersionScope version(NewestProjectFileVersion);
     clsCSV csv;
     csv.DefColSize(readingGrowth);
     Reader reader(csv, GetFileFolder(AbsolutePath(path)), assets, importInto);
     try {
-        String text;
-        if (!DecodeProject(bytes, text)) return TellDamaged();
-        csv.Text(std::move(text));
-        if (csv.TakeText() != u"KVF") return TellDamaged();
-        ProjectFileVersion = ReadVersion(csv);
-        csv.CrLf();
+        if (!ReadHead(bytes, csv)) return Damaged({});
         out = reader.Read();
-        return true;
+        return {true, reader.TakeTold()};
     } catch (const LoadStopped&) {
         reader.Release();
-        ShowMessage(u"プロジェクトを開けませんでした。");
-        return false;
+        Notices told = reader.TakeTold();
+        told.push_back({u"プロジェクトを開けませんでした。"});
+        return {false, std::move(told)};
     } catch (const RuntimeError&) {
     } catch (const std::bad_alloc&) {
     } catch (const std::length_error&) {
     }
     reader.Release();
-    return TellDamaged();
+    return Damaged(reader.TakeTold());
+}
+
+bool ShowLoad(const ProjectLoad& load) {
+    ShowNotices(load.Told);
+    return load.Done;
 }
 
 }  // namespace tamber

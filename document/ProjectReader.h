@@ -3,22 +3,19 @@
 #include <optional>
 
 #include "document/Project.h"
+#include "platform/Notice.h"
 #include "platform/types.h"
 
 namespace tamber {
 
-/// What reads the files that a project refers to. Each reader is given a symbol whose file exists
-/// and fills its record; false when the file cannot be read.
+/// What reads the files that a project refers to.
 class ProjectAssets {
 public:
     virtual ~ProjectAssets() = default;
 
-    virtual bool LoadBitmap(clsSymbolData& symbol) const = 0;
-    virtual bool LoadVector(clsSymbolData& symbol) const = 0;
-    virtual bool LoadSound(clsSymbolData& symbol) const = 0;
-    virtual bool LoadMovie(clsSymbolData& symbol) const = 0;
-    /// Reads the file of a symbol by its kind; true for kinds that have none.
-    bool LoadFile(clsSymbolData& symbol) const;
+    /// Fills the record of a symbol, whose file exists, from that file; true for kinds that keep
+    /// nothing of it. False when it cannot be read. What there is to tell goes into `told`.
+    virtual bool LoadFile(clsSymbolData& symbol, Notices& told) const = 0;
     virtual bool FontAvailable(StringView name) const = 0;
     /// Font for texts whose own is not available.
     virtual String DefaultFont() const = 0;
@@ -26,14 +23,26 @@ public:
     virtual void SetTextSize(clsSymbolData& symbol) const = 0;
 };
 
-/// Reads a project file, plain or compressed. On failure the user was told, the result is false and
-/// `out` is as before. With `importInto`, the version of a project that shall take the contents,
-/// another version is asked about, and texts keep their fonts and boxes.
-bool LoadProject(StringView path, Project& out, const ProjectAssets& assets,
-                 std::optional<Long> importInto = std::nullopt);
+/// What a reading came to.
+struct ProjectLoad {
+    bool Done = false;
+    /// To be shown whether it is done or not; never empty when it is not.
+    Notices Told;
+    explicit operator bool() const { return Done; }
+};
+
+/// Reads a project file, plain or compressed. On failure `out` is as before. With `importInto`, the
+/// version of a project that shall take the contents, another version is asked about, and texts
+/// keep their fonts and boxes. What comes before a question is shown when it is asked.
+ProjectLoad LoadProject(StringView path, Project& out, const ProjectAssets& assets,
+                        std::optional<Long> importInto = std::nullopt);
 
 /// As `LoadProject`, from the bytes of a file. `path` tells the folder that paths are relative to.
-bool LoadProjectBytes(ByteView bytes, StringView path, Project& out, const ProjectAssets& assets,
-                      std::optional<Long> importInto = std::nullopt);
+ProjectLoad LoadProjectBytes(ByteView bytes, StringView path, Project& out,
+                             const ProjectAssets& assets,
+                             std::optional<Long> importInto = std::nullopt);
+
+/// Shows what a reading tells. True when it is done.
+bool ShowLoad(const ProjectLoad& load);
 
 }  // namespace tamber

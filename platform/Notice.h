@@ -29,7 +29,7 @@ struct Notice {
     String Text;  ///< lines separated by CR LF
     String Title{ProgramTitle};
     MessageIcon Severity = MessageIcon::None;
-    NoticePlace Place;
+    NoticePlace Place{};
     Form Shown = Form::Box;
 };
 

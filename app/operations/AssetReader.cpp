@@ -6,7 +6,6 @@
 #include "document/records/clsPropertyVector.h"
 #include "document/symbols/clsSymbolData.h"
 #include "media/BitmapTreatment.h"
-#include "platform/UserInterface.h"
 #include "platform/paths.h"
 #include "vector/clsVector.h"
 
@@ -29,19 +28,19 @@ BitmapOptions OptionsOf(const clsPropertyBmp& record) {
 }
 
 /// A drawing without what it was meant to show would look like a fault of the program.
-void TellLeftOut(StringView path, const std::vector<String>& features) {
-    String line = GetFileName(path) + u"：次の要素には対応していないため除きました：";
+Notice LeftOut(StringView path, const std::vector<String>& features) {
+    Notice notice;
+    notice.Text = GetFileName(path) + u"：次の要素には対応していないため除きました：";
     for (const String& feature : features)
-        line += (&feature == &features[0] ? u"" : u"、") + feature;
-    CurrentUserInterface().Status(line);
+        notice.Text += (&feature == &features[0] ? u"" : u"、") + feature;
+    notice.Place.File = path;
+    notice.Shown = Notice::Form::Status;
+    return notice;
 }
 
-}  // namespace
-
-bool AssetReader::LoadBitmap(clsSymbolData& symbol) const {
-    clsPropertyBmp& record = *symbol.Property<clsPropertyBmp>();
+bool LoadBitmap(StringView path, clsPropertyBmp& record) {
     BitmapBuffers buffers;
-    if (!SetBitmapData(symbol.FilePathName, OptionsOf(record), buffers)) return false;
+    if (!SetBitmapData(path, OptionsOf(record), buffers)) return false;
     record.blJpeg = buffers.blJpeg;
     record.bufBmp = std::move(buffers.bufBmp);
     record.bufAlpha = std::move(buffers.bufAlpha);
@@ -51,12 +50,21 @@ bool AssetReader::LoadBitmap(clsSymbolData& symbol) const {
     return true;
 }
 
-bool AssetReader::LoadVector(clsSymbolData& symbol) const {
+bool LoadVector(StringView path, clsPropertyVector& record, Notices& told) {
     clsVector reader;
-    const bool loaded = reader.LoadFromFile(symbol.FilePathName);
-    if (!reader.LeftOut.empty()) TellLeftOut(symbol.FilePathName, reader.LeftOut);
-    if (!loaded) return false;
-    symbol.Property<clsPropertyVector>()->SetArtwork(reader.inVector, reader.Width, reader.height);
+    const bool loaded = reader.LoadFromFile(path);
+    if (!reader.LeftOut.empty()) told.push_back(LeftOut(path, reader.LeftOut));
+    if (loaded) record.SetArtwork(reader.inVector, reader.Width, reader.height);
+    return loaded;
+}
+
+}  // namespace
+
+bool AssetReader::LoadFile(clsSymbolData& symbol, Notices& told) const {
+    if (auto* bitmap = symbol.Property<clsPropertyBmp>())
+        return LoadBitmap(symbol.FilePathName, *bitmap);
+    if (auto* vector = symbol.Property<clsPropertyVector>())
+        return LoadVector(symbol.FilePathName, *vector, told);
     return true;
 }
 

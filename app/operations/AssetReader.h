@@ -8,12 +8,15 @@ namespace tamber {
 
 /// Reads the files behind a project's symbols. Pictures and drawings are decoded; of sounds and
 /// videos the program keeps the path alone.
+///
+/// It keeps the glyphs that it has met, so that one reader for all work is much the fastest.
 class AssetReader : public ProjectAssets {
 public:
-    bool LoadBitmap(clsSymbolData& symbol) const override;
-    bool LoadVector(clsSymbolData& symbol) const override;
-    bool LoadSound(clsSymbolData&) const override { return true; }
-    bool LoadMovie(clsSymbolData&) const override { return true; }
+    AssetReader() = default;
+    AssetReader(const AssetReader&) = delete;
+    AssetReader& operator=(const AssetReader&) = delete;
+
+    bool LoadFile(clsSymbolData& symbol, Notices& told) const override;
     bool FontAvailable(StringView name) const override { return FontInstalled(name); }
     String DefaultFont() const override;
     void SetTextSize(clsSymbolData& symbol) const override;

@@ -245,17 +245,19 @@ bool LibraryOperations::ReadAgain() {
     const Collection<clsSymbolData>& library = *session_.colSymbol();
     const SymbolRange range = session_.SelectedSymbols();
     SymbolSet read;
+    Notices told;
     bool all = true;
     for (Long row = range.First; row <= range.Last; ++row) {
         clsSymbolData& symbol = *library(row);
         if (symbol.FilePathName.empty()) continue;
-        if (FileExists(symbol.FilePathName) && session_.Assets().LoadFile(symbol)) {
+        if (FileExists(symbol.FilePathName) && session_.Assets().LoadFile(symbol, told)) {
             read.insert(&symbol);
             continue;
         }
         TellUnreadable(symbol.FilePathName);
         all = false;
     }
+    ShowNotices(told);
     FollowReload(library, read, session_.Assets());
     session_.CloseStep();
     session_.Note(Kind::Symbol);

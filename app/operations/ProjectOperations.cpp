@@ -120,7 +120,7 @@ bool ProjectOperations::Open(StringView path) {
     const String chosen = ExistingProject(path, u"プロジェクトを開く");
     if (chosen.empty()) return false;
     Project opened = session_.inProject;
-    if (!LoadProject(chosen, opened, session_.Assets())) return false;
+    if (!ShowLoad(LoadProject(chosen, opened, session_.Assets()))) return false;
     CloseProject();
     session_.inProject = std::move(opened);
     session_.ProjectFileName = chosen;
@@ -186,7 +186,8 @@ bool ProjectOperations::Import(StringView path, const ChooseImport& choose) {
     Project incoming;
     ImportOptions options;
     Project& project = session_.inProject;
-    if (!LoadProject(chosen, incoming, session_.Assets(), project.SWFVersion)) return false;
+    if (!ShowLoad(LoadProject(chosen, incoming, session_.Assets(), project.SWFVersion)))
+        return false;
     if (!choose(incoming, options)) return false;
     Collection<clsLayer> rows =
         ProjectImport(project, std::move(incoming), std::move(options), session_.Assets()).Run();

@@ -38,9 +38,11 @@ bool ReadText(clsSymbolData& symbol, StringView path, const ProjectAssets& asset
 
 bool ReadFile(clsSymbolData& symbol, StringView path, const ProjectAssets& assets) {
     symbol.FilePathName = path;
-    if (assets.LoadFile(symbol)) return true;
-    TellUnreadable(path);
-    return false;
+    Notices told;
+    const bool read = assets.LoadFile(symbol, told);
+    ShowNotices(told);
+    if (!read) TellUnreadable(path);
+    return read;
 }
 
 }  // namespace

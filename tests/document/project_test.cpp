@@ -2,9 +2,9 @@
 
 #include <filesystem>
 
-#include "document/cells/ProjectFileVersion.h"
 #include "document/ProjectReader.h"
 #include "document/ProjectWriter.h"
+#include "document/cells/ProjectFileVersion.h"
 #include "document/elements/clsLayerFolder.h"
 #include "document/elements/clsObjText.h"
 #include "document/records/clsPropertyBmp.h"
@@ -53,15 +53,13 @@ public:
     bool Readable = true;
     bool HasFonts = true;
 
-    bool LoadBitmap(clsSymbolData& symbol) const override {
-        auto& picture = *symbol.Property<clsPropertyBmp>();
-        picture.Width = 30;
-        picture.height = 20;
+    bool LoadFile(clsSymbolData& symbol, Notices&) const override {
+        if (auto* picture = symbol.Property<clsPropertyBmp>()) {
+            picture->Width = 30;
+            picture->height = 20;
+        }
         return Readable;
     }
-    bool LoadVector(clsSymbolData&) const override { return Readable; }
-    bool LoadSound(clsSymbolData&) const override { return Readable; }
-    bool LoadMovie(clsSymbolData&) const override { return Readable; }
     bool FontAvailable(StringView) const override { return HasFonts; }
     String DefaultFont() const override { return u"ＭＳ ゴシック"; }
     void SetTextSize(clsSymbolData&) const override {}
@@ -145,7 +143,7 @@ protected:
 
     bool Load(const String& text, Project& project) {
         ui_.Messages.clear();
-        return LoadProjectBytes(EncodeAnsi(text), path_, project, assets_);
+        return ShowLoad(LoadProjectBytes(EncodeAnsi(text), path_, project, assets_));
     }
     String Cells(const Project& project) const {
         clsCSV csv;
@@ -242,8 +240,7 @@ TEST_F(ProjectFile, SavesPlainAndCompressedAndReadsByContent) {
     EXPECT_EQ(Cells(again), WholeProject());
     ui_.Messages.clear();
     bytes.resize(bytes.size() / 2);
-    EXPECT_FALSE(LoadProjectBytes(bytes, path_, again, assets_));
-    EXPECT_EQ(ui_.Messages.size(), 1U);
+    EXPECT_EQ(LoadProjectBytes(bytes, path_, again, assets_).Told.size(), 1U);
     EXPECT_EQ(again.colSymbol->Count(), 14);
 }
 
@@ -416,10 +413,9 @@ TEST_F(ProjectFile, CutAtAnyByteLoadsOrSaysWhyNot) {
     const Bytes whole = EncodeAnsi(WholeProject());
     for (std::size_t length = 0; length < whole.size(); ++length) {
         Project project;
-        ui_.Messages.clear();
-        const bool loaded =
+        const ProjectLoad load =
             LoadProjectBytes(ByteView(whole).first(length), path_, project, assets_);
-        ASSERT_EQ(loaded, ui_.Messages.empty()) << length;
+        ASSERT_EQ(load.Done, load.Told.empty()) << length;
     }
 }
 

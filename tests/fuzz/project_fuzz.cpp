@@ -9,23 +9,18 @@ using namespace tamber;
 
 class Silent : public UserInterface {
 public:
-    void Message(StringView, StringView, MessageIcon) override { Told = true; }
+    void Message(StringView, StringView, MessageIcon) override {}
     Answer Ask(StringView, StringView, Choices) override { return Answer::Cancel; }
     String OpenFileDialog(const FileDialog&) override { return u"chosen"; }
     String SaveFileDialog(const FileDialog&) override { return {}; }
     String SelectFolderDialog(StringView) override { return {}; }
     void Progress(StringView, Long, Long) override {}
     void Status(StringView) override {}
-
-    bool Told = false;
 };
 
 class AnyAssets : public ProjectAssets {
 public:
-    bool LoadBitmap(clsSymbolData&) const override { return true; }
-    bool LoadVector(clsSymbolData&) const override { return true; }
-    bool LoadSound(clsSymbolData&) const override { return true; }
-    bool LoadMovie(clsSymbolData&) const override { return true; }
+    bool LoadFile(clsSymbolData&, Notices&) const override { return true; }
     bool FontAvailable(StringView) const override { return true; }
     String DefaultFont() const override { return u"_sans"; }
     void SetTextSize(clsSymbolData&) const override {}
@@ -37,8 +32,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Silent ui;
     const UserInterfaceScope scope(ui);
     Project project;
-    if (!LoadProjectBytes({data, size}, u"/project.kvf", project, AnyAssets())) {
-        if (!ui.Told) __builtin_trap();
+    const ProjectLoad load = LoadProjectBytes({data, size}, u"/project.kvf", project, AnyAssets());
+    if (!load) {
+        if (load.Told.empty()) __builtin_trap();
         return 0;
     }
     clsCSV csv;
