@@ -392,6 +392,38 @@ TEST_P(Removal, brings_back_by_undo_what_fell_with_all_it_refers_to) {
     EXPECT_EQ(ShownInMain(), "-1");
 }
 
+TEST_F(LibraryCommands, a_timelines_own_history_keeps_what_its_symbols_refer_to) {
+    EXPECT_TRUE(mdlPrivateProfile::UndoRedoType(false));
+    EXPECT_TRUE(mdlPrivateProfile::UndoRedoMaxCount(1));
+    ASSERT_TRUE(main_.mnuNew());
+    main_.mnuAddSymbolItem_Sprite(Accept);
+    auto over = AddPicture();
+    const auto button = AddButton(AddPicture());
+    button->Property<clsPropertyButton>()->OverSymbol(over);
+    main_.ChangeSprite(1);
+    Place({button});
+    over = nullptr;
+    Remove(2, 4);
+    // The main history, which kept them too, goes on.
+    main_.ChangeSprite(frmMain::EditMain);
+    for (int i = 0; i < 3; ++i) main_.mnuAddLayer_FrameLabel();
+    main_.ChangeSprite(1);
+    main_.mnuUndoRedo(0);
+    EXPECT_EQ(main_.colEditLayer()->Count(), 1);
+    EXPECT_NE(button->Property<clsPropertyButton>()->OverSymbol(), nullptr);
+}
+
+TEST_F(LibraryCommands, what_is_fixed_follows_when_the_longest_row_goes_with_its_symbol) {
+    Place({AddPicture()});
+    main_.ChangeSelectIndex(1, 1);
+    ASSERT_TRUE(main_.ChangeDispCount(9));
+    EXPECT_EQ(Row(2).Object(1)->endFrame(), 9);
+    Remove(1, 1);
+    EXPECT_EQ(Row(1).Object(1)->endFrame(), 1);
+    main_.mnuUndoRedo(0);
+    EXPECT_EQ(Row(2).Object(1)->endFrame(), 9);
+}
+
 TEST_P(Removal, empties_all_timelines_and_undo_fills_them) {
     const auto picture = AddPicture();
     const auto kept = AddPicture();

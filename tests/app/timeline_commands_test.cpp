@@ -248,8 +248,13 @@ TEST_F(TimelineCommands, rows_are_cut_and_pasted_above_the_selected_one) {
     EXPECT_EQ(Rows(*main_.colEditLayer()), "c a b a b ");
     EXPECT_EQ(main_.SelIndex1(), 2);
     EXPECT_EQ(main_.SelIndex2(), 3);
+    main_.ChangeSelectIndex(4, 3);
+    main_.mnuRemoveLayer();
+    EXPECT_EQ(Rows(*main_.colEditLayer()), "c a b ");
+    EXPECT_EQ(main_.SelIndex1(), 3);
+    EXPECT_EQ(main_.SelIndex2(), 3);
     main_.ChangeSelectIndex(1, 99);
-    EXPECT_EQ(main_.SelIndex2(), 6);
+    EXPECT_EQ(main_.SelIndex2(), 4);
     main_.mnuRemoveLayer();
     EXPECT_EQ(main_.colEditLayer()->Count(), 1);
     main_.mnuAddLayer_Folder(u"箱");

@@ -257,6 +257,8 @@ TEST_F(AuthoringTest, labels_stand_first_in_their_frame_once) {
     auto& anchor = *AddKeyFrame(*layer, 2, 1).ObjectAs<clsObjFrameLabel>();
     anchor.LabelName = u"b";
     anchor.blAnchor = true;
+    const auto again = AddLayer(layer->SymbolData());
+    AddKeyFrame(*again, 1, 1).ObjectAs<clsObjFrameLabel>()->LabelName = u"a";
     const ParsedMovie movie = Build();
     EXPECT_EQ(movie.Codes(), (std::vector<Long>{9, 43, 1, 43, 1, 0}));
     EXPECT_EQ(movie.Bodies(43)[0], (Bytes{'a', 0}));
