@@ -94,7 +94,7 @@ bool frmMain::WriteSnapshot(StringView folder, Long frame) {
     snapshot_.Ver = inProject.SWFVersion;
     snapshot_.FrameRate = inProject.FrameRate;
     snapshot_.inFontAdmin = RefreshFontAdmin(*colSymbol(), inProject.SWFVersion);
-    if (!WriteEditSnapshot(snapshot_, *colSymbol(), request, CanvasColor(), path, snapshotTags_))
+    if (!WriteEditSnapshot(snapshot_, request, CanvasColor(), path, snapshotTags_))
         return false;
     if (snapshotPath_ != path) DeleteSnapshot();
     snapshotPath_ = path;
