@@ -72,7 +72,7 @@ void Build(const WalkProject& project) {
     request.Layers = &project.layers;
     request.blCompress = false;
     request.Path = OutputPath();
-    if (!mdlSWFAuthoring::BuildMovie(request)) std::abort();
+    if (!mdlSWFAuthoring::BuildMovie(request).Written) std::abort();
 }
 
 double PeakBytes() {
@@ -112,7 +112,7 @@ void Snapshot(benchmark::State& state) {
     request.Frame = FrameCount / 2;
     PlacedTags placed;
     for (auto _ : state)
-        if (!WriteEditSnapshot(admin, project.library, request, 0, OutputPath(), placed))
+        if (!WriteEditSnapshot(admin, request, 0, OutputPath(), placed))
             std::abort();
 }
 BENCHMARK(Snapshot)->Unit(benchmark::kMillisecond);

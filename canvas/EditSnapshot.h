@@ -10,8 +10,7 @@ namespace tamber {
 /// and fonts, and is empty again behind it; `backColor` has red in the low byte. `placed` gets the
 /// placements, for hit tests. Nothing is said; false when the file could not be written: an earlier
 /// one, and `placed`, then stay.
-bool WriteEditSnapshot(clsSWFAdmin& admin, const Collection<clsSymbolData>& library,
-                       const SnapshotRequest& snapshot, Long backColor, StringView path,
-                       PlacedTags& placed);
+bool WriteEditSnapshot(clsSWFAdmin& admin, const SnapshotRequest& snapshot, Long backColor,
+                       StringView path, PlacedTags& placed);
 
 }  // namespace tamber

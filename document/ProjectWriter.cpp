@@ -1,7 +1,5 @@
 #include "document/ProjectWriter.h"
 
-#include <zlib.h>
-
 #include <algorithm>
 #include <vector>
 
@@ -16,6 +14,7 @@
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/text.h"
+#include "swf/mdlZlib.h"
 
 namespace tamber {
 
@@ -58,17 +57,13 @@ void SaveLayers(clsCSV& csv, const Collection<clsLayer>& layers) {
     for (const auto& layer : layers) layer->Save(csv);
 }
 
+/// "KVFZ", the size of the text in 4 bytes, little-endian, and its zlib stream.
 Bytes Compressed(const Bytes& text) {
-    uLongf size = static_cast<uLongf>(text.size() + text.size() / 100 + 12);
     Bytes out{'K', 'V', 'F', 'Z'};
     for (const int shift : {0, 8, 16, 24})
         out.push_back(static_cast<Byte>(text.size() >> shift & 255));
-    const std::size_t head = out.size();
-    size = std::max(size, compressBound(static_cast<uLong>(text.size())));
-    out.resize(head + size);
-    if (compress(out.data() + head, &size, text.data(), static_cast<uLong>(text.size())) != Z_OK)
-        throw RuntimeError(ErrorOverflow, u"SaveProject", u"");
-    out.resize(head + size);
+    const Bytes stream = mdlZlib::ZlibCompress(text);
+    out.insert(out.end(), stream.begin(), stream.end());
     return out;
 }
 

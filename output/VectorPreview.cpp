@@ -21,17 +21,17 @@ SwfRect Union(const SwfRect& a, const SwfRect& b) {
             std::max(a.yMax, b.yMax)};
 }
 
-SwfRect StageOf(const clsPropertyVector& record, const clsPropertyVector* end) {
+SwfRect StageOf(const clsPropertyVector& record, const clsPropertyVector* end, Long version) {
     if (end == nullptr) return {0, 0, record.Width * TwipsPerPixel, record.height * TwipsPerPixel};
-    return Union(record.inVector2(false)->inSWFTShapeRecords->GetBounds(false),
-                 end->inVector2(false)->inSWFTShapeRecords->GetBounds(false));
+    return Union(record.inVector2(false, version)->inSWFTShapeRecords->GetBounds(false),
+                 end->inVector2(false, version)->inSWFTShapeRecords->GetBounds(false));
 }
 
 /// The record that a record can morph into, else null.
-const clsPropertyVector* MorphTarget(const clsPropertyVector& record) {
+const clsPropertyVector* MorphTarget(const clsPropertyVector& record, Long version) {
     const auto target = record.MorphSymbol();
     const auto* end = target ? target->Property<clsPropertyVector>() : nullptr;
-    return end != nullptr && record.CheckMorph(*end) == 0 ? end : nullptr;
+    return end != nullptr && record.CheckMorph(*end, version) == 0 ? end : nullptr;
 }
 
 void PlaceMorph(clsSWFAdmin& admin, const clsSWFTagPlaceObject& first, Long frames) {
@@ -56,24 +56,25 @@ bool PreView(const clsPropertyVector& record, Long version, Long morphFrames, St
     mdlSWFTag::swfVersion(version);
     clsSymbolData symbol(KindVector);
     record.CopyTo(*symbol.PropertyData());
-    const clsPropertyVector* end = MorphTarget(record);
+    const clsPropertyVector* end = MorphTarget(record, version);
     clsSWFAdmin admin;
     admin.Ver = version;
     // A pair that cannot morph is shown as it stands.
     if (end == nullptr) symbol.Property<clsPropertyVector>()->MorphSymbol(nullptr);
-    DefineVector({admin, admin, 1}, symbol);
-    if (symbol.DefineID() == 0) return false;
+    Notices told;
+    const Long last = DefineVector({admin, admin, 1, told}, symbol, VectorForm::Plain);
+    if (last == 0) return false;
 
-    const SwfRect stage = StageOf(record, end);
+    const SwfRect stage = StageOf(record, end, version);
     admin.SetDimension(stage.xMin, stage.xMax, stage.yMin, stage.yMax, 0);
     auto tag = std::make_shared<clsSWFTagPlaceObject>();
     tag->depth = PreviewDepth;
     tag->PlaceCnt = record.blDivide ? record.ShapeCount() : 1;
-    tag->PlaceID = symbol.DefineID() + 1 - tag->PlaceCnt;
+    tag->PlaceID = last + 1 - tag->PlaceCnt;
     if (end != nullptr) tag->Ratio(0);
     admin.AddPlaceObj(1, tag);
     if (end != nullptr) PlaceMorph(admin, *tag, morphFrames);
-    return admin.Save(path);
+    return admin.Save(path, told);
 }
 
 }  // namespace tamber

@@ -10,12 +10,12 @@ namespace tamber {
 /// What a notice is about; 0 or empty for what does not apply.
 struct NoticePlace {
     Long SymbolID = 0;
-    String Layer;  ///< name of the row, as the table shows it
+    String Layer{};  ///< name of the row, as the table shows it
     Long Frame = 0;
     Long Line = 0;    ///< of a script, from 1
     Long Offset = 0;  ///< UTF-16 units from the beginning of the script
-    String Token;     ///< of the script
-    String File;
+    String Token{};   ///< of the script
+    String File{};
 };
 
 /// What a reader, a generation or the model has to tell a person. Whoever started the work shows

@@ -2,24 +2,27 @@
 
 #include <algorithm>
 
+#include "platform/codepage.h"
 #include "platform/text.h"
 #include "script/EventBlock.h"
 #include "script/InitBlock.h"
-#include "script/ScriptCompilation.h"
 #include "script/ScriptPreprocessor.h"
 #include "script/ScriptScanner.h"
+#include "script/compiler/Diagnostics.h"
 
 namespace tamber {
 
 namespace {
 
 constexpr StringView SyntaxFault = u"文法に誤りがあります。";
-/// Stands behind the number of a line.
-constexpr StringView LineWord = u"行目";
 
 /// A fault at a line, with the line's number in the message.
 ScriptCheckResult FaultAt(Long line, StringView text, StringView more = {}) {
-    return {false, line, String(text) + u"（行番号：" + ToText(line) + u"）" + String(more)};
+    ScriptCheckResult result;
+    result.Ok = false;
+    result.Line = line;
+    result.Message = String(text) + u"（行番号：" + ToText(line) + u"）" + String(more);
+    return result;
 }
 
 ScriptCheckResult IncludeFault(Long result, const ScriptPreprocessor& preprocessor) {
@@ -43,12 +46,13 @@ void BlankOut(String& script, const InitBlock& block) {
 class ExpandedCheck {
 public:
     /// `lines` knows where the script's lines come from.
-    ExpandedCheck(const ScriptPreprocessor& lines, Long version, bool hasInitBlocks)
-        : lines_(lines), version_(version), hasInitBlocks_(hasInitBlocks) {}
+    ExpandedCheck(const ScriptPreprocessor& lines, ScriptCompiler& compiler, bool hasInitBlocks)
+        : lines_(lines), compiler_(compiler), hasInitBlocks_(hasInitBlocks) {}
 
     ScriptCheckResult Frame(String script) const {
         std::vector<InitBlock> blocks;
-        if (hasInitBlocks_ && version_ >= InitClipVersion && !FindInitBlocks(script, blocks))
+        if (hasInitBlocks_ && compiler_.Version() >= InitClipVersion &&
+            !FindInitBlocks(script, blocks))
             return FaultOf(script, blocks.back().StartPos, blocks.back().Text);
         for (const InitBlock& block : blocks) {
             const ScriptCheckResult result = Text(script, block.BodyPos, block.Text);
@@ -62,7 +66,7 @@ public:
         EventBlock block;
         for (Long pos = 0;;) {
             ++pos;
-            if (!ParseEventBlock(script, pos, block, kind, version_))
+            if (!ParseEventBlock(script, pos, block, kind, compiler_.Version()))
                 return FaultOf(script, block.Position, block.Text);
             if (pos == 0) return {};
             const ScriptCheckResult result = Text(script, block.Position, block.Text);
@@ -72,57 +76,67 @@ public:
 
 private:
     ScriptCheckResult FaultOf(StringView script, Long pos, StringView text) const {
-        return FaultAt(lines_.OuterLine(ScriptScanner::LineOf(script, pos)), text);
+        ScriptCheckResult result =
+            FaultAt(lines_.OuterLine(ScriptScanner::LineOf(script, pos)), text);
+        if (!lines_.HasIncluded()) result.Offset = std::max(pos - 1, 0);
+        return result;
     }
 
     /// `pos` is where the text begins in the script.
     ScriptCheckResult Text(StringView script, Long pos, StringView text) const {
-        Bytes bytes;
-        if (CompileActionScript(bytes, text, version_, true)) return {};
-        // Behind as many line ends as in the script each line that the diagnostics name is right.
-        const auto linesBefore = static_cast<std::size_t>(ScriptScanner::LineOf(script, pos) - 1);
-        CompileActionScript(bytes, String(linesBefore, u'\n').append(text), version_, true);
-        const CompilerDiagnostic fault = ParseCompilerDiagnostic(bytes, 1);
+        const CompiledScript& compiled = compiler_.Compile(text);
+        if (compiled.IsCompiled()) return {};
+        const Long linesBefore = ScriptScanner::LineOf(script, pos) - 1;
+        const Diagnostic first = InScript(compiled.Errors.front(), linesBefore);
+        String header = u" " + DiagnosticMessage(first);
+        for (std::size_t i = 1; i < compiled.Errors.size(); ++i)
+            header += u"\r\n" + LineOf(compiled.Errors[i], linesBefore);
+        String tail;
+        for (const Diagnostic& warning : compiled.Warnings)
+            tail += (tail.empty() ? u" " : u"\r\n") + LineOf(warning, linesBefore);
+        const String token = TokenText(first.Token, compiler_.Version());
         const String rule(37, u'-');
-        return FaultAt(lines_.OuterLine(fault.Line), SyntaxFault,
-                       u"\r\n\r\n[" + fault.Token + u"]\r\n\r\n" + rule + u"\r\n" +
-                           WithOuterLines(fault.Header) + u"\r\n" + rule + u"\r\n" +
-                           WithOuterLines(fault.Tail));
-    }
-
-    /// Messages that follow the first begin with their lines.
-    String WithOuterLines(StringView text) const {
-        String result;
-        while (!text.empty()) {
-            const std::size_t end = std::min(text.find(u'\n'), text.size() - 1) + 1;
-            StringView line = text.substr(0, end);
-            text.remove_prefix(end);
-            const std::size_t digits = std::min(line.find_first_not_of(u"0123456789"), line.size());
-            if (digits > 0 && line.substr(digits).starts_with(LineWord)) {
-                result += ToText(lines_.OuterLine(LeadingNumber(line)));
-                line.remove_prefix(digits);
-            }
-            result += line;
-        }
+        ScriptCheckResult result =
+            FaultAt(first.Line, SyntaxFault,
+                    InCodePage(u"\r\n\r\n[" + token + u"]\r\n\r\n" + rule + u"\r\n" + header +
+                               u"\r\n" + rule + u"\r\n" + tail));
+        result.Token = token;
+        if (!lines_.HasIncluded())
+            result.Offset = pos - 1 + OffsetOf(first, text, compiler_.Version());
         return result;
     }
 
+    /// The compiler's messages are told in the code page, whatever the script's characters.
+    static String InCodePage(StringView text) { return DecodeAnsi(EncodeAnsi(text)); }
+
+    String LineOf(const Diagnostic& diagnostic, Long linesBefore) const {
+        return DiagnosticLine(InScript(diagnostic, linesBefore), compiler_.Version());
+    }
+
+    /// A diagnostic of a text that stands behind some lines of the script.
+    Diagnostic InScript(Diagnostic diagnostic, Long linesBefore) const {
+        diagnostic.Line = lines_.OuterLine(diagnostic.Line + linesBefore);
+        if (diagnostic.OpenLine != 0)
+            diagnostic.OpenLine = lines_.OuterLine(diagnostic.OpenLine + linesBefore);
+        return diagnostic;
+    }
+
     const ScriptPreprocessor& lines_;
-    Long version_;
+    ScriptCompiler& compiler_;
     bool hasInitBlocks_;
 };
 
 /// Included texts are compiled by themselves first, and then where they stand.
-ScriptCheckResult CheckFrame(StringView script, ScriptPreprocessor& preprocessor, Long version,
-                             bool hasInitBlocks) {
+ScriptCheckResult CheckFrame(StringView script, ScriptPreprocessor& preprocessor,
+                             ScriptCompiler& compiler, bool hasInitBlocks) {
     preprocessor.CompileInclude = [&](const String& text) {
-        return ExpandedCheck(ScriptPreprocessor(), version, hasInitBlocks).Frame(text).Ok;
+        return ExpandedCheck(ScriptPreprocessor(), compiler, hasInitBlocks).Frame(text).Ok;
     };
     String text(script);
     Long failed = preprocessor.PreprocessScript(text, {});
     preprocessor.CompileInclude = nullptr;
     if (failed != 0) return IncludeFault(failed, preprocessor);
-    const ExpandedCheck check(preprocessor, version, hasInitBlocks);
+    const ExpandedCheck check(preprocessor, compiler, hasInitBlocks);
     const ScriptCheckResult result = check.Frame(std::move(text));
     if (!result.Ok || !preprocessor.HasIncluded()) return result;
     text = script;
@@ -131,11 +145,11 @@ ScriptCheckResult CheckFrame(StringView script, ScriptPreprocessor& preprocessor
 }
 
 ScriptCheckResult CheckEvents(StringView script, ScriptPreprocessor& preprocessor, ScriptKind kind,
-                              Long version) {
+                              ScriptCompiler& compiler) {
     String text(script);
     const Long failed = preprocessor.PreprocessScript(text, {});
     if (failed != 0) return IncludeFault(failed, preprocessor);
-    return ExpandedCheck(preprocessor, version, false)
+    return ExpandedCheck(preprocessor, compiler, false)
         .Events(text, kind == ScriptKind::Button ? EventScript::Button : EventScript::Clip);
 }
 
@@ -143,11 +157,17 @@ ScriptCheckResult CheckEvents(StringView script, ScriptPreprocessor& preprocesso
 
 ScriptCheckResult CheckScript(StringView script, ScriptKind kind, Long version,
                               StringView projectFolder, bool hasInitBlocks) {
+    ScriptCompiler compiler(version);
+    return CheckScript(script, kind, compiler, projectFolder, hasInitBlocks);
+}
+
+ScriptCheckResult CheckScript(StringView script, ScriptKind kind, ScriptCompiler& compiler,
+                              StringView projectFolder, bool hasInitBlocks) {
     ScriptPreprocessor preprocessor;
     preprocessor.ProjectFolder = projectFolder;
     ScriptCheckResult result = kind == ScriptKind::Frame
-                                   ? CheckFrame(script, preprocessor, version, hasInitBlocks)
-                                   : CheckEvents(script, preprocessor, kind, version);
+                                   ? CheckFrame(script, preprocessor, compiler, hasInitBlocks)
+                                   : CheckEvents(script, preprocessor, kind, compiler);
     if (result.Ok) result.Message = u"構文エラーはありません。";
     return result;
 }

@@ -10,8 +10,6 @@ namespace tamber {
 
 namespace {
 
-constexpr Long UnicodeVersion = 6;
-constexpr char16_t Substitute = 0x1A;
 constexpr Long NarrowEvents = 0xFFFF;
 
 /// Takes the first line off a text; its end is LF.
@@ -46,11 +44,7 @@ StringView BetweenQuotes(StringView text) {
 }  // namespace
 
 bool CompileActionScript(Bytes& result, StringView text, Long version, bool unicodeAllowed) {
-    String source = ReplaceAll(ReplaceAll(text, u"\r\n", u"\n"), u"\r", u"\n");
-    // A NUL would end the text there without a word; this is no part of the language.
-    std::replace(source.begin(), source.end(), u'\0', Substitute);
-    Bytes bytes =
-        unicodeAllowed && version >= UnicodeVersion ? EncodeUtf8(source) : EncodeAnsi(source);
+    Bytes bytes = CompilerSource(text, version, unicodeAllowed);
     bytes.push_back(0);
     const Byte* out = nullptr;
     Long length = 0;
@@ -87,7 +81,8 @@ CompilerDiagnostic ParseCompilerDiagnostic(ByteView bytes, Long firstLine) {
 }
 
 bool CompileEventBlocks(std::vector<SwfEventActions>& result, StringView script, EventScript kind,
-                        Long version) {
+                        ScriptCompiler& compiler) {
+    const Long version = compiler.Version();
     result.clear();
     EventBlock block;
     for (Long pos = 0;;) {
@@ -95,7 +90,10 @@ bool CompileEventBlocks(std::vector<SwfEventActions>& result, StringView script,
         SwfEventActions actions;
         const bool read = ParseEventBlock(script, pos, block, kind, version);
         if (read && pos == 0) return true;
-        if (!read || !CompileActionScript(actions.Actions, block.Text, version, true)) break;
+        if (!read) break;
+        const CompiledScript& compiled = compiler.Compile(block.Text);
+        if (!compiled.IsCompiled()) break;
+        actions.Actions = compiled.Actions;
         if (actions.Actions.empty()) continue;
         actions.Flags = version < WideEventVersion ? block.Flags & NarrowEvents : block.Flags;
         // An entry without events would end the list.

@@ -4,6 +4,7 @@
 
 #include "platform/types.h"
 #include "script/EventBlock.h"
+#include "script/ScriptCompiler.h"
 #include "swf/tags/SwfEventActions.h"
 
 namespace tamber {
@@ -27,6 +28,6 @@ CompilerDiagnostic ParseCompilerDiagnostic(ByteView bytes, Long firstLine);
 /// Compiles the event blocks of a script, those without actions and those for events that the
 /// version does not have left out. False when one has a fault; there are no actions then.
 bool CompileEventBlocks(std::vector<SwfEventActions>& result, StringView script, EventScript kind,
-                        Long version);
+                        ScriptCompiler& compiler);
 
 }  // namespace tamber

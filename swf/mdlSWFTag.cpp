@@ -320,6 +320,13 @@ void EndTagShortest(Long tagCode, std::size_t bodyStart) {
     swfBytePos(swfBytePos() - 4);
 }
 
+ByteView TakeBack(std::size_t start) {
+    SetAlign();
+    const ByteView bytes(stream.buffer.data() + start, stream.bytePos - start);
+    stream.bytePos = start;
+    return bytes;
+}
+
 void PatchBytes(std::size_t position, Long byteCount, Long value) {
     Store(stream.buffer.data() + position, byteCount, value);
 }

@@ -174,6 +174,9 @@ std::size_t BeginTag(Long tagCode);
 void EndTag(std::size_t bodyStart);
 /// As EndTag, but a body below 63 bytes moves down behind a short header.
 void EndTagShortest(Long tagCode, std::size_t bodyStart);
+/// The bytes from `start` on, which are taken off the stream again; they stand until the next
+/// write.
+ByteView TakeBack(std::size_t start);
 /// Overwrites bytes already written, little-endian.
 void PatchBytes(std::size_t position, Long byteCount, Long value);
 

@@ -6,7 +6,7 @@
 
 namespace tamber::mdlZlib {
 
-/// The zlib stream of `bytes` at the default level.
+/// The zlib stream of `bytes`, no longer than zlib's default level makes it.
 Bytes ZlibCompress(ByteView bytes);
 
 /// What a zlib stream holds; nothing when it is damaged, ends early, or would give more than

@@ -76,7 +76,7 @@ bool CanvasOperations::WriteInto(StringView folder, Long frame) {
     snapshot_.Ver = session_.inProject.SWFVersion;
     snapshot_.FrameRate = session_.inProject.FrameRate;
     snapshot_.inFontAdmin = RefreshFontAdmin(library, session_.inProject.SWFVersion);
-    if (!WriteEditSnapshot(snapshot_, library, request, BackColor(), path, tags_)) return false;
+    if (!WriteEditSnapshot(snapshot_, request, BackColor(), path, tags_)) return false;
     if (path_ != path) Delete();
     path_ = path;
     return true;

@@ -284,7 +284,10 @@ bool ProjectOperations::Author(StringView path) {
     request.blTopToBottom = mdlPrivateProfile::flgTopToBottom();
     String anchors;
     request.AnchorLabels = &anchors;
-    if (!mdlSWFAuthoring::BuildMovie(request)) return false;
+    const MovieOutcome outcome = mdlSWFAuthoring::BuildMovie(request);
+    ShowNotices(outcome.Told);
+    if (!outcome.Written) return false;
+    outcome.Identifiers.ShowIn(*project.colSymbol);
     if (mdlPrivateProfile::flgMakeHTML()) WritePage(path, anchors);
     const auto elapsed = std::chrono::duration_cast<std::chrono::milliseconds>(
         std::chrono::steady_clock::now() - begin);

@@ -22,8 +22,6 @@ public:
     clsButtonMatrix matrixUP;
     clsButtonMatrix matrixDown;
     clsButtonMatrix matrixOver;
-    /// Made in a generation, not stored.
-    std::shared_ptr<clsSymbolData> AutoHitTestSymbol;
 
     std::shared_ptr<clsSymbolData> UpSymbol() const { return up_.lock(); }
     void UpSymbol(const std::shared_ptr<clsSymbolData>& symbol) { up_ = symbol; }
@@ -47,7 +45,6 @@ public:
     Long eType() const override { return KindButton; }
     std::optional<String> Name() const override { return ButtonName; }
     bool HasInstanceName() const override { return true; }
-    void ForgetBuild() override { AutoHitTestSymbol.reset(); }
     void Load(clsCSV& csv) override;
     void Save(clsCSV& csv) const override;
     void CopyTo(clsPropertyData& target) const override { CopyRecord(*this, target); }

@@ -2,7 +2,6 @@
 
 #include "document/symbols/clsSymbolData.h"
 #include "platform/twips.h"
-#include "swf/mdlSWFTag.h"
 #include "vector/MorphCheck.h"
 #include "vector/ShapeFlattening.h"
 
@@ -52,29 +51,30 @@ Long clsPropertyVector::ShapeCount() const {
     return inVector ? static_cast<Long>(inVector->colShapeData.size()) : 1;
 }
 
-std::optional<LineOptions> clsPropertyVector::OptionsInForce() const {
-    if (!blLineOption || mdlSWFTag::swfVersion() < LineOptionVersion) return std::nullopt;
+std::optional<LineOptions> clsPropertyVector::OptionsInForce(Long version) const {
+    if (!blLineOption || version < LineOptionVersion) return std::nullopt;
     return LineOptions{blNoLineScale, blPixelHinting, CapStyle, JoinStyle, MiterLimit};
 }
 
-std::shared_ptr<clsVectorData2> clsPropertyVector::inVector2(bool blKeepStyles) const {
+std::shared_ptr<clsVectorData2> clsPropertyVector::inVector2(bool blKeepStyles,
+                                                             Long version) const {
     static const clsVectorData empty;
     const clsVectorData& artwork = inVector ? *inVector : empty;
-    const auto options = OptionsInForce();
+    const auto options = OptionsInForce(version);
     const LineOptions* given = options ? &*options : nullptr;
     return blKeepStyles ? FlattenKeepingStyles(artwork, given)
                         : FlattenIntoOneTable(artwork, given);
 }
 
-std::shared_ptr<clsVectorData2> clsPropertyVector::SetPrmVector2(
-    const clsVectorData2& shape) const {
-    const auto options = OptionsInForce();
+std::shared_ptr<clsVectorData2> clsPropertyVector::SetPrmVector2(const clsVectorData2& shape,
+                                                                 Long version) const {
+    const auto options = OptionsInForce(version);
     return WithLineOptions(shape, options ? &*options : nullptr);
 }
 
-Long clsPropertyVector::CheckMorph(const clsPropertyVector& other) const {
+Long clsPropertyVector::CheckMorph(const clsPropertyVector& other, Long version) const {
     if (!inVector || !other.inVector) return MorphCheck::ShapeCount;
-    return tamber::CheckMorph(*inVector, *other.inVector, mdlSWFTag::swfVersion());
+    return tamber::CheckMorph(*inVector, *other.inVector, version);
 }
 
 void clsPropertyVector::CopyToLineOption(clsPropertyVector& target) const {

@@ -33,13 +33,13 @@ public:
 
     /// Shapes of the drawing; one that is not read counts as one shape.
     Long ShapeCount() const override;
-    /// The drawing as one shape with the line options, which count from version 8 of the movie on:
-    /// with the styles of each piece kept apart, or in one table as a morph needs it.
-    std::shared_ptr<clsVectorData2> inVector2(bool blKeepStyles) const;
+    /// The drawing as one shape with the line options, which count from `version` 8 of the movie
+    /// on: with the styles of each piece kept apart, or in one table as a morph needs it.
+    std::shared_ptr<clsVectorData2> inVector2(bool blKeepStyles, Long version) const;
     /// A copy of one shape of the drawing with the line options.
-    std::shared_ptr<clsVectorData2> SetPrmVector2(const clsVectorData2& shape) const;
-    /// One of the results of MorphCheck.
-    Long CheckMorph(const clsPropertyVector& other) const;
+    std::shared_ptr<clsVectorData2> SetPrmVector2(const clsVectorData2& shape, Long version) const;
+    /// One of the results of MorphCheck, for a movie of a version.
+    Long CheckMorph(const clsPropertyVector& other, Long version) const;
     void CopyToLineOption(clsPropertyVector& target) const;
     /// The drawing, stretched over the four corners when `blFreeTrans` says so.
     void SetArtwork(std::shared_ptr<const clsVectorData> artwork, Long width, Long pixelHeight);
@@ -59,7 +59,7 @@ public:
     void CopyTo(clsPropertyData& target) const override { CopyRecord(*this, target); }
 
 private:
-    std::optional<LineOptions> OptionsInForce() const;
+    std::optional<LineOptions> OptionsInForce(Long version) const;
 
     std::weak_ptr<clsSymbolData> morph_;
 };

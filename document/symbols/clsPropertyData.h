@@ -41,8 +41,6 @@ public:
     virtual Long RowsBelow() const { return -1; }
     /// Adds to the row count of a folder.
     virtual void AddRows(Long) {}
-    /// Lets go of what a generation left.
-    virtual void ForgetBuild() {}
     virtual void Load(clsCSV& csv) = 0;
     virtual void Save(clsCSV& csv) const = 0;
     /// Copies into a record of the same class; any other raises.

@@ -67,7 +67,6 @@ void clsSymbolData::PropertyData(std::shared_ptr<clsPropertyData> record) {
 
 void clsSymbolData::InitDefineID() {
     defined_ = {};
-    if (property_) property_->ForgetBuild();
 }
 
 String clsSymbolData::TypeTextEx() const {

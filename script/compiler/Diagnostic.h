@@ -17,6 +17,8 @@ struct Diagnostic {
     std::string Token;
     /// For a person.
     String Text;
+    /// Line of the { that is not closed, for what is said of one; else 0.
+    Long OpenLine = 0;
 };
 
 }  // namespace tamber

@@ -19,7 +19,7 @@ bool ComesBefore(const Diagnostic& a, const Diagnostic& b) {
 
 Diagnostic Made(Spot spot, std::string_view token, String text) {
     return {static_cast<Long>(spot.Line), spot.Offset, std::string(token.substr(0, MaxTokenBytes)),
-            std::move(text)};
+            std::move(text), 0};
 }
 
 /// As many as are kept, in the order of their lines.
@@ -28,12 +28,6 @@ void MergeLists(std::vector<Diagnostic>& list, const std::vector<Diagnostic>& ot
     list.insert(list.end(), others.begin(), others.end());
     std::stable_sort(list.begin(), list.end(), ComesBefore);
     if (list.size() > limit) list.resize(limit);
-}
-
-String Place(const Diagnostic& diagnostic, Long version) {
-    String text = ToText(diagnostic.Line) + u"行目";
-    if (!diagnostic.Token.empty()) text += u" [" + TokenText(diagnostic.Token, version) + u"]";
-    return text + u" " + diagnostic.Text;
 }
 
 }  // namespace
@@ -49,8 +43,10 @@ String TokenText(const std::string& token, Long version) {
     return text;
 }
 
-void Diagnostics::Error(Spot spot, std::string_view token, String text) {
-    if (!IsFull()) errors_.push_back(Made(spot, token, std::move(text)));
+void Diagnostics::Error(Spot spot, std::string_view token, String text, Long openLine) {
+    if (IsFull()) return;
+    errors_.push_back(Made(spot, token, std::move(text)));
+    errors_.back().OpenLine = openLine;
 }
 
 void Diagnostics::Warn(Spot spot, std::string_view token, String text) {
@@ -62,14 +58,27 @@ void Diagnostics::Merge(const Diagnostics& other) {
     MergeLists(warnings_, other.warnings_, MaxWarnings);
 }
 
+String DiagnosticMessage(const Diagnostic& diagnostic) {
+    if (diagnostic.OpenLine == 0) return diagnostic.Text;
+    return diagnostic.Text + u"（" + ToText(diagnostic.OpenLine) +
+           u"行目の { が閉じられていません。）";
+}
+
+String DiagnosticLine(const Diagnostic& diagnostic, Long version) {
+    String text = ToText(diagnostic.Line) + u"行目";
+    if (!diagnostic.Token.empty()) text += u" [" + TokenText(diagnostic.Token, version) + u"]";
+    return text + u" " + DiagnosticMessage(diagnostic);
+}
+
 std::string DiagnosticText(const std::vector<Diagnostic>& errors,
                            const std::vector<Diagnostic>& warnings, Long version) {
     const Diagnostic& first = errors.front();
-    String text = u"Error: " + first.Text + u"\n";
-    for (std::size_t i = 1; i < errors.size(); ++i) text += Place(errors[i], version) + u"\n";
+    String text = u"Error: " + DiagnosticMessage(first) + u"\n";
+    for (std::size_t i = 1; i < errors.size(); ++i)
+        text += DiagnosticLine(errors[i], version) + u"\n";
     text += u"Line " + ToText(first.Line) + u": '" + TokenText(first.Token, version) + u"'\n";
     for (std::size_t i = 0; i < warnings.size(); ++i)
-        text += (i == 0 ? u"Warning: " : u"") + Place(warnings[i], version) + u"\n";
+        text += (i == 0 ? u"Warning: " : u"") + DiagnosticLine(warnings[i], version) + u"\n";
     const Bytes bytes = EncodeAnsi(text);
     return {bytes.begin(), bytes.end()};
 }

@@ -15,7 +15,7 @@ public:
     static constexpr std::size_t MaxErrors = 20;
     static constexpr std::size_t MaxWarnings = 50;
 
-    void Error(Spot spot, std::string_view token, String text);
+    void Error(Spot spot, std::string_view token, String text, Long openLine = 0);
     void Warn(Spot spot, std::string_view token, String text);
     bool HasErrors() const { return !errors_.empty(); }
     bool IsFull() const { return errors_.size() >= MaxErrors; }
@@ -32,6 +32,10 @@ private:
 /// A token of the source as a message shows it: one line, not too long, without single quotes,
 /// which enclose a token.
 String TokenText(const std::string& token, Long version);
+
+/// What a diagnostic says, and, in a list of several, with its line and token before it.
+String DiagnosticMessage(const Diagnostic& diagnostic);
+String DiagnosticLine(const Diagnostic& diagnostic, Long version);
 
 /// The text of a failed run, in code page 932, lines ended by LF: "Error: " and the first error's
 /// text, a line for each further error, "Line N: 'token'" for the first, then, when there are

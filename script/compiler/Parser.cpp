@@ -278,9 +278,8 @@ void Parser::StatementsUntilBrace(NodeList& list) {
     const Spot spot = token_.At;
     while (!Is(TokenKind::CloseBrace)) {
         if (Is(TokenKind::End)) {
-            Complain(token_.At, {},
-                     u"} が必要です。（" + ToText(static_cast<Long>(spot.Line)) +
-                         u"行目の { が閉じられていません。）");
+            if (!isHopeless_)
+                diagnostics_.Error(token_.At, {}, u"} が必要です。", static_cast<Long>(spot.Line));
             throw HopelessError();
         }
         WarnOfUnreachable(list.Last);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <set>
+#include <unordered_map>
 #include <vector>
 
 #include "swf/authoring/ButtonDefinition.h"
@@ -34,7 +35,8 @@ struct Timeline {
 /// One build: defines symbols on first need and walks the timelines.
 class Authoring {
 public:
-    Authoring(const MovieRequest& request, clsSWFAdmin& movie) : request_(request), movie_(movie) {}
+    Authoring(const MovieRequest& request, clsSWFAdmin& movie, Notices& told)
+        : Scripts(mdlSWFTag::swfVersion(), told), request_(request), movie_(movie), told_(told) {}
 
     /// Notes which exported sprites belong to which class.
     void CollectClassLinks();
@@ -46,32 +48,39 @@ public:
     /// frame.
     PlacedTags WriteFrameSnapshot(clsSWFAdmin& admin, const SnapshotRequest& snapshot);
 
+    /// What has been defined. Nothing can be defined behind this.
+    DefinitionTable TakeIdentifiers() { return std::move(identifiers_); }
+
     MovieScripts Scripts;
 
 private:
     /// `layer` is the one that shows the symbol, or null. The result is the last identifier.
-    Long EnsureDefined(clsSWFAdmin& admin, const clsLayer* layer, clsSymbolData& symbol,
+    Long EnsureDefined(clsSWFAdmin& admin, const clsLayer* layer, const clsSymbolData& symbol,
                        Long frame);
-    Long DefineSymbol(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
+    Long EnsureForm(clsSWFAdmin& admin, const clsSymbolData& symbol, Long form, Long frame);
+    Long DefineSymbol(clsSWFAdmin& admin, const clsSymbolData& symbol, Long form, Long frame);
+    Long DefineByKind(clsSWFAdmin& admin, const clsSymbolData& symbol, Long form, Long frame);
     void DefineSpriteChildren(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long frame);
     /// Defines the pictures of a koma's layer: all, or in a snapshot the one that the layer shows
     /// on frame `shown`.
     std::vector<Long> DefineKomas(clsSWFAdmin& admin, const clsLayer& layer, Long frame,
                                   Long shown);
-    void DefineBitmap(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
-    void DefineText(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
-    void DefineVector(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
-    void DefineSprite(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
+    Long DefineBitmap(clsSWFAdmin& admin, const clsSymbolData& symbol, Long frame);
+    Long DefineText(clsSWFAdmin& admin, const clsSymbolData& symbol, Long frame);
+    Long DefineVector(clsSWFAdmin& admin, const clsSymbolData& symbol, Long form, Long frame);
+    Long DefineSprite(clsSWFAdmin& admin, const clsSymbolData& symbol, Long frame);
     /// New definitions, with identifiers of their own. Init actions go into `frame`.
     Long GetNewSprite(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long frame);
     Long GetNewSpriteEdit(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long frame);
     /// A class is an empty sprite whose init action makes it.
     Long GetNewClass(clsSWFAdmin& admin, const clsPropertyClass& record, Long frame);
-    void DefineLink(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
+    Long DefineLink(clsSWFAdmin& admin, const clsSymbolData& symbol, Long frame);
     /// Adds the definition of a sprite whose timeline is written, and its init actions.
     Long AddSprite(clsSWFAdmin& admin, const std::shared_ptr<clsSWFAdmin>& inner, Long frame);
-    ButtonCharacters DefineButtonStates(clsSWFAdmin& admin, clsPropertyButton& button, Long frame);
-    Long DefineHitArea(clsSWFAdmin& admin, clsPropertyButton& button, Long frame);
+    ButtonCharacters DefineButtonStates(clsSWFAdmin& admin, const clsPropertyButton& button,
+                                        Long frame);
+    Long DefineHitArea(clsSWFAdmin& admin, const clsPropertyButton& button, Long frame);
+    const clsSymbolData* HitAreaOf(const clsPropertyButton& button);
     /// An empty timeline for a sprite, which shares the definitions of `admin`.
     static std::shared_ptr<clsSWFAdmin> NewInner(const clsSWFAdmin& admin, Long width, Long height,
                                                  Long frameCount);
@@ -89,7 +98,7 @@ private:
     void WriteBackground(const Timeline& timeline, const clsLayer& layer);
     void WriteLabels(const Timeline& timeline, const clsLayer& layer);
     void PlaceLayer(const Timeline& timeline, Long index, Long depth);
-    void DefineExport(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
+    void DefineExport(clsSWFAdmin& admin, const clsSymbolData& symbol, Long frame);
     void WriteFrameActions(const Timeline& timeline, const clsLayer& layer);
     /// Defines the button of one layer, with the layer's script. 0 for a layer without key frames.
     Long DefineButton(const Timeline& timeline, const clsLayer& layer, Long depth);
@@ -97,7 +106,8 @@ private:
     void Place(const Timeline& timeline, Long index, const LayerCharacter& character);
     DeformedCharacter Deform(const Timeline& timeline, const clsLayer& layer,
                              const clsLayerObject& start, const clsLayerObject* end);
-    bool IsGated(const clsLayer& layer) const;
+    bool IsGated(const clsLayer& layer);
+    void Warn(String text, const clsLayer& layer);
     void LeaveOut(const clsLayer& layer);
     void LeaveOutKomas(const clsLayer& layer);
     void WarnOfFocus(const clsSymbolData& symbol);
@@ -106,6 +116,12 @@ private:
 
     const MovieRequest& request_;
     clsSWFAdmin& movie_;
+    Notices& told_;
+    DefinitionTable identifiers_;
+    /// Hit areas that were made for buttons without one; null for an up state without a size.
+    std::unordered_map<const clsPropertyButton*, std::shared_ptr<clsSymbolData>> hitAreas_;
+    /// Sprites that stand for texts which follow an outline.
+    std::vector<std::shared_ptr<clsSymbolData>> fitTexts_;
     const SnapshotRequest* snapshot_ = nullptr;
     PlacedTags placed_;
     std::set<const clsLayer*> leftOut_;

@@ -55,9 +55,9 @@ bool HasCharacter(const clsSymbolData& symbol) {
 
 /// The picture that a koma's layer shows on a frame on which it is seen, null when none of its
 /// pictures is anything to see.
-clsSymbolData* KomaOn(const clsLayer& layer, Long frame) {
+const clsSymbolData* KomaOn(const clsLayer& layer, Long frame) {
     const auto& record = *layer.SymbolData()->Property<clsPropertyKoma>();
-    std::vector<clsSymbolData*> pictures;
+    std::vector<const clsSymbolData*> pictures;
     for (const auto& koma : *record.colKomas)
         if (HasCharacter(*koma)) pictures.push_back(koma.get());
     if (pictures.empty()) return nullptr;
@@ -85,7 +85,7 @@ void Authoring::PreDefineFrameOne(clsSWFAdmin& admin) {
     for (const auto& layer : *request_.Layers) {
         if (!layer->Visible(true) || layer->ObjectCount() == 0) continue;
         if (layer->Object(1)->StartFrame() != 1) continue;
-        clsSymbolData& symbol = *layer->SymbolData();
+        const clsSymbolData& symbol = *layer->SymbolData();
         if (symbol.eType() != KindKoma) {
             EnsureDefined(admin, layer.get(), symbol, 1);
             continue;
@@ -108,48 +108,72 @@ void Authoring::DefineExports(clsSWFAdmin& admin, Long mode) {
         for (const bool onTop : {true, false}) define(classes, onTop);
 }
 
-void Authoring::DefineExport(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
+void Authoring::DefineExport(clsSWFAdmin& admin, const clsSymbolData& symbol, Long frame) {
     if (LacksExport(symbol.eType())) {
-        ShowMessage(u"「" + symbol.ExportName() +
-                    u"」は書き出せません。\r\nこの種類のシンボルの生成には対応していません。");
+        told_.push_back({u"「" + symbol.ExportName() +
+                             u"」は書き出せません。\r\n"
+                             u"この種類のシンボルの生成には対応していません。",
+                         String(ProgramTitle),
+                         MessageIcon::None,
+                         {.SymbolID = symbol.ID}});
         return;
     }
-    if (symbol.eType() == KindVector) symbol.DefineNum = VectorForm::Clip;
-    if (symbol.DefineID() == 0) DefineSymbol(admin, symbol, frame);
-    symbol.DefineNum = VectorForm::Plain;
+    EnsureForm(admin, symbol, symbol.eType() == KindVector ? VectorForm::Clip : VectorForm::Plain,
+               frame);
 }
 
-Long Authoring::EnsureDefined(clsSWFAdmin& admin, const clsLayer* layer, clsSymbolData& symbol,
-                              Long frame) {
+Long Authoring::EnsureDefined(clsSWFAdmin& admin, const clsLayer* layer,
+                              const clsSymbolData& symbol, Long frame) {
+    Long form = VectorForm::Plain;
     if (const auto* drawing = symbol.Property<clsPropertyVector>()) {
         const bool several = drawing->MorphSymbol() || drawing->blDivide;
-        if (layer == nullptr && several) symbol.DefineNum = VectorForm::MorphStart;
-        if (layer != nullptr && layer->ClippingDepth != 0) symbol.DefineNum = VectorForm::Clip;
+        if (layer == nullptr && several) form = VectorForm::MorphStart;
+        if (layer != nullptr && layer->ClippingDepth != 0) form = VectorForm::Clip;
     }
-    const Long id = symbol.DefineID() == 0 ? DefineSymbol(admin, symbol, frame) : symbol.DefineID();
-    symbol.DefineNum = VectorForm::Plain;
+    return EnsureForm(admin, symbol, form, frame);
+}
+
+Long Authoring::EnsureForm(clsSWFAdmin& admin, const clsSymbolData& symbol, Long form, Long frame) {
+    const Long known = identifiers_.IdentifierOf(symbol, form);
+    return known != 0 ? known : DefineSymbol(admin, symbol, form, frame);
+}
+
+Long Authoring::DefineSymbol(clsSWFAdmin& admin, const clsSymbolData& symbol, Long form,
+                             Long frame) {
+    if (nesting_ > DeepestNesting) return 0;
+    ++nesting_;
+    const Long id = DefineByKind(admin, symbol, form, frame);
+    --nesting_;
+    if (id != 0) identifiers_.Define(symbol, form, id);
     return id;
 }
 
-Long Authoring::DefineSymbol(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
-    if (nesting_ > DeepestNesting) return 0;
-    ++nesting_;
-    if (symbol.eType() == KindBitmap) DefineBitmap(admin, symbol, frame);
-    if (symbol.eType() == KindText) DefineText(admin, symbol, frame);
-    if (symbol.eType() == KindVector) DefineVector(admin, symbol, frame);
-    if (symbol.eType() == KindSprite) {
-        DefineSpriteChildren(admin, *symbol.Property<clsPropertySprite>(), frame);
-        DefineSprite(admin, symbol, frame);
+Long Authoring::DefineByKind(clsSWFAdmin& admin, const clsSymbolData& symbol, Long form,
+                             Long frame) {
+    switch (symbol.eType()) {
+        case KindBitmap:
+            return DefineBitmap(admin, symbol, frame);
+        case KindText:
+            return DefineText(admin, symbol, frame);
+        case KindVector:
+            return DefineVector(admin, symbol, form, frame);
+        case KindSprite:
+            DefineSpriteChildren(admin, *symbol.Property<clsPropertySprite>(), frame);
+            return DefineSprite(admin, symbol, frame);
+        case KindButton:
+            DefineButtonStates(admin, *symbol.Property<clsPropertyButton>(), frame);
+            return 0;
+        case KindClass: {
+            if (snapshot_ != nullptr) return 0;
+            const Long id = GetNewClass(admin, *symbol.Property<clsPropertyClass>(), frame);
+            AddExport(admin, symbol, id, frame);
+            return id;
+        }
+        case KindLink:
+            return DefineLink(admin, symbol, frame);
+        default:
+            return 0;
     }
-    if (symbol.eType() == KindButton)
-        DefineButtonStates(admin, *symbol.Property<clsPropertyButton>(), frame);
-    if (symbol.eType() == KindClass && snapshot_ == nullptr) {
-        symbol.DefineID(GetNewClass(admin, *symbol.Property<clsPropertyClass>(), frame));
-        AddExport(admin, symbol, symbol.DefineID(), frame);
-    }
-    if (symbol.eType() == KindLink) DefineLink(admin, symbol, frame);
-    --nesting_;
-    return symbol.DefineID();
 }
 
 void Authoring::DefineSpriteChildren(clsSWFAdmin& admin, const clsPropertySprite& sprite,
@@ -167,18 +191,18 @@ void Authoring::DefineSpriteChildren(clsSWFAdmin& admin, const clsPropertySprite
 std::vector<Long> Authoring::DefineKomas(clsSWFAdmin& admin, const clsLayer& layer, Long frame,
                                          Long shown) {
     std::vector<Long> identifiers;
-    const auto define = [&](clsSymbolData& koma) {
+    const auto define = [&](const clsSymbolData& koma) {
         if (const Long id = EnsureDefined(admin, nullptr, koma, frame)) identifiers.push_back(id);
     };
     if (snapshot_ == nullptr)
         for (const auto& koma : *layer.SymbolData()->Property<clsPropertyKoma>()->colKomas)
             define(*koma);
-    else if (clsSymbolData* koma = KomaOn(layer, shown))
+    else if (const clsSymbolData* koma = KomaOn(layer, shown))
         define(*koma);
     return identifiers;
 }
 
-void Authoring::DefineBitmap(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
+Long Authoring::DefineBitmap(clsSWFAdmin& admin, const clsSymbolData& symbol, Long frame) {
     const clsPropertyBmp& picture = *symbol.Property<clsPropertyBmp>();
     Long bitmapID = 0;
     if (picture.blJpeg) {
@@ -192,27 +216,32 @@ void Authoring::DefineBitmap(clsSWFAdmin& admin, clsSymbolData& symbol, Long fra
         admin.AddTag(frame, std::move(tag), true);
     }
     auto shape = admin.GetNewBitmapShape(bitmapID, picture.Width, picture.height);
-    symbol.DefineID(shape->ID);
+    const Long id = shape->ID;
     admin.AddTag(frame, std::move(shape), true);
     const bool exportPicture = mdlSWFTag::swfVersion() >= BitmapExportVersion;
-    AddExport(admin, symbol, exportPicture ? bitmapID : symbol.DefineID(), frame);
+    AddExport(admin, symbol, exportPicture ? bitmapID : id, frame);
+    return id;
 }
 
-void Authoring::DefineText(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
+Long Authoring::DefineText(clsSWFAdmin& admin, const clsSymbolData& symbol, Long frame) {
+    Long id = 0;
     if (admin.inFontAdmin && FollowsOutline(symbol)) {
-        const auto sprite = FitTextSprite(symbol, *admin.inFontAdmin);
-        symbol.DefineID(DefineSymbol(admin, *sprite, frame));
+        fitTexts_.push_back(FitTextSprite(symbol, *admin.inFontAdmin));
+        const std::shared_ptr<clsSymbolData> sprite = fitTexts_.back();
+        id = DefineSymbol(admin, *sprite, VectorForm::Plain, frame);
     } else {
-        tamber::DefineText(admin, symbol, frame);
+        id = tamber::DefineText(admin, symbol, frame);
     }
-    AddExport(admin, symbol, symbol.DefineID(), frame);
+    AddExport(admin, symbol, id, frame);
+    return id;
 }
 
-void Authoring::DefineVector(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
+Long Authoring::DefineVector(clsSWFAdmin& admin, const clsSymbolData& symbol, Long form,
+                             Long frame) {
     WarnOfFocus(symbol);
-    tamber::DefineVector({admin, movie_, frame}, symbol);
-    if (symbol.DefineNum == VectorForm::Clip && symbol.DefineID() != 0)
-        AddExport(admin, symbol, symbol.DefineID(), frame);
+    const Long id = tamber::DefineVector({admin, movie_, frame, told_}, symbol, form);
+    if (form == VectorForm::Clip && id != 0) AddExport(admin, symbol, id, frame);
+    return id;
 }
 
 std::shared_ptr<clsSWFAdmin> Authoring::NewInner(const clsSWFAdmin& admin, Long width, Long height,
@@ -259,13 +288,13 @@ Long Authoring::GetNewSpriteEdit(clsSWFAdmin& admin, const clsPropertySprite& sp
     return AddSprite(admin, inner, frame);
 }
 
-void Authoring::DefineSprite(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
+Long Authoring::DefineSprite(clsSWFAdmin& admin, const clsSymbolData& symbol, Long frame) {
     const clsPropertySprite& sprite = *symbol.Property<clsPropertySprite>();
     const Long id = snapshot_ == nullptr ? GetNewSprite(admin, sprite, frame)
                                          : GetNewSpriteEdit(admin, sprite, frame);
-    symbol.DefineID(id);
     AddScalingGrid(admin, sprite, id, frame);
     AddExport(admin, symbol, id, frame);
+    return id;
 }
 
 Long Authoring::GetNewClass(clsSWFAdmin& admin, const clsPropertyClass& record, Long frame) {
@@ -274,17 +303,18 @@ Long Authoring::GetNewClass(clsSWFAdmin& admin, const clsPropertyClass& record, 
     return AddSprite(admin, inner, frame);
 }
 
-void Authoring::DefineLink(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
+Long Authoring::DefineLink(clsSWFAdmin& admin, const clsSymbolData& symbol, Long frame) {
     const auto& link = *symbol.Property<clsPropertyLinkSymbol>();
-    if (mdlSWFTag::swfVersion() < LinkVersion) return;
+    if (mdlSWFTag::swfVersion() < LinkVersion) return 0;
     admin.AddTag(frame, admin.GetNewImport(link.URL, link.SymbolName), true);
-    symbol.DefineID(admin.DefineID);
-    if (link.eTypeEx() != KindClass || mdlSWFTag::swfVersion() < InitClipVersion) return;
-    Scripts.CompileClassLinks(admin, link.SymbolName, symbol.DefineID());
+    const Long id = admin.DefineID;
+    if (link.eTypeEx() != KindClass || mdlSWFTag::swfVersion() < InitClipVersion) return id;
+    Scripts.CompileClassLinks(admin, link.SymbolName, id);
     admin.AddColInitAction(frame);
+    return id;
 }
 
-ButtonCharacters Authoring::DefineButtonStates(clsSWFAdmin& admin, clsPropertyButton& button,
+ButtonCharacters Authoring::DefineButtonStates(clsSWFAdmin& admin, const clsPropertyButton& button,
                                                Long frame) {
     const auto define = [&](const std::shared_ptr<clsSymbolData>& state) {
         if (!state) return Long{0};
@@ -302,16 +332,22 @@ ButtonCharacters Authoring::DefineButtonStates(clsSWFAdmin& admin, clsPropertyBu
     return characters;
 }
 
+/// The button's own hit area, or the one that is made for it; null where it needs none.
+const clsSymbolData* Authoring::HitAreaOf(const clsPropertyButton& button) {
+    if (const auto own = button.HitTestSymbol()) return own.get();
+    const auto up = button.UpSymbol();
+    if (!up) return nullptr;
+    const Long kind = up->eTypeEx();
+    if (kind != KindText && kind != KindVector && kind != KindSprite) return nullptr;
+    const auto [made, isNew] = hitAreas_.try_emplace(&button);
+    if (isNew) made->second = NewHitRect(*up);
+    return made->second.get();
+}
+
 /// 0 where the button has no hit area and needs none made.
-Long Authoring::DefineHitArea(clsSWFAdmin& admin, clsPropertyButton& button, Long frame) {
-    std::shared_ptr<clsSymbolData> area = button.HitTestSymbol();
-    if (const auto up = button.UpSymbol(); !area && up) {
-        const Long kind = up->eTypeEx();
-        const bool isDrawn = kind == KindText || kind == KindVector || kind == KindSprite;
-        if (isDrawn && !button.AutoHitTestSymbol) button.AutoHitTestSymbol = NewHitRect(*up);
-        area = button.AutoHitTestSymbol;
-    }
-    if (!area) return 0;
+Long Authoring::DefineHitArea(clsSWFAdmin& admin, const clsPropertyButton& button, Long frame) {
+    const clsSymbolData* area = HitAreaOf(button);
+    if (area == nullptr) return 0;
     const Long id = EnsureDefined(admin, nullptr, *area, frame);
     admin.IncPlaceCount(id, 1);
     return id;

@@ -69,20 +69,26 @@ bool Authoring::IsWalked(const Timeline& timeline, Long index, Long depth, Long 
     return !FramePlacement(*timeline.Layers(index), SnapshotFrame(timeline)).Empty();
 }
 
-bool Authoring::IsGated(const clsLayer& layer) const {
+void Authoring::Warn(String text, const clsLayer& layer) {
+    told_.push_back({std::move(text),
+                     String(ProgramTitle),
+                     MessageIcon::Warning,
+                     {.Layer = layer.LayerNameView()}});
+}
+
+bool Authoring::IsGated(const clsLayer& layer) {
     const Long kind = layer.SymbolData()->eType();
     const Long version = mdlSWFTag::swfVersion();
     const String name = layer.LayerNameView();
     const String cannot = u"SWF" + ToText(version) + u"では使用できません。\r\n";
     if ((kind == KindMovie || kind == KindMovieEmp) && version < MovieVersion) {
-        ShowMessage(u"FLVビデオ再生はSWF6以降の機能です。\r\n" + cannot + u"動画（" + name + u"）",
-                    ProgramTitle, MessageIcon::Warning);
+        Warn(u"FLVビデオ再生はSWF6以降の機能です。\r\n" + cannot + u"動画（" + name + u"）", layer);
         return true;
     }
     if (kind == KindLink && version < LinkVersion) {
-        ShowMessage(u"リンクシンボルはSWF5以降の機能です。\r\n" + cannot + u"リンクシンボル（" +
-                        name + u"）",
-                    ProgramTitle, MessageIcon::Warning);
+        Warn(u"リンクシンボルはSWF5以降の機能です。\r\n" + cannot + u"リンクシンボル（" + name +
+                 u"）",
+             layer);
         return true;
     }
     return false;
@@ -90,9 +96,9 @@ bool Authoring::IsGated(const clsLayer& layer) const {
 
 void Authoring::LeaveOut(const clsLayer& layer) {
     if (!leftOut_.insert(&layer).second) return;
-    ShowMessage(u"この種類のレイヤーの生成には対応していません。\r\n" +
-                    layer.SymbolData()->TypeText() + u"（" + layer.LayerNameView() + u"）",
-                ProgramTitle, MessageIcon::Warning);
+    Warn(u"この種類のレイヤーの生成には対応していません。\r\n" + layer.SymbolData()->TypeText() +
+             u"（" + layer.LayerNameView() + u"）",
+         layer);
 }
 
 void Authoring::LeaveOutKomas(const clsLayer& layer) {
@@ -100,9 +106,9 @@ void Authoring::LeaveOutKomas(const clsLayer& layer) {
     const bool whole = std::all_of(komas.begin(), komas.end(),
                                    [](const auto& koma) { return CanBePart(koma->eType()); });
     if (whole || !leftOut_.insert(&layer).second) return;
-    ShowMessage(
+    Warn(
         u"生成に対応していない種類のコマがあります。\r\nコマ動画（" + layer.LayerNameView() + u"）",
-        ProgramTitle, MessageIcon::Warning);
+        layer);
 }
 
 /// Once for a symbol. The canvas shows its movie in a player that knows the gradient.
@@ -111,9 +117,13 @@ void Authoring::WarnOfFocus(const clsSymbolData& symbol) {
     if (version >= FocalVersion || snapshot_ != nullptr) return;
     if (!HasFocalGradient(*symbol.Property<clsPropertyVector>())) return;
     if (!focal_.insert(&symbol).second) return;
-    ShowMessage(u"焦点をずらした円形グラデーションはSWF8以降の機能です。\r\nSWF" + ToText(version) +
-                    u"では正しく表示されません。\r\nベクタ（" + symbol.Value() + u"）",
-                ProgramTitle, MessageIcon::Warning);
+    Notice notice;
+    notice.Text = u"焦点をずらした円形グラデーションはSWF8以降の機能です。\r\nSWF" +
+                  ToText(version) + u"では正しく表示されません。\r\nベクタ（" + symbol.Value() +
+                  u"）";
+    notice.Severity = MessageIcon::Warning;
+    notice.Place.SymbolID = symbol.ID;
+    told_.push_back(std::move(notice));
 }
 
 void Authoring::LeaveOutStates(const clsLayer& layer) {
@@ -123,9 +133,8 @@ void Authoring::LeaveOutStates(const clsLayer& layer) {
          whole(button.HitTestSymbol())) ||
         !leftOut_.insert(&layer).second)
         return;
-    ShowMessage(
-        u"生成に対応していない種類の状態があります。\r\nボタン（" + layer.LayerNameView() + u"）",
-        ProgramTitle, MessageIcon::Warning);
+    Warn(u"生成に対応していない種類の状態があります。\r\nボタン（" + layer.LayerNameView() + u"）",
+         layer);
 }
 
 void Authoring::WriteLayer(const Timeline& timeline, Long index, Long& depth) {
@@ -184,7 +193,7 @@ void Authoring::PlaceLayer(const Timeline& timeline, Long index, Long depth) {
     const clsLayer& layer = *timeline.Layers(index);
     // What is never seen takes no frame.
     if (snapshot_ == nullptr && !IsEverSeen(layer)) return;
-    clsSymbolData& symbol = *layer.SymbolData();
+    const clsSymbolData& symbol = *layer.SymbolData();
     LayerCharacter character;
     character.Depth = depth;
     character.ClippingDepth =
@@ -226,7 +235,7 @@ void Authoring::Place(const Timeline& timeline, Long index, const LayerCharacter
 Long Authoring::DefineButton(const Timeline& timeline, const clsLayer& layer, Long depth) {
     if (layer.ObjectCount() == 0) return 0;
     LeaveOutStates(layer);
-    auto& button = *layer.SymbolData()->Property<clsPropertyButton>();
+    const auto& button = *layer.SymbolData()->Property<clsPropertyButton>();
     const Long start = snapshot_ == nullptr ? layer.Object(1)->StartFrame() : LateFrame();
     const Long frame = timeline.IsMain() ? start : timeline.SpriteFrame;
     const ButtonCharacters characters = DefineButtonStates(timeline.Admin, button, LateFrame());
@@ -266,13 +275,14 @@ DeformedCharacter Authoring::Deform(const Timeline& timeline, const clsLayer& la
     const bool wanted =
         record.blDivide || (from != nullptr && from->blDivide) || (to != nullptr && to->blDivide);
     own.blDivide = wanted && layer.DepthCnt(true) == own.ShapeCount();
-    if (layer.ClippingDepth != 0) deformed.Start->DefineNum = VectorForm::Clip;
+    const Long form = layer.ClippingDepth != 0 ? VectorForm::Clip : VectorForm::Plain;
     WarnOfFocus(*layer.SymbolData());
     const Long frame =
         timeline.IsMain() ? std::min(start.StartFrame(), LateFrame()) : timeline.SpriteFrame;
-    tamber::DefineVector({timeline.Admin, movie_, frame}, *deformed.Start);
+    const Long last =
+        tamber::DefineVector({timeline.Admin, movie_, frame, told_}, *deformed.Start, form);
     const Long count = own.blDivide && layer.ClippingDepth == 0 ? own.ShapeCount() : 1;
-    return {deformed.Start->DefineID() + 1 - count, count};
+    return {last + 1 - count, count};
 }
 
 }  // namespace tamber

@@ -16,6 +16,8 @@ class clsPropertyClass;
 /// tells where its fault is.
 class MovieScripts {
 public:
+    MovieScripts(Long version, Notices& told) : compiler_(version), told_(told) {}
+
     /// Folder of the project, against which included files are looked for; empty for none.
     String ProjectFolder;
     /// Faults of clip actions are told by a message too.
@@ -48,15 +50,27 @@ private:
     bool CompileInitClip(clsSWFAdmin& timeline, bool isMovie, String& script);
     bool CompileEvents(std::vector<SwfEventActions>& actions, const String& script,
                        EventScript kind);
-    bool TellsReason(const String& script, ScriptKind kind, const String& where,
-                     bool hasInitBlocks = true) const;
-    void Tell(const String& script, ScriptKind kind, const String& where,
-              bool hasInitBlocks = true) const;
-    void TellClass(const String& body, const clsPropertyClass& record) const;
-    static void TellBox(const String& where);
+    /// A script's place in the movie, in words too.
+    struct ScriptPlace {
+        String Words;
+        NoticePlace Place;
+    };
+    static ScriptPlace ClipPlace(const clsLayer& layer);
+    static ScriptPlace ButtonPlace(const clsLayer& layer);
+    static ScriptPlace FramePlace(Long frame);
+
+    bool TellsReason(const String& script, ScriptKind kind, ScriptPlace& where,
+                     bool hasInitBlocks = true);
+    void Tell(const String& script, ScriptKind kind, ScriptPlace where, bool hasInitBlocks = true);
+    void TellClass(const String& body, const clsPropertyClass& record);
+    void TellStatus(const ScriptPlace& where, StringView fault);
+    void TellBox(const ScriptPlace& where);
+    Long Version() const { return compiler_.Version(); }
     String ClassBody(const clsPropertyClass& record) const;
     String ClassScript(StringView body, const clsPropertyClass& record) const;
 
+    ScriptCompiler compiler_;
+    Notices& told_;
     bool allValid_ = true;
 };
 

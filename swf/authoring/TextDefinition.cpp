@@ -138,20 +138,22 @@ std::shared_ptr<clsSWFTagCSMTextSettings> GetNewCSMTextSettings(Long textID,
     return tag;
 }
 
-void DefineText(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame) {
+Long DefineText(clsSWFAdmin& admin, const clsSymbolData& symbol, Long frame) {
     const auto& text = *symbol.Property<clsPropertyText>();
     const bool locked = !text.blDynamic && clsFontAdmin::IsDeviceFont(text.FontName);
+    Long id = 0;
     if (text.blDynamic || locked) {
         auto tag = GetNewEditText(admin, locked ? LockedField(text) : text);
         if (locked) GiveRoom(*tag);
-        symbol.DefineID(tag->ID);
+        id = tag->ID;
         admin.AddTag(frame, std::move(tag), true);
     } else {
         auto tag = GetNewText(admin, text);
-        symbol.DefineID(tag->ID);
+        id = tag->ID;
         admin.AddTag(frame, std::move(tag), true);
     }
-    AddSmoothing(admin, symbol.DefineID(), text, frame);
+    AddSmoothing(admin, id, text, frame);
+    return id;
 }
 
 }  // namespace tamber

@@ -30,7 +30,7 @@ std::shared_ptr<clsSWFTagCSMTextSettings> GetNewCSMTextSettings(Long textID,
                                                                 const clsPropertyText& text);
 
 /// Writes the definition of a text symbol that follows no outline: static text or a text field, and
-/// from version 8 on how it is smoothed. Sets its `DefineID`.
-void DefineText(clsSWFAdmin& admin, clsSymbolData& symbol, Long frame);
+/// from version 8 on how it is smoothed. The result is its identifier.
+Long DefineText(clsSWFAdmin& admin, const clsSymbolData& symbol, Long frame);
 
 }  // namespace tamber

@@ -87,11 +87,11 @@ void Interpolate(clsSWFTagPlaceObject& tag, const Tween& tween, const TweenPath&
     if (tween.blVector) tag.Ratio(parameterRatio);
 }
 
-std::shared_ptr<clsSWFTagPlaceObject> NewMove(const clsSWFTagPlaceObject& start) {
-    auto tag = std::make_shared<clsSWFTagPlaceObject>();
-    tag->depth = start.depth;
-    tag->PlaceCnt = start.PlaceCnt;
-    tag->ClippingDepth = start.ClippingDepth;
+clsSWFTagPlaceObject MoveOf(const clsSWFTagPlaceObject& start) {
+    clsSWFTagPlaceObject tag;
+    tag.depth = start.depth;
+    tag.PlaceCnt = start.PlaceCnt;
+    tag.ClippingDepth = start.ClippingDepth;
     return tag;
 }
 
@@ -128,17 +128,13 @@ void RemoveFrom(clsSWFAdmin& admin, Long frame, const clsSWFTagPlaceObject& tag)
     admin.AddTag(frame, std::move(remove), false);
 }
 
-void PlaceOnFrame(clsSWFAdmin& admin, const Tween& tween, Long frame,
-                  const std::shared_ptr<clsSWFTagPlaceObject>& tag) {
-    if (tween.Koma == nullptr) {
-        admin.AddPlaceObj(frame, tag);
-        return;
-    }
-    if (const std::optional<Long> id = tween.Koma->Advance()) {
-        RemoveFrom(admin, frame, *tag);
-        tag->PlaceID = *id;
-    }
-    admin.AddPlaceObj(frame, tag);
+/// Gives the tag of a koma's frame the next picture, when its turn has come.
+void TurnKoma(clsSWFAdmin& admin, const Tween& tween, Long frame, clsSWFTagPlaceObject& tag) {
+    if (tween.Koma == nullptr) return;
+    const std::optional<Long> id = tween.Koma->Advance();
+    if (!id) return;
+    RemoveFrom(admin, frame, tag);
+    tag.PlaceID = *id;
 }
 
 }  // namespace
@@ -166,13 +162,16 @@ void AddTween(clsSWFAdmin& admin, const Tween& tween, const TweenPath& path, Lon
         return;
     }
     if (tween.Koma != nullptr) tween.Koma->BeginSpan();
-    PlaceOnFrame(admin, tween, tween.Frame, tween.StartTag);
+    TurnKoma(admin, tween, tween.Frame, *tween.StartTag);
+    admin.AddPlaceObj(tween.Frame, tween.StartTag);
+    clsSWFTagPlaceObject move = MoveOf(*tween.StartTag);
+    if (tween.Koma != nullptr && tween.StartTag->blHasBlend())
+        move.eBlend(tween.StartTag->eBlend());
     for (Long i = 1; i < tween.Span; ++i) {
-        auto tag = NewMove(*tween.StartTag);
-        if (tween.Koma != nullptr && tween.StartTag->blHasBlend())
-            tag->eBlend(tween.StartTag->eBlend());
-        Interpolate(*tag, tween, path, easing, i);
-        PlaceOnFrame(admin, tween, tween.Frame + i, tag);
+        move.PlaceID = 0;
+        Interpolate(move, tween, path, easing, i);
+        TurnKoma(admin, tween, tween.Frame + i, move);
+        admin.AddWrittenPlace(tween.Frame + i, move);
     }
     if (tween.blVector) tween.EndTag->Ratio(FullRatio);
 }

@@ -2,7 +2,6 @@
 
 #include <unordered_map>
 
-#include "platform/UserInterface.h"
 #include "platform/text.h"
 #include "platform/twips.h"
 #include "vector/MorphCheck.h"
@@ -76,21 +75,24 @@ private:
 /// Definitions of one symbol in one form.
 class VectorDefinition {
 public:
-    VectorDefinition(const DefinitionPlace& place, clsSymbolData& symbol)
+    VectorDefinition(const DefinitionPlace& place, const clsSymbolData& symbol, Long form)
         : place_(place),
           symbol_(symbol),
+          form_(form),
           record_(*symbol.Property<clsPropertyVector>()),
           bitmaps_(place, *record_.inVector) {}
 
-    void Run() {
+    /// The last identifier.
+    Long Run() {
         const clsPropertyVector* end = MorphEnd();
-        if (symbol_.DefineNum == VectorForm::Plain && record_.blDivide)
+        if (form_ == VectorForm::Plain && record_.blDivide)
             DefinePieces(end);
         else if (end != nullptr)
-            Add(place_.Numbers.GetNewMorphShape(*bitmaps_.Bind(record_.inVector2(false)),
-                                                *bitmaps_.Bind(end->inVector2(false))));
+            Add(place_.Numbers.GetNewMorphShape(*bitmaps_.Bind(record_.inVector2(false, version_)),
+                                                *bitmaps_.Bind(end->inVector2(false, version_))));
         else
-            AddShape(record_.inVector2(symbol_.DefineNum != VectorForm::Clip));
+            AddShape(record_.inVector2(form_ != VectorForm::Clip, version_));
+        return last_;
     }
 
 private:
@@ -98,24 +100,29 @@ private:
     /// cannot morph.
     const clsPropertyVector* MorphEnd() const {
         const auto target = record_.MorphSymbol();
-        if (!target || symbol_.DefineNum == VectorForm::MorphStart) return nullptr;
+        if (!target || form_ == VectorForm::MorphStart) return nullptr;
         const auto* end = target->Property<clsPropertyVector>();
-        if (end != nullptr && record_.CheckMorph(*end) == MorphCheck::Possible) return end;
-        ShowMessage(u"モーフィングできませんでした。[ID：" + ToText(symbol_.ID) + u"→ID：" +
-                        ToText(target->ID) + u"]",
-                    u"モーフィング正当性チェック", MessageIcon::Error);
+        if (end != nullptr && record_.CheckMorph(*end, version_) == MorphCheck::Possible)
+            return end;
+        Notice notice;
+        notice.Text = u"モーフィングできませんでした。[ID：" + ToText(symbol_.ID) + u"→ID：" +
+                      ToText(target->ID) + u"]";
+        notice.Title = u"モーフィング正当性チェック";
+        notice.Severity = MessageIcon::Error;
+        notice.Place.SymbolID = symbol_.ID;
+        place_.Told.push_back(std::move(notice));
         return nullptr;
     }
 
     void DefinePieces(const clsPropertyVector* end) {
         for (Long i = 1; i <= record_.ShapeCount(); ++i) {
-            auto piece = record_.SetPrmVector2(*record_.inVector->ShapeDataTbl(i));
+            auto piece = record_.SetPrmVector2(*record_.inVector->ShapeDataTbl(i), version_);
             if (end == nullptr)
                 AddShape(std::move(piece));
             else
                 Add(place_.Numbers.GetNewMorphShape(
                     *bitmaps_.Bind(std::move(piece)),
-                    *bitmaps_.Bind(end->SetPrmVector2(*end->inVector->ShapeDataTbl(i)))));
+                    *bitmaps_.Bind(end->SetPrmVector2(*end->inVector->ShapeDataTbl(i), version_))));
         }
     }
 
@@ -124,12 +131,15 @@ private:
     }
 
     void Add(std::shared_ptr<clsSWFTagDefineShape> tag) {
-        symbol_.DefineID(tag->ID);
+        last_ = tag->ID;
         place_.Tags.AddTag(place_.Frame, std::move(tag), true);
     }
 
     DefinitionPlace place_;
-    clsSymbolData& symbol_;
+    const clsSymbolData& symbol_;
+    Long form_;
+    Long version_ = mdlSWFTag::swfVersion();
+    Long last_ = 0;
     const clsPropertyVector& record_;
     DefinitionBitmaps bitmaps_;
 };
@@ -170,8 +180,9 @@ bool HasFocalGradient(const clsPropertyVector& record) {
     return false;
 }
 
-void DefineVector(const DefinitionPlace& place, clsSymbolData& symbol) {
-    if (HasShapes(*symbol.Property<clsPropertyVector>())) VectorDefinition(place, symbol).Run();
+Long DefineVector(const DefinitionPlace& place, const clsSymbolData& symbol, Long form) {
+    if (!HasShapes(*symbol.Property<clsPropertyVector>())) return 0;
+    return VectorDefinition(place, symbol, form).Run();
 }
 
 DeformedVector DeformSymbol(const clsSymbolData& symbol, const clsObjVector* start,

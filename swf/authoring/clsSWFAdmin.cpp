@@ -2,12 +2,10 @@
 
 #include <algorithm>
 
-#include "platform/UserInterface.h"
 #include "platform/files.h"
 #include "platform/rounding.h"
 #include "platform/text.h"
 #include "platform/twips.h"
-#include "script/ScriptCompilation.h"
 #include "swf/mdlZlib.h"
 #include "swf/tags/clsSWFTagDefineEditText.h"
 #include "swf/tags/clsSWFTagDefineFont.h"
@@ -112,22 +110,34 @@ bool clsSWFAdmin::AddPlaceObj(Long frame, std::shared_ptr<clsSWFTagPlaceObject> 
     return AddTag(frame, std::move(tag), false);
 }
 
+bool clsSWFAdmin::AddWrittenPlace(Long frame, clsSWFTagPlaceObject& tag) {
+    if (frame < 1) return false;
+    if (frame > FrameCount()) FrameCount(frame);
+    IncPlaceCount(tag.PlaceID, tag.PlaceCnt);
+    const std::size_t start = mdlSWFTag::swfBytePos();
+    tag.Save();
+    frames_[static_cast<std::size_t>(frame - 1)].AddWritten(mdlSWFTag::TakeBack(start));
+    return true;
+}
+
 void clsSWFAdmin::IncPlaceCount(Long id, Long count) {
     if (id == 0) return;
     for (Long i = 0; i < count; ++i)
         if (clsSWFTag* definition = DefineObj(id + i)) definition->IncPlaceCnt();
 }
 
-bool clsSWFAdmin::AddTagSoundBlock(Long frame, SWFTagReference block) {
+bool clsSWFAdmin::AddTagSoundBlock(Long frame, SWFTagReference block, Notices& told) {
     if (frame < 1 || !block) return false;
     if (frame > FrameCount()) FrameCount(frame);
     if (frames_[static_cast<std::size_t>(frame - 1)].AddTagSoundBlock(std::move(block)))
         return true;
     if (blStreamWarning_)
-        ShowMessage(
-            u"サウンドのストリーミング定義が重複しています。\r\n"
-            u"ストリーミング再生は重複させることができません。",
-            ProgramTitle, MessageIcon::Warning);
+        told.push_back(
+            {u"サウンドのストリーミング定義が重複しています。\r\n"
+             u"ストリーミング再生は重複させることができません。",
+             String(ProgramTitle),
+             MessageIcon::Warning,
+             {.Frame = frame}});
     blStreamWarning_ = false;
     return false;
 }
@@ -140,13 +150,14 @@ void clsSWFAdmin::AddInitAction(std::shared_ptr<clsSWFTagDoAction> action, Long 
     colInitAction.push_back(std::move(action));
 }
 
-std::shared_ptr<clsSWFTagDoAction> clsSWFAdmin::GetNewDoAction(StringView text, bool& ok) const {
+std::shared_ptr<clsSWFTagDoAction> clsSWFAdmin::GetNewDoAction(StringView text, bool& ok,
+                                                               ScriptCompiler& compiler) const {
     if (text.empty()) return nullptr;
-    Bytes actions;
-    ok = CompileActionScript(actions, text, Ver, true);
-    if (!ok || actions.empty()) return nullptr;
+    const CompiledScript& compiled = compiler.Compile(text);
+    ok = compiled.IsCompiled();
+    if (!ok || compiled.Actions.empty()) return nullptr;
     auto tag = std::make_shared<clsSWFTagDoAction>();
-    tag->bufAction = std::move(actions);
+    tag->bufAction = compiled.Actions;
     return tag;
 }
 
@@ -282,7 +293,7 @@ void clsSWFAdmin::SaveHeader() {
     if (Ver >= AttributesVersion) clsSWFTagFileAttributes().Save();
 }
 
-bool clsSWFAdmin::Save(StringView path) {
+bool clsSWFAdmin::Save(StringView path, Notices& told) {
     mdlSWFTag::InitBuffer();
     SaveHeader();
     FramesSave();
@@ -290,8 +301,10 @@ bool clsSWFAdmin::Save(StringView path) {
     mdlSWFTag::PatchBytes(LengthPosition, 4, static_cast<Long>(mdlSWFTag::swfBytePos()));
     Bytes movie = mdlSWFTag::TakeBuffer();
     if (blCompress && Ver < CompressionVersion)
-        ShowMessage(u"SWF" + ToText(Ver) + u"では、SWF圧縮できません", ProgramTitle,
-                    MessageIcon::Information);
+        told.push_back({u"SWF" + ToText(Ver) + u"では、SWF圧縮できません",
+                        String(ProgramTitle),
+                        MessageIcon::Information,
+                        {}});
     else if (blCompress)
         movie = CompressMovie(movie);
     return WriteFileBytes(movie, path);

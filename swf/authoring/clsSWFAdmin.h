@@ -3,6 +3,8 @@
 #include <memory>
 #include <vector>
 
+#include "platform/Notice.h"
+#include "script/ScriptCompiler.h"
 #include "swf/authoring/clsSWFrame.h"
 #include "swf/tags/clsFontAdmin.h"
 #include "swf/tags/clsSWFTagDefineBitsJPEG.h"
@@ -53,14 +55,17 @@ public:
     /// text brings its font into the frame.
     bool AddTag(Long frame, SWFTagReference tag, bool blDefine);
     bool AddPlaceObj(Long frame, std::shared_ptr<clsSWFTagPlaceObject> tag);
+    /// As AddPlaceObj, for a placement that nothing changes any more: its bytes are kept, not it.
+    bool AddWrittenPlace(Long frame, clsSWFTagPlaceObject& tag);
     /// Counts a placement of `count` definitions from `id` on.
     void IncPlaceCount(Long id, Long count);
     /// As AddTag. A frame that has a block already refuses, with a warning once a movie.
-    bool AddTagSoundBlock(Long frame, SWFTagReference block);
+    bool AddTagSoundBlock(Long frame, SWFTagReference block, Notices& told);
     void AddInitAction(std::shared_ptr<clsSWFTagDoAction> action, Long orderNum, Long spriteID);
     /// Actions of a script; null when it has none. An empty text leaves `ok` as it is, any other
     /// sets it to whether the text compiled.
-    std::shared_ptr<clsSWFTagDoAction> GetNewDoAction(StringView text, bool& ok) const;
+    std::shared_ptr<clsSWFTagDoAction> GetNewDoAction(StringView text, bool& ok,
+                                                      ScriptCompiler& compiler) const;
     /// Hands the waiting init actions to a frame.
     void AddColInitAction(Long frame);
     void AddTagEnd(SWFTagReference tag) { colTailTag_.push_back(std::move(tag)); }
@@ -86,7 +91,7 @@ public:
     /// others behind it.
     void FramesSave();
     /// Writes the whole file. False when it could not be written; an earlier file then stays.
-    bool Save(StringView path);
+    bool Save(StringView path, Notices& told);
 
 private:
     void SaveHeader();

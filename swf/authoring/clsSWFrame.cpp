@@ -15,7 +15,10 @@ void clsSWFrame::SetLabelName(StringView name, bool blAnchor) {
 }
 
 void clsSWFrame::AddTag(SWFTagReference tag, bool blDefine) {
-    (blDefine ? colDefine_ : colPlace_).push_back(std::move(tag));
+    if (blDefine)
+        colDefine_.push_back(std::move(tag));
+    else
+        colPlace_.push_back({std::move(tag), written_.size()});
 }
 
 bool clsSWFrame::AddTagSoundBlock(SWFTagReference block) {
@@ -35,6 +38,18 @@ void clsSWFrame::AddColInitAction(const std::vector<std::shared_ptr<clsSWFTagDoA
     }
 }
 
+void clsSWFrame::SavePlaced() {
+    ByteView rest(written_);
+    std::size_t done = 0;
+    for (const PlacedTag& placed : colPlace_) {
+        mdlSWFTag::SetByteArray(rest.first(placed.Behind - done));
+        rest = rest.subspan(placed.Behind - done);
+        done = placed.Behind;
+        placed.Tag->Save();
+    }
+    mdlSWFTag::SetByteArray(rest);
+}
+
 void clsSWFrame::Save() {
     for (const LabelName& label : labels_) {
         clsSWFTagFrameLabel tag;
@@ -43,7 +58,7 @@ void clsSWFrame::Save() {
         tag.Save();
     }
     for (const auto& tag : colDefine_) tag->Save();
-    for (const auto& tag : colPlace_) tag->Save();
+    SavePlaced();
     for (const auto& tag : colInitAction_) tag->Save();
     mdlSWFTag::SetTagHeader(TagCode::ShowFrame, 0, false);
     if (soundBlock_) soundBlock_->Save();

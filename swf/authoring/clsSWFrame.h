@@ -15,6 +15,8 @@ public:
     void SetLabelName(StringView name, bool blAnchor);
     /// Definitions stand before all other tags of the frame.
     void AddTag(SWFTagReference tag, bool blDefine);
+    /// Bytes of a tag that is no definition, and that nothing changes any more.
+    void AddWritten(ByteView tag) { written_.insert(written_.end(), tag.begin(), tag.end()); }
     /// False when the frame has a sound block already; the first stays.
     bool AddTagSoundBlock(SWFTagReference block);
     bool HasSoundBlock() const { return soundBlock_ != nullptr; }
@@ -25,6 +27,8 @@ public:
     void Save();
 
 private:
+    void SavePlaced();
+
     struct LabelName {
         String Name;
         bool blAnchor;
@@ -32,7 +36,13 @@ private:
 
     std::vector<LabelName> labels_;
     std::vector<SWFTagReference> colDefine_;
-    std::vector<SWFTagReference> colPlace_;
+    /// A tag that is written when the frame is.
+    struct PlacedTag {
+        SWFTagReference Tag;
+        std::size_t Behind;  ///< bytes of `written_` that stand before it
+    };
+    std::vector<PlacedTag> colPlace_;
+    Bytes written_;
     std::vector<std::shared_ptr<clsSWFTagDoAction>> colInitAction_;
     SWFTagReference soundBlock_;
 };

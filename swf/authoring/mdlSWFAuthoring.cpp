@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "platform/UserInterface.h"
 #include "platform/text.h"
 #include "swf/authoring/Authoring.h"
 #include "swf/authoring/MovieLimits.h"
@@ -15,9 +14,23 @@ Long ReverseBytes(Long color) {
     return (color & 0xFF) << 16 | (color & 0xFF00) | (color >> 16 & 0xFF);
 }
 
-bool Refuse(const String& why) {
-    ShowMessage(why, ProgramTitle, MessageIcon::Error);
-    return false;
+void Refuse(MovieOutcome& outcome, const String& why) {
+    outcome.Told.push_back({why, String(ProgramTitle), MessageIcon::Error, {}});
+}
+
+/// Fills the movie. What is left out is told.
+void FillMovie(clsSWFAdmin& admin, const MovieRequest& request, MovieOutcome& outcome) {
+    Authoring authoring(request, admin, outcome.Told);
+    authoring.Scripts.ProjectFolder = request.ProjectFolder;
+    authoring.Scripts.blMessages = request.blScriptMessages;
+    authoring.Scripts.blTopToBottom = request.blTopToBottom;
+    authoring.CollectClassLinks();
+    authoring.PreDefineFrameOne(admin);
+    if (request.blExports)
+        authoring.DefineExports(admin, request.blExportsInFrameTwo ? 2 : admin.FrameCount());
+    authoring.WriteTimeline({admin, *request.Layers, {}});
+    outcome.ScriptsValid = authoring.Scripts.AllValid();
+    outcome.Identifiers = authoring.TakeIdentifiers();
 }
 
 }  // namespace
@@ -43,9 +56,14 @@ Long ClipDepthOf(const Collection<clsLayer>& layers, Long layerIndex, Long clipp
     return std::max(depths, clippingDepth);
 }
 
-bool BuildMovie(const MovieRequest& request) {
-    if (const String fault = MovieLimitFault(request); !fault.empty()) return Refuse(fault);
+MovieOutcome BuildMovie(const MovieRequest& request) {
+    MovieOutcome outcome;
+    if (const String fault = MovieLimitFault(request); !fault.empty()) {
+        Refuse(outcome, fault);
+        return outcome;
+    }
     mdlSWFTag::swfVersion(request.Version);
+    mdlSWFTag::LoadBuffer({});
     clsSWFAdmin admin;
     admin.inFontAdmin = request.Fonts;
     admin.InitSWF();
@@ -55,31 +73,20 @@ bool BuildMovie(const MovieRequest& request) {
     admin.FrameCount(LastShownFrame(*request.Layers));
     admin.BackGroundColor = ReverseBytes(request.BackColor);
     admin.blCompress = request.blCompress;
-    for (const auto& symbol : *request.Library) symbol->InitDefineID();
-
-    Authoring authoring(request, admin);
-    authoring.Scripts.ProjectFolder = request.ProjectFolder;
-    authoring.Scripts.blMessages = request.blScriptMessages;
-    authoring.Scripts.blTopToBottom = request.blTopToBottom;
-    authoring.CollectClassLinks();
-    authoring.PreDefineFrameOne(admin);
-    if (request.blExports)
-        authoring.DefineExports(admin, request.blExportsInFrameTwo ? 2 : admin.FrameCount());
-    authoring.WriteTimeline({admin, *request.Layers, {}});
-    if (request.blScriptsValid != nullptr && !authoring.Scripts.AllValid())
-        *request.blScriptsValid = false;
+    FillMovie(admin, request, outcome);
     if (admin.DefineID > MaxIdentifiers)
-        return Refuse(u"シンボル数が多すぎます。\r\nSWFファイルは" + ToText(MaxIdentifiers) +
-                      u"までです。");
-    if (admin.Save(request.Path)) return true;
-    return Refuse(request.Path + u"\r\n\r\nファイルに書き込めませんでした。");
+        Refuse(outcome, u"シンボル数が多すぎます。\r\nSWFファイルは" + ToText(MaxIdentifiers) +
+                            u"までです。");
+    else if (!(outcome.Written = admin.Save(request.Path, outcome.Told)))
+        Refuse(outcome, request.Path + u"\r\n\r\nファイルに書き込めませんでした。");
+    return outcome;
 }
 
-PlacedTags WriteFrameSnapshot(clsSWFAdmin& admin, const SnapshotRequest& snapshot) {
+PlacedTags WriteFrameSnapshot(clsSWFAdmin& admin, const SnapshotRequest& snapshot, Notices& told) {
     MovieRequest request;
     request.Layers = snapshot.Layers;
     request.blTopToBottom = snapshot.blTopToBottom;
-    return Authoring(request, admin).WriteFrameSnapshot(admin, snapshot);
+    return Authoring(request, admin, told).WriteFrameSnapshot(admin, snapshot);
 }
 
 }  // namespace tamber::mdlSWFAuthoring

@@ -3,6 +3,8 @@
 #include "document/symbols/clsLayer.h"
 #include "document/symbols/clsSymbolData.h"
 #include "platform/Collection.h"
+#include "platform/Notice.h"
+#include "swf/authoring/DefinitionTable.h"
 #include "swf/tags/clsFontAdmin.h"
 #include "swf/tags/clsSWFTagPlaceObject.h"
 
@@ -32,10 +34,19 @@ struct MovieRequest {
     String ProjectFolder;
     /// Faults of clip actions are told.
     bool blScriptMessages = true;
-    /// Cleared when a clip action could not be used, when given.
-    bool* blScriptsValid = nullptr;
     bool blExports = true;
     bool blExportsInFrameTwo = false;
+};
+
+/// What a build gives back.
+struct MovieOutcome {
+    bool Written = false;
+    /// All clip actions could be used.
+    bool ScriptsValid = true;
+    /// What could not go into the movie, in the order in which it is to be told.
+    Notices Told;
+    /// Identifiers of the library's symbols in the movie.
+    DefinitionTable Identifiers;
 };
 
 /// One frame of a timeline, as the canvas shows it.
@@ -53,13 +64,13 @@ using PlacedTags = std::vector<std::shared_ptr<clsSWFTagPlaceObject>>;
 
 namespace mdlSWFAuthoring {
 
-/// Builds and writes a movie. What cannot go into it is left out with a message. False when nothing
-/// was written.
-bool BuildMovie(const MovieRequest& request);
+/// Builds and writes a movie; the project is read only. What cannot go into it is left out and
+/// told.
+MovieOutcome BuildMovie(const MovieRequest& request);
 
-/// Fills an empty movie of the global version, whose symbols have no identifiers yet, with one
-/// frame of a timeline. The result are the placements, each with its row and key frame.
-PlacedTags WriteFrameSnapshot(clsSWFAdmin& admin, const SnapshotRequest& snapshot);
+/// Fills an empty movie of the global version with one frame of a timeline. The result are the
+/// placements, each with its row and key frame.
+PlacedTags WriteFrameSnapshot(clsSWFAdmin& admin, const SnapshotRequest& snapshot, Notices& told);
 
 /// Last frame on which a visible layer shows anything, 0 when there is none.
 Long LastShownFrame(const Collection<clsLayer>& layers);

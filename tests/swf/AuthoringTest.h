@@ -77,18 +77,19 @@ protected:
     ParsedMovie Build(Long version = 6) {
         const UserInterfaceScope scope(interface);
         const MovieRequest request = Request(version);
-        EXPECT_TRUE(mdlSWFAuthoring::BuildMovie(request));
+        const MovieOutcome outcome = mdlSWFAuthoring::BuildMovie(request);
+        EXPECT_TRUE(outcome.Written);
+        ShowNotices(outcome.Told);
         return test::ParseMovie(request.Path);
     }
 
     /// The one message that a build ends with before it writes anything.
     String Refusal(const MovieRequest& request) {
-        const UserInterfaceScope scope(interface);
-        interface.Messages.clear();
-        EXPECT_FALSE(mdlSWFAuthoring::BuildMovie(request));
+        const MovieOutcome outcome = mdlSWFAuthoring::BuildMovie(request);
+        EXPECT_FALSE(outcome.Written);
         EXPECT_FALSE(std::filesystem::exists(path));
-        EXPECT_EQ(interface.Messages.size(), 1u);
-        return interface.Messages.empty() ? String() : interface.Messages[0].Text;
+        EXPECT_EQ(outcome.Told.size(), 1u);
+        return outcome.Told.empty() ? String() : outcome.Told[0].Text;
     }
 
     void TearDown() override { std::filesystem::remove(path); }

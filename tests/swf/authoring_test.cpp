@@ -31,6 +31,19 @@ TEST_F(AuthoringTest, one_bitmap_over_two_frames_gives_the_told_tags) {
     EXPECT_EQ(Build(8).Codes(), (std::vector<Long>{69, 9, 36, 2, 26, 1, 1, 0}));
 }
 
+TEST_F(AuthoringTest, identifiers_are_the_builds_own_until_they_are_shown) {
+    const auto picture = AddBitmap(1, 1);
+    const auto unused = AddBitmap(1, 1);
+    AddKeyFrame(*AddLayer(picture), 1, 1);
+    const MovieOutcome outcome = mdlSWFAuthoring::BuildMovie(Request());
+    EXPECT_EQ(picture->DefineID(), 0);
+    unused->DefineID(7);
+    outcome.Identifiers.ShowIn(library);
+    EXPECT_EQ(picture->DefineID(), 2);
+    EXPECT_EQ(picture->DefineNum, 0);
+    EXPECT_EQ(unused->DefineID(), 0);
+}
+
 TEST_F(AuthoringTest, an_empty_project_is_one_frame) {
     EXPECT_EQ(Build().Codes(), (std::vector<Long>{9, 1, 0}));
 }
@@ -379,10 +392,9 @@ TEST_F(AuthoringTest, a_placement_has_terms_that_a_matrix_can_tell) {
 }
 
 TEST_F(AuthoringTest, the_highest_rate_fits_the_header) {
-    const UserInterfaceScope scope(interface);
     MovieRequest request = Request();
     request.FrameRate = 255.999f;
-    EXPECT_TRUE(mdlSWFAuthoring::BuildMovie(request));
+    EXPECT_TRUE(mdlSWFAuthoring::BuildMovie(request).Written);
     EXPECT_EQ(test::ParseMovie(request.Path).Rate, 0xFFFF);
 }
 

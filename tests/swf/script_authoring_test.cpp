@@ -316,18 +316,24 @@ TEST_F(ScriptAuthoring, faults_are_told_and_the_movie_goes_on) {
     button->Property<clsPropertyButton>()->UpSymbol(AddBitmap(4, 4));
     PlaceScripted(button, u"on (press) {")->LayerName = u"釦";
     PlaceScripted(AddSprite(), u"onClipEvent(load){#include \"none.as\"}")->LayerName = u"玉";
-    bool valid = true;
-    {
-        const UserInterfaceScope scope(interface);
-        MovieRequest request = Request();
-        request.blScriptsValid = &valid;
-        EXPECT_TRUE(mdlSWFAuthoring::BuildMovie(request));
+    const MovieOutcome outcome = mdlSWFAuthoring::BuildMovie(Request());
+    EXPECT_TRUE(outcome.Written);
+    EXPECT_FALSE(outcome.ScriptsValid);
+    // A status line, and then the box, of the same place.
+    ASSERT_EQ(outcome.Told.size(), 6u);
+    for (const std::size_t i : {0u, 1u}) {
+        EXPECT_EQ(outcome.Told[i].Place.Frame, 2);
+        EXPECT_EQ(outcome.Told[i].Place.Line, 1);
+        EXPECT_EQ(outcome.Told[i].Place.Offset, 4);
+        EXPECT_EQ(outcome.Told[i].Place.Token, u";");
     }
+    EXPECT_EQ(outcome.Told[3].Place.Layer, u"釦");
+    const UserInterfaceScope scope(interface);
+    ShowNotices(outcome.Told);
     const String title = u"スクリプトエラー|文法に誤りがあります。\r\n";
     EXPECT_EQ(Texts(), (std::vector<String>{title + u"フレームアクション（フレーム 2）",
                                             title + u"ボタンアクション（釦）",
                                             title + u"クリップアクション（玉）"}));
-    EXPECT_FALSE(valid);
     ASSERT_EQ(interface.StatusLines.size(), 3u);
     EXPECT_TRUE(interface.StatusLines[0].starts_with(
         u"フレームアクション（フレーム 2）：文法に誤りがあります。（行番号：1）"))

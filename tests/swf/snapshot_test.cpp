@@ -29,7 +29,7 @@ protected:
         request.Frame = frame;
         request.blTopToBottom = blTopToBottom;
         const String file = FromNarrow(path.string());
-        EXPECT_TRUE(WriteEditSnapshot(admin, library, request, -1, file, placed));
+        EXPECT_TRUE(WriteEditSnapshot(admin, request, -1, file, placed));
         return test::ParseMovie(file);
     }
 
@@ -223,7 +223,7 @@ TEST_F(SnapshotTest, with_more_characters_than_a_file_can_hold_nothing_is_writte
     request.Layers = &layers;
     request.LastRow = layers.Count();
     placed.resize(1);
-    EXPECT_FALSE(WriteEditSnapshot(admin, library, request, -1, FromNarrow(path.string()), placed));
+    EXPECT_FALSE(WriteEditSnapshot(admin, request, -1, FromNarrow(path.string()), placed));
     EXPECT_FALSE(std::filesystem::exists(path));
     EXPECT_EQ(placed.size(), 1u);
 }

@@ -25,8 +25,7 @@ clsSWFTagDefineEditText FieldOf(clsSymbolData& symbol) {
     admin.inFontAdmin = std::make_shared<clsFontAdmin>();
     admin.inFontAdmin->CinFontObject(u"_sans_");
     admin.InitSWF();
-    DefineText(admin, symbol, 1);
-    EXPECT_EQ(symbol.DefineID(), 2);
+    EXPECT_EQ(DefineText(admin, symbol, 1), 2);
     return dynamic_cast<clsSWFTagDefineEditText&>(*admin.DefineObj(2));
 }
 

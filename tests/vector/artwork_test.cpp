@@ -200,7 +200,8 @@ TEST(Vector, a_curve_too_long_for_a_record_is_written_in_halves) {
     place->SetMatrix(1, 1, 0, 0, 0, 0, 0, 0, 0);
     admin.AddPlaceObj(1, place);
     const auto file = std::filesystem::path(testing::TempDir()) / "long_curve.swf";
-    ASSERT_TRUE(admin.Save(FromNarrow(file.string())));
+    Notices told;
+    ASSERT_TRUE(admin.Save(FromNarrow(file.string()), told));
     clsVector read;
     ASSERT_TRUE(read.LoadFromFile(FromNarrow(file.string())));
     std::filesystem::remove(file);

@@ -505,7 +505,8 @@ TEST(SwfReader, a_shape_of_this_program_comes_back_as_it_was) {
     place->depth = 3;
     movie.AddPlaceObj(1, place);
     movie.IncPlaceCount(shape->ID, 1);
-    ASSERT_TRUE(movie.Save(name));
+    Notices told;
+    ASSERT_TRUE(movie.Save(name, told));
 
     ListeningUserInterface ui;
     const UserInterfaceScope scope(ui);
