@@ -1,14 +1,14 @@
 #include "document/ProjectReader.h"
 
-#include <zlib.h>
-
 #include <algorithm>
 #include <new>
+#include <set>
 #include <stdexcept>
 #include <unordered_map>
 #include <utility>
 #include <vector>
 
+#include "document/ProjectText.h"
 #include "document/SymbolFiles.h"
 #include "document/cells/ProjectFileVersion.h"
 #include "document/cells/clsCSV.h"
@@ -16,8 +16,8 @@
 #include "document/records/clsPropertyText.h"
 #include "document/records/clsPropertyVector.h"
 #include "platform/RuntimeError.h"
+#include "platform/FindFile.h"
 #include "platform/UserInterface.h"
-#include "platform/codepage.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/text.h"
@@ -27,45 +27,12 @@ namespace tamber {
 namespace {
 
 constexpr Long VersionWithFitShape = 0x60300;
-/// Grown cells make rows that are only read cheap.
-constexpr Long readingGrowth = 128;
-constexpr std::size_t magicSize = 4;
-constexpr std::size_t compressedHead = 8;
-/// Bytes of a project text; far above any real one, and within the memory at hand.
-constexpr std::size_t largestText = std::size_t{48} << 20;
 
 /// An asset could not be had; the user was told why.
 struct LoadStopped {};
 
 [[noreturn]] void RaiseDamaged() {
     throw RuntimeError(ErrorOutOfRange, u"LoadProject", u"範囲外の数値が設定されました。");
-}
-
-/// What a project text begins with, the quotes of its first cell left aside.
-bool IsProjectHead(ByteView bytes) {
-    const std::string_view head(reinterpret_cast<const char*>(bytes.data()), bytes.size());
-    return head.starts_with("KVF") || head.starts_with("\"KVF");
-}
-
-bool Inflate(ByteView packed, Bytes& out) {
-    z_stream stream{};
-    if (inflateInit(&stream) != Z_OK) return false;
-    stream.next_in = const_cast<Byte*>(packed.data());
-    stream.avail_in = static_cast<uInt>(packed.size());
-    Byte block[65536];
-    int state = Z_OK;
-    while (state == Z_OK) {
-        stream.next_out = block;
-        stream.avail_out = sizeof block;
-        state = inflate(&stream, Z_NO_FLUSH);
-        const std::size_t made = sizeof block - stream.avail_out;
-        if (made == 0 && state == Z_OK) break;
-        if (out.empty() && !IsProjectHead({block, made})) state = Z_DATA_ERROR;
-        if (out.size() + made > largestText) state = Z_MEM_ERROR;
-        if (state == Z_OK || state == Z_STREAM_END) out.insert(out.end(), block, block + made);
-    }
-    inflateEnd(&stream);
-    return state == Z_STREAM_END;
 }
 
 /// Major as its own hexadecimal text, then two digits each of minor, revision and zero; the build
@@ -93,7 +60,8 @@ public:
     Reader(clsCSV& csv, String baseDir, const ProjectAssets& assets, std::optional<Long> importInto)
         : csv_(csv), baseDir_(std::move(baseDir)), assets_(assets), importInto_(importInto) {}
 
-    Project Read();
+    /// `told` is what there is to tell before.
+    Project Read(Notices told);
     Notices TakeTold() { return std::exchange(told_, {}); }
     /// Undoes references among the symbols of a load that failed, which may go round in circles.
     void Release();
@@ -104,6 +72,7 @@ private:
     void ShowTold() { ShowNotices(TakeTold()); }
     void ReadHtml();
     void ReadSymbols();
+    void TellUnknown(const std::vector<String>& cells);
     void FitFont(clsSymbolData& symbol);
     void LoadAsset(clsSymbolData& symbol);
     void ChooseFile(clsSymbolData& symbol);
@@ -120,10 +89,13 @@ private:
     std::optional<Long> importInto_;
     Project project_;
     Notices told_;
+    /// Words of unknown kinds that were told.
+    std::set<String> unknownWords_;
     std::unordered_map<Long, std::shared_ptr<clsSymbolData>> byId_;
 };
 
-Project Reader::Read() {
+Project Reader::Read(Notices told) {
+    told_ = std::move(told);
     project_.MainWidth = csv_.TakeLong();
     project_.MainHeight = csv_.TakeLong();
     project_.FrameRate = csv_.TakeSingle();
@@ -192,6 +164,9 @@ void Reader::ReadSymbols() {
         symbol->Load(csv_, baseDir_);
         csv_.CrLf();
         switch (symbol->eType()) {
+            case 0:
+                TellUnknown(symbol->UnknownCells);
+                break;
             case KindText:
                 if (!importInto_) FitFont(*symbol);
                 if (ProjectFileVersion < VersionWithFitShape) assets_.SetTextSize(*symbol);
@@ -210,6 +185,12 @@ void Reader::ReadSymbols() {
             byId_.emplace(symbol->ID, symbol);
         project_.colSymbol->Add(std::move(symbol));
     }
+}
+
+void Reader::TellUnknown(const std::vector<String>& cells) {
+    const String word = cells.size() > 2 ? cells[2] : String();
+    if (!unknownWords_.insert(word).second) return;
+    told_.push_back({u"「" + word + u"」は不明な種類のシンボルです。\r\n内容はそのまま保存されます。"});
 }
 
 void Reader::FitFont(clsSymbolData& symbol) {
@@ -233,7 +214,11 @@ void Reader::ChooseFile(clsSymbolData& symbol) {
 }
 
 void Reader::LoadAsset(clsSymbolData& symbol) {
-    if (!FileExists(symbol.FilePathName)) ChooseFile(symbol);
+    const String file = FindFile(symbol.FilePathName);
+    if (file.empty())
+        ChooseFile(symbol);
+    else
+        symbol.FilePathName = file;
     if (assets_.LoadFile(symbol, told_)) return;
     told_.push_back({u"ファイルの読み込みに失敗しました。", u"読み込みエラー", MessageIcon::Error});
     throw LoadStopped();
@@ -334,21 +319,6 @@ void Reader::CheckNesting() const {
     }
 }
 
-bool DecodeProject(ByteView bytes, String& text) {
-    if (bytes.size() < magicSize) return false;
-    const std::string_view magic(reinterpret_cast<const char*>(bytes.data()), magicSize);
-    if (!EqualsNoCase(FromNarrow(magic), u"KVFZ")) {
-        text = DecodeAnsi(bytes);
-        return true;
-    }
-    // The size told in the file is not relied on.
-    Bytes unpacked;
-    if (bytes.size() < compressedHead || !Inflate(bytes.subspan(compressedHead), unpacked))
-        return false;
-    text = DecodeAnsi(unpacked);
-    return true;
-}
-
 ProjectLoad Damaged(Notices told) {
     told.push_back({u"読込できませんでした。\r\nファイルは本ソフト用ではない可能性があります。",
                     u"ファイルが不正です", MessageIcon::Error});
@@ -356,10 +326,8 @@ ProjectLoad Damaged(Notices told) {
 }
 
 /// The table of a project file, its cursor behind the version; false when the bytes are no project.
-bool ReadHead(ByteView bytes, clsCSV& csv) {
-    String text;
-    if (!DecodeProject(bytes, text)) return false;
-    csv.Text(std::move(text));
+bool ReadHead(ByteView bytes, clsCSV& csv, Notices& told) {
+    if (!DecodeProjectText(bytes, csv, told)) return false;
     if (csv.TakeText() != u"KVF") return false;
     ProjectFileVersion = ReadVersion(csv);
     csv.CrLf();
@@ -372,7 +340,7 @@ ProjectLoad LoadProject(StringView path, Project& out, const ProjectAssets& asse
                         std::optional<Long> importInto) {
     const auto size = FileSize(path);
     Bytes bytes;
-    if (!size || *size > largestText || !ReadFileBytes(path, bytes)) return Damaged({});
+    if (!size || *size > LargestProjectText || !ReadFileBytes(path, bytes)) return Damaged({});
     return LoadProjectBytes(bytes, path, out, assets, importInto);
 }
 
@@ -380,11 +348,11 @@ ProjectLoad LoadProjectBytes(ByteView bytes, StringView path, Project& out,
                              const ProjectAssets& assets, std::optional<Long> importInto) {
     const ProjectFileVersionScope version(NewestProjectFileVersion);
     clsCSV csv;
-    csv.DefColSize(readingGrowth);
     Reader reader(csv, GetFileFolder(AbsolutePath(path)), assets, importInto);
     try {
-        if (!ReadHead(bytes, csv)) return Damaged({});
-        out = reader.Read();
+        Notices told;
+        if (!ReadHead(bytes, csv, told)) return Damaged({});
+        out = reader.Read(std::move(told));
         return {true, reader.TakeTold()};
     } catch (const LoadStopped&) {
         reader.Release();

@@ -1,20 +1,18 @@
 #include "document/ProjectWriter.h"
 
-#include <algorithm>
 #include <vector>
 
 #include "document/AppVersion.h"
+#include "document/ProjectText.h"
 #include "document/cells/clsCSV.h"
 #include "document/records/clsPropertyButton.h"
 #include "document/records/clsPropertyKoma.h"
 #include "document/records/clsPropertySprite.h"
 #include "document/records/clsPropertyText.h"
 #include "document/records/clsPropertyVector.h"
-#include "platform/codepage.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/text.h"
-#include "swf/mdlZlib.h"
 
 namespace tamber {
 
@@ -57,16 +55,6 @@ void SaveLayers(clsCSV& csv, const Collection<clsLayer>& layers) {
     for (const auto& layer : layers) layer->Save(csv);
 }
 
-/// "KVFZ", the size of the text in 4 bytes, little-endian, and its zlib stream.
-Bytes Compressed(const Bytes& text) {
-    Bytes out{'K', 'V', 'F', 'Z'};
-    for (const int shift : {0, 8, 16, 24})
-        out.push_back(static_cast<Byte>(text.size() >> shift & 255));
-    const Bytes stream = mdlZlib::ZlibCompress(text);
-    out.insert(out.end(), stream.begin(), stream.end());
-    return out;
-}
-
 }  // namespace
 
 void SaveProjectCells(clsCSV& csv, const Project& project, StringView baseDir) {
@@ -96,8 +84,7 @@ bool SaveProject(StringView path, const Project& project, RuntimeError* why) {
         const String folder = GetFileFolder(AbsolutePath(path));
         clsCSV csv;
         SaveProjectCells(csv, project, folder);
-        Bytes bytes = EncodeAnsi(csv.Text());
-        if (EqualsNoCase(GetFileExt(path), u"kvfz")) bytes = Compressed(bytes);
+        const Bytes bytes = EncodeProjectText(csv, EqualsNoCase(GetFileExt(path), u"kvfz"));
         if ((!folder.empty() && !FolderExists(folder) && !MakeFolders(folder)) ||
             !WriteFileBytes(bytes, path))
             throw RuntimeError(ErrorPathFileAccess, u"SaveProject", String(path));

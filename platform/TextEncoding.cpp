@@ -26,10 +26,6 @@ bool HasJisEscape(ByteView bytes) {
     return false;
 }
 
-bool IsUtf8(ByteView bytes) {
-    return DecodeUtf8(bytes).find(u'\uFFFD') == String::npos;
-}
-
 /// How well bytes fit a double-byte encoding: pairs less stray bytes, which weigh more.
 struct Fitness {
     Long Pairs = 0;

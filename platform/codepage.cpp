@@ -2,6 +2,7 @@
 
 #include <iconv.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <string_view>
@@ -254,6 +255,14 @@ String DecodeAnsi(ByteView bytes) {
     return text;
 }
 
+bool SurvivesAnsi(StringView text) {
+    return std::all_of(text.begin(), text.end(), [](char16_t c) {
+        if (c < 0x80) return true;
+        const std::uint16_t code = Table().Code(c);
+        return code != 0 && Table().Character(code) == c;
+    });
+}
+
 Bytes EncodeUtf8(StringView text) {
     Bytes bytes;
     bytes.reserve(text.size());
@@ -275,6 +284,16 @@ String DecodeUtf8(ByteView bytes) {
         }
     }
     return text;
+}
+
+bool IsUtf8(ByteView bytes) {
+    for (std::size_t i = 0; i < bytes.size();) {
+        const std::size_t begin = i;
+        const bool wellFormed = NextUtf8(bytes, i) != Replacement ||
+                                (i - begin == 3 && bytes[begin] == 0xEF && bytes[begin + 2] == 0xBD);
+        if (!wellFormed) return false;
+    }
+    return true;
 }
 
 std::string ToNarrow(StringView text) {

@@ -60,6 +60,12 @@ std::shared_ptr<clsSymbolData> SymbolFromFile(StringView path, const ProjectAsse
                     u"\r\n\r\n追加できない形式のファイルです。\r\n追加できる拡張子：" + extensions);
         return nullptr;
     }
+    if (PathSeparator != u'\\' && path.find(u'\\') != StringView::npos) {
+        // A project file would take it for the end of a folder's name.
+        ShowMessage(String(path) +
+                    u"\r\n\r\n名前に「\\」を含むファイルとフォルダは追加できません。");
+        return nullptr;
+    }
     if (!FileExists(path)) {
         ShowMessage(String(path) + u"\r\n\r\nファイルが見つかりません。");
         return nullptr;

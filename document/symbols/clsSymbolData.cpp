@@ -45,6 +45,35 @@ StringView FixedName(Long kind) {
     }
 }
 
+/// The file that a cell tells, against the project's folder.
+String FileOfCell(StringView cell, StringView baseDir) {
+    const String file = PathFromCell(cell);
+    const bool drive = file.size() >= 3 && (file[0] | 0x20) >= u'a' && (file[0] | 0x20) <= u'z' &&
+                       file[1] == u':' && (file[2] == u'\\' || file[2] == u'/');
+    if (file.empty() || drive || file.starts_with(PathSeparator)) return file;
+    return NormalizePath(JoinPath(baseDir, file));
+}
+
+String CellOfFile(StringView file, StringView baseDir) {
+    return file.empty() ? String() : PathToCell(MakeRelativePath(baseDir, file));
+}
+
+std::vector<String> CellsOfRow(const clsCSV& csv) {
+    std::vector<String> cells;
+    for (Long col = 0; col < csv.RowLength(csv.Y()); ++col) cells.emplace_back(csv.GetValue(col));
+    return cells;
+}
+
+/// The row as it was read, where it still tells the number and the file.
+void SaveUnknown(const clsSymbolData& symbol, clsCSV& csv, StringView baseDir) {
+    std::vector<String> cells = symbol.UnknownCells;
+    cells[0] = ToText(symbol.ID);
+    if (cells.size() > 1 && FileOfCell(cells[1], baseDir) != symbol.FilePathName)
+        cells[1] = CellOfFile(symbol.FilePathName, baseDir);
+    for (const String& cell : cells) csv.Put(cell);
+    csv.CrLf();
+}
+
 }  // namespace
 
 void clsSymbolData::eType(Long kind) {
@@ -129,22 +158,16 @@ void clsSymbolData::AddInFolder(Long count) {
 std::shared_ptr<clsSymbolData> clsSymbolData::Copy() const {
     auto copy = std::make_shared<clsSymbolData>(kind_);
     copy->FilePathName = FilePathName;
+    copy->UnknownCells = UnknownCells;
     if (property_) property_->CopyTo(*copy->property_);
     return copy;
 }
 
 void clsSymbolData::Load(clsCSV& csv, StringView baseDir) {
     ID = csv.TakeLong();
-    const String file = PathFromCell(csv.TakeText());
+    FilePathName = FileOfCell(csv.TakeText(), baseDir);
     eType(SymbolKindFromText(csv.TakeText()));
-    const bool drive = file.size() >= 3 && (file[0] | 0x20) >= u'a' && (file[0] | 0x20) <= u'z' &&
-                       file[1] == u':' && (file[2] == u'\\' || file[2] == u'/');
-    if (file.empty())
-        FilePathName.clear();
-    else
-        FilePathName = drive || file.starts_with(PathSeparator)
-                           ? file
-                           : NormalizePath(JoinPath(baseDir, file));
+    UnknownCells = kind_ == 0 ? CellsOfRow(csv) : std::vector<String>();
     ObjectName = csv.TakeText();
     if (ProjectFileVersion >= VersionWithLinkClass) LinkClassName = csv.TakeText();
     const String word = csv.TakeText();
@@ -161,8 +184,12 @@ void clsSymbolData::Load(clsCSV& csv, StringView baseDir) {
 }
 
 void clsSymbolData::Save(clsCSV& csv, StringView baseDir) const {
+    if (!UnknownCells.empty()) {
+        SaveUnknown(*this, csv, baseDir);
+        return;
+    }
     csv.Put(ID);
-    csv.Put(FilePathName.empty() ? String() : PathToCell(MakeRelativePath(baseDir, FilePathName)));
+    csv.Put(CellOfFile(FilePathName, baseDir));
     csv.Put(TypeText());
     csv.Put(ObjectName);
     csv.Put(LinkClassName);

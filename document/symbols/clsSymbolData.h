@@ -2,6 +2,7 @@
 
 #include <array>
 #include <memory>
+#include <vector>
 
 #include "document/elements/SymbolKinds.h"
 #include "document/cells/clsCSV.h"
@@ -23,6 +24,9 @@ public:
     String ObjectName;
     /// Class linked to a sprite.
     String LinkClassName;
+    /// Of an entry whose kind a file names by an unknown word: the cells of its row, which a save
+    /// writes back. Else empty.
+    std::vector<String> UnknownCells;
     bool blExport = false;
     bool blExportTop = true;
     /// Which slot `DefineID` reads and writes: 0, 1, else 2.

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "document/ProjectReader.h"
+#include "document/ProjectText.h"
 #include "document/ProjectWriter.h"
 #include "document/cells/ProjectFileVersion.h"
 #include "document/elements/clsLayerFolder.h"
@@ -318,6 +319,124 @@ TEST_F(ProjectFile, TakesTheMinorVersionAsTwoHexadecimalDigits) {
     Project project;
     ASSERT_TRUE(Load(text.replace(0, 9, u"KVF,0,10,0"), project));
     EXPECT_EQ(Cells(project), WholeProject());
+}
+
+/// A project of texts, each with its rows of cells and of references.
+String ProjectOfTexts(std::initializer_list<StringView> texts) {
+    String symbols;
+    String references;
+    for (const StringView text : texts) {
+        symbols += u"1,,ﾃｷｽﾄ,,,," + String(text) +
+                   u",,Font,1,2,3,0,0,False,True,1,2,3,0,True,False,False,0,0,1,1,True,False,False,"
+                   u"1\r\n";
+        references += u"0\r\n";
+    }
+    return u"KVF,0,9,0\r\n1,1,1,8\r\n" + ToText(static_cast<Long>(texts.size())) + u"\r\n" +
+           symbols + references + u"0\r\n";
+}
+
+TEST_F(ProjectFile, KeepsCharactersThatTheCodePageLacksInRowsBehindTheTable) {
+    Project project;
+    ASSERT_TRUE(Load(ProjectOfTexts({u"\"a\r\nb\"", u"", u"plain"}), project));
+    const auto textOf = [](const Project& from, Long index) -> String& {
+        return (*from.colSymbol)(index)->Property<clsPropertyText>()->InitialText;
+    };
+    // A best fit, none, a pair of units, a wave that turns into another one, a backslash.
+    textOf(project, 2) = u"\u00E9\uD55C\U0001F600\u301C\\,\u30AB\u3099";
+    (*project.colSymbol)(3)->ObjectName = u"\uD55C";
+    ASSERT_TRUE(SaveProject(path_, project, nullptr));
+    Bytes bytes;
+    ASSERT_TRUE(ReadFileBytes(path_, bytes));
+    const std::string written(bytes.begin(), bytes.end());
+    // The texts stand in the rows 4 and 5 and the column 6, whatever lines cells take.
+    const std::string rows =
+        "UNICODE,4,6,\"\\u00E9\\uD55C\\uD83D\\uDE00\\u301C\\u005C,\\u30AB\\u3099\"\r\n"
+        "UNICODE,5,3,\\uD55C\r\n";
+    EXPECT_TRUE(written.ends_with(rows)) << written;
+    EXPECT_NE(written.find("\"e???\x81\x60\\,\x83\x4A?\""), std::string::npos) << written;
+
+    Project again;
+    ASSERT_TRUE(LoadProject(path_, again, assets_));
+    EXPECT_EQ(textOf(again, 2), textOf(project, 2));
+    EXPECT_EQ((*again.colSymbol)(3)->ObjectName, u"\uD55C");
+    EXPECT_EQ(Cells(again), Cells(project));
+
+    // Another program changed the cell: its text counts.
+    String edited = DecodeAnsi(bytes);
+    edited.replace(edited.find(u"e???"), 1, u"x");
+    Project other;
+    ASSERT_TRUE(Load(edited, other));
+    EXPECT_EQ(textOf(other, 2), u"x???\uFF5E\\,\u30AB?");
+    EXPECT_EQ((*other.colSymbol)(3)->ObjectName, u"\uD55C");
+}
+
+TEST_F(ProjectFile, PassesOverRowsThatTellOfNoCell) {
+    const String text = ProjectOfTexts({u"?"});
+    for (const StringView row :
+         {u"UNICODE", u"UNICODE,x,6,\\uD55C", u"UNICODE,3,6,\\uD55", u"UNICODE,3,6,\\n",
+          u"UNICODE,-1,6,\\uD55C", u"UNICODE,2000000000,2000000000,", u"UNICODE,3,99999999999,?",
+          u"UNICODE,3,6,\\uD55C\\uD55C"}) {
+        Project project;
+        ASSERT_TRUE(Load(text + String(row) + u"\r\n", project)) << ToNarrow(row);
+        EXPECT_EQ(Cells(project), text) << ToNarrow(row);
+    }
+}
+
+TEST_F(ProjectFile, ReadsATextThatAnEditorTurnedIntoUtf8) {
+    Bytes bytes = EncodeUtf8(WholeProject());
+    for (const bool marked : {false, true}) {
+        if (marked) bytes.insert(bytes.begin(), {0xEF, 0xBB, 0xBF});
+        Project project;
+        const ProjectLoad load = LoadProjectBytes(bytes, path_, project, assets_);
+        ASSERT_TRUE(load);
+        ASSERT_EQ(load.Told.size(), 1U);
+        EXPECT_NE(load.Told[0].Text.find(u"UTF-8"), String::npos);
+        EXPECT_EQ(Cells(project), WholeProject());
+    }
+    // Half-width kana whose bytes are sound UTF-8 too.
+    Project project;
+    const String label = u"KVF,0,9,0\r\n1,1,1,8\r\n0\r\n1\r\n-2,ﾃｷ,,0,,,2048,0,0,,,,True,0\r\n";
+    ASSERT_TRUE(Load(label, project));
+    EXPECT_TRUE(ui_.Messages.empty());
+    EXPECT_EQ((*project.colMainLayer)(1)->LayerName, u"ﾃｷ");
+}
+
+TEST_F(ProjectFile, KeepsTheRowOfAnUnknownKind) {
+    const String row = u"1,絵\\表.bmp,新種,a,b,c,1,\"x,y\",,\r\n2,,新種,,,,\r\n";
+    const String text = u"KVF,0,9,0\r\n1,1,1,8\r\n2\r\n" + row + u"0\r\n";
+    Project project;
+    ASSERT_TRUE(Load(text, project));
+    ASSERT_EQ(ui_.Messages.size(), 1U);
+    EXPECT_TRUE(ui_.Messages[0].first.starts_with(u"「新種」"));
+    EXPECT_EQ((*project.colSymbol)(1)->eType(), 0);
+    EXPECT_EQ(Cells(project), text);
+    // The number and the place of the file follow.
+    (*project.colSymbol)(1)->ID = 7;
+    clsCSV moved;
+    SaveProjectCells(moved, project, JoinPath(folder_, u"絵"));
+    EXPECT_EQ(moved.GetSelText(0, 3, 3, 3), u"7,表.bmp,新種,a\r\n");
+}
+
+TEST_F(ProjectFile, FindsFilesByNamesOfAnotherForm) {
+    const String composed = JoinPath(folder_, u"ガÉ.png");
+    ASSERT_TRUE(WriteFileBytes(Bytes{1}, composed));
+    const String row = u",画像,,,,False,0,0,0,False,CR,100,False,70\r\n";
+    const auto project = [&row](StringView path) {
+        return u"KVF,0,9,0\r\n1,1,1,8\r\n1\r\n1," + String(path) + row + u"0\r\n";
+    };
+    Project found;
+    clsCSV csv;
+    csv.Text(project(u"\u30AB\u3099e\u0301.PNG"));
+    ASSERT_TRUE(ShowLoad(
+        LoadProjectBytes(EncodeProjectText(csv, false), path_, found, assets_)));
+    EXPECT_EQ((*found.colSymbol)(1)->FilePathName, composed);
+    ASSERT_TRUE(Load(project(u"絵\\表.BMP"), found));
+    EXPECT_EQ((*found.colSymbol)(1)->FilePathName, JoinPath(JoinPath(folder_, u"絵"), u"表.bmp"));
+    // Two that fit are none.
+    ASSERT_TRUE(WriteFileBytes(Bytes{1}, JoinPath(folder_, u"S.Mp3")));
+    EXPECT_FALSE(Load(u"KVF,0,9,0\r\n1,1,1,8\r\n1\r\n1,s.MP3,ｻｳﾝﾄﾞ,,,,False\r\n0\r\n", found));
+    EXPECT_EQ(ui_.Messages[0].first,
+              JoinPath(folder_, u"s.MP3") + u"\r\n\r\nファイルが見つかりません。");
 }
 
 TEST_F(ProjectFile, AsksForAMissingFile) {
