@@ -134,11 +134,7 @@ int Generate(const Options& options, const ConsoleUserInterface& console) {
 int Convert(const Options& options) {
     frmMain controller;
     if (!LoadFor(controller, options.Words[1])) return CouldNot;
-    RuntimeError why(0, u"", u"");
-    if (controller.SaveTo(PathOf(options.Words[2]), &why)) return Done;
-    ShowMessage(u"保存できませんでした。\r\n\r\n「Number： " + ToText(why.Number) + u"\r\n" +
-                why.Description + u"」");
-    return CouldNot;
+    return controller.SaveCopy(PathOf(options.Words[2])) ? Done : CouldNot;
 }
 
 int Info(const Options& options) {

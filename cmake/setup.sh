@@ -3,6 +3,9 @@
 build_packages=(build-essential cmake ninja-build pkg-config zlib1g-dev libdeflate-dev libpng-dev libjpeg-dev libgif-dev libfreetype-dev
   libfontconfig-dev libutf8proc-dev nlohmann-json3-dev)
 
+# Stands for the default font of texts, which no free system has.
+run_packages=(fonts-ipafont-gothic)
+
 # need_packages NAME... installs what is missing of the packages; a second run only asks dpkg.
 need_packages() {
   local name missing=()

@@ -1,6 +1,7 @@
 #include "document/ProjectReader.h"
 
 #include <algorithm>
+#include <limits>
 #include <new>
 #include <set>
 #include <stdexcept>
@@ -15,8 +16,8 @@
 #include "document/records/SymbolContents.h"
 #include "document/records/clsPropertyText.h"
 #include "document/records/clsPropertyVector.h"
-#include "platform/RuntimeError.h"
 #include "platform/FindFile.h"
+#include "platform/RuntimeError.h"
 #include "platform/UserInterface.h"
 #include "platform/files.h"
 #include "platform/paths.h"
@@ -51,7 +52,9 @@ Long ReadVersion(clsCSV& csv) {
     version = version << 8 | csv.TakeByte();
     version = version << 8 | csv.TakeByte();
     version <<= 8;
-    if (!csv.Value().empty()) version += csv.TakeByte();
+    const Long build = csv.Value().empty() ? 0 : csv.TakeLong();
+    if (build < 0 || build > std::numeric_limits<Long>::max() - version) RaiseDamaged();
+    version += build;
     return version;
 }
 
@@ -104,12 +107,14 @@ Project Reader::Read(Notices told) {
     AskForVersion();
     ReadHtml();
     ReadSymbols();
+    FitSymbolCounts(*project_.colSymbol);
     NestSymbols(*project_.colSymbol);
     ReadReferences();
     for (const auto& symbol : *project_.colSymbol)
         if (auto* sprite = symbol->Property<clsPropertySprite>()) ReadLayers(*sprite->colLayer);
     ReadLayers(*project_.colMainLayer);
     CheckNesting();
+    SetKomaSizes(*project_.colSymbol);
     return std::move(project_);
 }
 
@@ -190,7 +195,8 @@ void Reader::ReadSymbols() {
 void Reader::TellUnknown(const std::vector<String>& cells) {
     const String word = cells.size() > 2 ? cells[2] : String();
     if (!unknownWords_.insert(word).second) return;
-    told_.push_back({u"「" + word + u"」は不明な種類のシンボルです。\r\n内容はそのまま保存されます。"});
+    told_.push_back(
+        {u"「" + word + u"」は不明な種類のシンボルです。\r\n内容はそのまま保存されます。"});
 }
 
 void Reader::FitFont(clsSymbolData& symbol) {
@@ -246,7 +252,6 @@ void Reader::ReadReferences() {
         } else if (auto* koma = symbol->Property<clsPropertyKoma>()) {
             while (!csv_.Value().empty())
                 if (auto picture = TakeReference()) koma->colKomas->Add(std::move(picture));
-            koma->SetSize();
         } else {
             continue;
         }
@@ -274,6 +279,7 @@ void Reader::ReadLayers(Collection<clsLayer>& layers) {
         layer->Load(csv_);
         layers.Add(std::move(layer));
     }
+    FitLayerCounts(layers);
     NestLayers(layers);
 }
 

@@ -32,6 +32,12 @@ Single FrameRateOf(StringView text) {
     }
 }
 
+/// A version that a project can have; the usual one for any other.
+Long OfferedVersion(Long version) {
+    constexpr Long Usual = 6;
+    return version == 4 || (version >= 6 && version <= 8) ? version : Usual;
+}
+
 StringView WithoutQuotes(StringView text) {
     const bool quoted = text.size() >= 2 && text.front() == u'"' && text.back() == u'"';
     return quoted ? text.substr(1, text.size() - 2) : text;
@@ -69,7 +75,7 @@ void frmMain::Form_Load() {
         project.MainWidth = std::clamp(mdlPrivateProfile::CanvasWidth(), 1, MaxStage);
         project.MainHeight = std::clamp(mdlPrivateProfile::CanvasHeight(), 1, MaxStage);
         project.FrameRate = FrameRateOf(mdlPrivateProfile::FPS());
-        project.SWFVersion = mdlPrivateProfile::SWFVersion();
+        project.SWFVersion = OfferedVersion(mdlPrivateProfile::SWFVersion());
         session_.chkVisibleForwardLayer = mdlPrivateProfile::flgForwardLayerVisible();
         session_.chkVisibleBackLayer = mdlPrivateProfile::flgBackLayerVisible();
         LogStep(u"ini読み込み：");
@@ -146,8 +152,8 @@ bool frmMain::mnuSaveNew(StringView path) {
     return Do([&] { return project_.SaveNew(path); });
 }
 
-bool frmMain::SaveTo(StringView path, RuntimeError* why) {
-    return Do([&] { return project_.SaveTo(path, why); });
+bool frmMain::SaveCopy(StringView path) {
+    return Do([&] { return project_.SaveCopy(path); });
 }
 
 bool frmMain::mnuKVFImport(StringView path, const ChooseImport& choose) {

@@ -113,8 +113,9 @@ public:
     /// Saves to a path, which becomes the project's own. False when it is not saved, which is told:
     /// a file that a symbol is made from is no place for a project.
     bool mnuSaveNew(StringView path);
-    /// Writes the open project to a path. False when it could not be written, `why` then tells.
-    bool SaveTo(StringView path, RuntimeError* why);
+    /// Writes the open project to a path and keeps its own. False when it is not written, which is
+    /// told: a file that a symbol is made from is no place for a project.
+    bool SaveCopy(StringView path);
     /// Brings symbols and layers of another project into this one; asks for its path when `path` is
     /// empty. False when nothing came; a project that cannot be read was told.
     bool mnuKVFImport(StringView path, const ChooseImport& choose);

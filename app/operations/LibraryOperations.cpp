@@ -7,6 +7,7 @@
 #include "document/edit/ClassNames.h"
 #include "document/edit/SymbolUses.h"
 #include "document/edit/TimelineLength.h"
+#include "document/records/SymbolContents.h"
 #include "document/records/SymbolTimeline.h"
 #include "document/records/clsPropertyButton.h"
 #include "document/records/clsPropertyClass.h"
@@ -47,8 +48,8 @@ bool TakeClassName(const Collection<clsSymbolData>& library, const clsSymbolData
 /// Works out again what comes from other symbols' files.
 void FollowReload(const Collection<clsSymbolData>& library, const SymbolSet& read,
                   const ProjectAssets& assets) {
+    SetKomaSizes(library);
     for (const auto& symbol : library) {
-        if (auto* koma = symbol->Property<clsPropertyKoma>()) koma->SetSize();
         const auto* text = symbol->Property<clsPropertyText>();
         if (text != nullptr && read.contains(text->FitShapeSymbol().get()))
             assets.SetTextSize(*symbol);

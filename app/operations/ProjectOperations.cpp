@@ -145,16 +145,7 @@ bool ProjectOperations::SaveNew() {
 
 bool ProjectOperations::SaveNew(StringView path) {
     const String target(path);
-    if (FileExists(target) && IsSymbolFile(target)) {
-        TellInUse(target);
-        return false;
-    }
-    RuntimeError why(0, u"", u"");
-    if (!SaveTo(target, &why)) {
-        ShowMessage(u"保存できませんでした。\r\n\r\n「Number： " + ToText(why.Number) + u"\r\n" +
-                    why.Description + u"」");
-        return false;
-    }
+    if (!SaveCopy(target)) return false;
     session_.ProjectFileName = target;
     session_.ProjectDir = GetFileFolder(target);
     session_.blUncountedWork = false;
@@ -165,11 +156,22 @@ bool ProjectOperations::SaveNew(StringView path) {
     return true;
 }
 
-bool ProjectOperations::SaveTo(StringView path, RuntimeError* why) {
-    // Settings of the page that the file brought along stay in it; others are put in when asked.
-    Project& project = session_.inProject;
-    if (!project.Html && mdlPrivateProfile::flgHTMLtoProject()) project.Html = HtmlSection();
-    return SaveProject(path, project, why);
+bool ProjectOperations::SaveCopy(StringView path) {
+    if (FileExists(path) && IsSymbolFile(path)) {
+        TellInUse(path);
+        return false;
+    }
+    // Settings of the page that the file brought along go before those of the program.
+    Project saved = session_.inProject;
+    if (!mdlPrivateProfile::flgHTMLtoProject())
+        saved.Html.reset();
+    else if (!saved.Html)
+        saved.Html = HtmlSection();
+    RuntimeError why(0, u"", u"");
+    if (SaveProject(path, saved, &why)) return true;
+    ShowMessage(u"保存できませんでした。\r\n\r\n「Number： " + ToText(why.Number) + u"\r\n" +
+                why.Description + u"」");
+    return false;
 }
 
 void ProjectOperations::AddRecentFile(StringView path) const {

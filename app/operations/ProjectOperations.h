@@ -30,8 +30,9 @@ public:
     /// Saves to a path, which becomes the project's own. False when it is not saved, which is told:
     /// a file that a symbol is made from is no place for a project.
     bool SaveNew(StringView path);
-    /// Writes the project to a path. False when it could not be written, `why` then tells.
-    bool SaveTo(StringView path, RuntimeError* why);
+    /// Writes the project to a path and keeps its own. False when it could not be written, which is
+    /// told: a file that a symbol is made from is no place for a project.
+    bool SaveCopy(StringView path);
     bool Import(StringView path, const ChooseImport& choose);
     bool ChangeStage(Long width, Long height, Single frameRate, Long swfVersion);
     /// Switches to a timeline by its symbol's row, the first row selected.
@@ -41,11 +42,11 @@ public:
     /// Generates the movie, and its page where the settings ask for one. False when nothing was
     /// written: a file that the project is made from is no place for a movie.
     bool Author(StringView path);
+
+private:
     /// A file that a symbol is made from.
     bool IsSymbolFile(StringView path) const;
     static void TellInUse(StringView path);
-
-private:
     void AddBackgroundLayer();
     bool Guard();
     void CloseProject();

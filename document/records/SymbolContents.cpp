@@ -28,7 +28,22 @@ private:
     std::vector<const clsSymbolData*> open_;
 };
 
+using SymbolSet = std::unordered_set<const clsSymbolData*>;
+
+void SetKomaSizeOf(const clsSymbolData& symbol, SymbolSet& done) {
+    if (!done.insert(&symbol).second) return;
+    // A sprite has a size of its own.
+    if (symbol.Property<clsPropertySprite>() != nullptr) return;
+    ForEachShown(symbol, [&done](const clsSymbolData& shown) { SetKomaSizeOf(shown, done); });
+    if (auto* koma = symbol.Property<clsPropertyKoma>()) koma->SetSize();
+}
+
 }  // namespace
+
+void SetKomaSizes(const Collection<clsSymbolData>& library) {
+    SymbolSet done;
+    for (const auto& symbol : library) SetKomaSizeOf(*symbol, done);
+}
 
 bool ShowsSymbol(const clsSymbolData& outer, const clsSymbolData& symbol) {
     SymbolWalk walk;

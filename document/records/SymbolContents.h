@@ -1,9 +1,9 @@
 #pragma once
 
-#include "document/symbols/clsLayer.h"
 #include "document/records/clsPropertyButton.h"
 #include "document/records/clsPropertyKoma.h"
 #include "document/records/clsPropertySprite.h"
+#include "document/symbols/clsLayer.h"
 #include "document/symbols/clsSymbolData.h"
 #include "platform/Collection.h"
 
@@ -27,6 +27,10 @@ void ForEachShown(const clsSymbolData& symbol, Visit visit) {
         for (const auto& picture : *koma->colKomas) visitOne(picture);
     }
 }
+
+/// Works out the sizes of all komas of a library whose symbols do not show themselves, those first
+/// that others show.
+void SetKomaSizes(const Collection<clsSymbolData>& library);
 
 /// True when `outer` is the symbol, or shows it at any depth. A timeline of `symbol` cannot show
 /// `outer` then.

@@ -262,7 +262,8 @@ TEST_F(CommandLineTest, never_writes_over_what_the_movie_is_made_from) {
         if (entry.path().extension() == ".gif") picture = entry.path();
     for (const std::string& arguments :
          {std::string("generate p/hello.kvf -o p/hello.kvf"), std::string("generate p/hello.swf"),
-          "generate p/hello.kvf -o '" + picture.string() + "'"}) {
+          "generate p/hello.kvf -o '" + picture.string() + "'",
+          "convert p/hello.kvf '" + picture.string() + "'"}) {
         const Outcome run = Tamber(arguments);
         EXPECT_EQ(run.Code, 1) << arguments;
         EXPECT_NE(run.Errors.find("出力できません"), std::string::npos) << run.Errors;
@@ -282,6 +283,14 @@ TEST_F(CommandLineTest, holds_on_to_sense_in_settings_and_output) {
     EXPECT_EQ(TextOf(folder / "a.kvf").find("HTML,"), std::string::npos);
     EXPECT_EQ(Tamber("convert " + hello + " b.kvf --set flgHTMLtoProject=1 --set WIDTH=7").Code, 0);
     EXPECT_NE(TextOf(folder / "b.kvf").find("HTML,,7,0,,,True,True,False,high,,,True\r\n"),
+              std::string::npos);
+    EXPECT_EQ(Tamber("convert b.kvf c.kvf").Code, 0);
+    EXPECT_EQ(TextOf(folder / "c.kvf").find("HTML,"), std::string::npos);
+    EXPECT_EQ(Tamber("convert b.kvf d.kvf --set flgHTMLtoProject=1").Code, 0);
+    EXPECT_NE(TextOf(folder / "d.kvf").find("HTML,,7,"), std::string::npos);
+    // A version that is not offered.
+    std::ofstream(folder / "print.txt") << "Print\n";
+    EXPECT_NE(Tamber("batch print.txt --set SWFVersion=5").Output.find("\"swfVersion\": 6"),
               std::string::npos);
 }
 

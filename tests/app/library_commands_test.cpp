@@ -392,6 +392,14 @@ TEST_P(Removal, brings_back_by_undo_what_fell_with_all_it_refers_to) {
     EXPECT_EQ(ShownInMain(), "-1");
 }
 
+TEST_F(LibraryCommands, a_file_whose_name_holds_a_backslash_is_refused) {
+    ASSERT_TRUE(WriteFileBytes(BitmapFile(1), Path(u"a\\b.bmp")));
+    EXPECT_FALSE(main_.AddSymbolItem_File(Path(u"a\\b.bmp")));
+    ASSERT_EQ(interface_.Messages.size(), 1u);
+    EXPECT_NE(interface_.Messages[0].Text.find(u"「\\」"), String::npos);
+    EXPECT_TRUE(main_.colSymbol()->Empty());
+}
+
 TEST_F(LibraryCommands, a_timelines_own_history_keeps_what_its_symbols_refer_to) {
     EXPECT_TRUE(mdlPrivateProfile::UndoRedoType(false));
     EXPECT_TRUE(mdlPrivateProfile::UndoRedoMaxCount(1));

@@ -427,8 +427,7 @@ TEST_F(ProjectFile, FindsFilesByNamesOfAnotherForm) {
     Project found;
     clsCSV csv;
     csv.Text(project(u"\u30AB\u3099e\u0301.PNG"));
-    ASSERT_TRUE(ShowLoad(
-        LoadProjectBytes(EncodeProjectText(csv, false), path_, found, assets_)));
+    ASSERT_TRUE(ShowLoad(LoadProjectBytes(EncodeProjectText(csv, false), path_, found, assets_)));
     EXPECT_EQ((*found.colSymbol)(1)->FilePathName, composed);
     ASSERT_TRUE(Load(project(u"絵\\表.BMP"), found));
     EXPECT_EQ((*found.colSymbol)(1)->FilePathName, JoinPath(JoinPath(folder_, u"絵"), u"表.bmp"));
@@ -526,6 +525,53 @@ TEST_F(ProjectFile, FolderWithMoreRowsThanThereAreTakesTheRest) {
              u"2,,空動画,,,,e,1,1\r\n0\r\n",
              project));
     EXPECT_EQ((*project.colSymbol)(2)->ParentFolder(), (*project.colSymbol)(1));
+}
+
+TEST_F(ProjectFile, CountsOfFoldersAreMadeTrue) {
+    // An outer folder that claims too much, an inner one beyond it, one below 0.
+    const auto folder = [](StringView count) {
+        return u"-4,,,0,,,2048,0,0,,,,True,1\r\n1,1,False,False,True,F,0," + String(count) +
+               u",True,\r\n";
+    };
+    Project project;
+    ASSERT_TRUE(Load(u"KVF,0,9,0\r\n1,1,1,8\r\n0\r\n5\r\n" + folder(u"2") + folder(u"9") +
+                         u"-2,,,0,,,2048,0,0,,,,True,0\r\n" + folder(u"-3") +
+                         u"-1,,,0,,,2048,0,0,,,,True,0\r\n",
+                     project));
+    const auto& rows = *project.colMainLayer;
+    EXPECT_EQ(rows(1)->Folder()->LayerCount, 2);
+    EXPECT_EQ(rows(2)->Folder()->LayerCount, 1);
+    EXPECT_EQ(rows(3)->ParentFolder(), rows(2));
+    EXPECT_EQ(rows(4)->Folder()->LayerCount, 0);
+    EXPECT_EQ(rows(5)->ParentFolder(), nullptr);
+    ASSERT_TRUE(Load(
+        u"KVF,0,9,0\r\n1,1,1,8\r\n0\r\n2\r\n" + folder(u"7") + u"-1,,,0,,,2048,0,0,,,,True,0\r\n",
+        project));
+    EXPECT_EQ((*project.colMainLayer)(1)->Folder()->LayerCount, 0);
+}
+
+TEST_F(ProjectFile, AKomaOfAKomaBehindItHasItsSize) {
+    Project project;
+    ASSERT_TRUE(
+        Load(u"KVF,0,9,0\r\n1,1,1,8\r\n3\r\n1,,ｺﾏ動画,,,,a,1\r\n2,,ｺﾏ動画,,,,b,1\r\n"
+             u"3,,空動画,,,,e,30,20\r\n2\r\n3\r\n0\r\n",
+             project));
+    EXPECT_EQ((*project.colSymbol)(1)->PixelWidth(), 30);
+    EXPECT_EQ((*project.colSymbol)(1)->PixelHeight(), 20);
+}
+
+TEST_F(ProjectFile, ABuildHasMoreThanTwoDigits) {
+    Project project;
+    EXPECT_TRUE(Load(u"KVF,0,9,0,70000\r\n1,1,1,8\r\n0\r\n0\r\n", project));
+    ExpectDamaged(u"KVF,0,9,0,-1\r\n1,1,1,8\r\n0\r\n0\r\n", "below 0");
+    ExpectDamaged(u"KVF,7F,255,255,2147483647\r\n1,1,1,8\r\n0\r\n0\r\n", "beyond a number");
+}
+
+TEST_F(ProjectFile, ATextBeyondTheLimitIsNotWritten) {
+    clsCSV csv;
+    csv.Put(String(2 << 20, u'a'));
+    EXPECT_THROW(EncodeProjectText(csv, true, 1 << 20), RuntimeError);
+    EXPECT_FALSE(EncodeProjectText(csv, true, 4 << 20).empty());
 }
 
 TEST_F(ProjectFile, CutAtAnyByteLoadsOrSaysWhyNot) {
