@@ -4,6 +4,7 @@
 
 #include "platform/codepage.h"
 #include "platform/fonts.h"
+#include "swf/mdlSWFTag.h"
 #include "swf/tags/TextLayout.h"
 #include "swf/tags/clsFontAdmin.h"
 #include "swf/tags/clsSWFTagDefineFont.h"
@@ -67,7 +68,7 @@ void KanjiFontTag(benchmark::State& state) {
         tag.ID = 1;
         tag.FontName = u"IPAGothic";
         tag.FontObject = fonts.FontObject(1);
-        mdlSWFTag::swfBytePos(0);
+        mdlSWFTag::InitBuffer();
         tag.Save();
         benchmark::DoNotOptimize(mdlSWFTag::swfBytePos());
     }

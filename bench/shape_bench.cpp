@@ -1,5 +1,6 @@
 #include <benchmark/benchmark.h>
 
+#include "swf/mdlSWFTag.h"
 #include "swf/tags/clsSWFTShapeRecords.h"
 
 namespace tamber {
@@ -33,7 +34,7 @@ void SaveRecords(benchmark::State& state) {
     const clsSWFTShapeRecords& records = Drawing();
     mdlSWFTag::InitBuffer();
     for (auto _ : state) {
-        mdlSWFTag::swfBytePos(0);
+        mdlSWFTag::InitBuffer();
         records.Save(1, 1, 3);
         benchmark::DoNotOptimize(mdlSWFTag::swfBytePos());
     }

@@ -1,6 +1,7 @@
 #include "canvas/EditSnapshot.h"
 
 #include "swf/authoring/MovieLimits.h"
+#include "swf/mdlSWFTag.h"
 
 namespace tamber {
 

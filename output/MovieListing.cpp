@@ -1,7 +1,9 @@
 #include "output/MovieListing.h"
 
 #include <optional>
+#include <utility>
 
+#include "platform/RuntimeError.h"
 #include "platform/text.h"
 #include "script/compiler/ActionDisassembler.h"
 #include "swf/mdlZlib.h"
@@ -107,14 +109,14 @@ std::string NameOf(Long code) {
 }
 
 /// Bytes of a filter behind its kind; those of gradients and convolutions say it themselves.
-void SkipFilter(MovieBits& bits) {
+void SkipFilter(SwfBits& bits) {
     constexpr std::size_t Lengths[] = {23, 9, 15, 27, 0, 0, 80, 0};
-    const std::uint32_t kind = bits.U8();
+    const std::uint32_t kind = bits.GetUI(1);
     if (kind == 4 || kind == 7) {
-        bits.Take(std::size_t{5} * bits.U8() + 19);
+        bits.Take(std::size_t{5} * bits.GetUI(1) + 19);
     } else if (kind == 5) {
-        const std::size_t columns = bits.U8();
-        const std::size_t rows = bits.U8();
+        const std::size_t columns = bits.GetUI(1);
+        const std::size_t rows = bits.GetUI(1);
         bits.Take(8 + 4 * columns * rows + 5);
     } else {
         bits.Take(Lengths[kind & 7]);
@@ -135,9 +137,9 @@ MovieListing::MovieListing(ByteView file) {
         return;
     }
     version_ = file[3];
-    MovieBits signature(file.first(SignatureBytes));
+    SwfBits signature(file.first(SignatureBytes));
     signature.Take(4);
-    const std::size_t length = signature.U32();
+    const std::size_t length = signature.GetUI(4);
     text_ = std::string(file[0] == 'C' ? "CWS" : "FWS") + " version " + std::to_string(version_) +
             ", " + std::to_string(length) + " bytes\n";
     const ByteView body = file.subspan(SignatureBytes);
@@ -154,15 +156,16 @@ MovieListing::MovieListing(ByteView file) {
 }
 
 void MovieListing::ListMovie(ByteView body) {
-    MovieBits bits(body);
-    bits.SkipRect();
-    const std::uint32_t rate = bits.U16();
-    const std::uint32_t frames = bits.U16();
-    Line(0, std::to_string(frames) + " frames, " + std::to_string(rate / 256.0) + " a second");
-    if (bits.IsDamaged())
-        Damage(SignatureBytes);
-    else
-        ListTags(bits.Rest(), SignatureBytes + OffsetIn(body, bits.Rest()), 0);
+    SwfBits bits(body);
+    try {
+        bits.GetRect();
+        const std::uint32_t rate = bits.GetUI(2);
+        const std::uint32_t frames = bits.GetUI(2);
+        Line(0, std::to_string(frames) + " frames, " + std::to_string(rate / 256.0) + " a second");
+    } catch (const RuntimeError&) {
+        return Damage(SignatureBytes);
+    }
+    ListTags(bits.Rest(), SignatureBytes + OffsetIn(body, bits.Rest()), 0);
 }
 
 void MovieListing::Line(std::size_t depth, const std::string& text) {
@@ -176,38 +179,48 @@ void MovieListing::Damage(std::size_t offset) {
 }
 
 void MovieListing::ListTags(ByteView tags, std::size_t offset, std::size_t depth) {
-    MovieBits bits(tags);
+    SwfBits bits(tags);
     while (fault_.empty()) {
         const std::size_t at = offset + OffsetIn(tags, bits.Rest());
-        const std::uint32_t header = bits.U16();
-        std::size_t length = header & LongLength;
-        if (length == LongLength) length = bits.U32();
-        const Long code = static_cast<Long>(header >> 6);
-        const ByteView body = bits.Take(bits.IsDamaged() ? 0 : length);
-        if (bits.IsDamaged()) return Damage(at);
-        Line(depth,
-             std::to_string(at) + " " + NameOf(code) + ", " + std::to_string(length) + " bytes");
-        if (code == TagCode::End) return;
-        ListTag(code, body, offset + OffsetIn(tags, bits.Rest()) - body.size(), depth + 1);
+        try {
+            const std::uint32_t header = bits.GetUI(2);
+            std::size_t length = header & LongLength;
+            if (length == LongLength) length = bits.GetUI(4);
+            const Long code = static_cast<Long>(header >> 6);
+            const ByteView body = bits.Take(length);
+            Line(depth, std::to_string(at) + " " + NameOf(code) + ", " + std::to_string(length) +
+                            " bytes");
+            if (code == TagCode::End) return;
+            ListTag(code, body, offset + OffsetIn(tags, bits.Rest()) - body.size(), depth + 1);
+        } catch (const RuntimeError&) {
+            Damage(at);
+        }
     }
 }
 
 void MovieListing::ListTag(Long code, ByteView body, std::size_t offset, std::size_t depth) {
-    constexpr std::size_t SpriteHeader = 4;
-    constexpr std::size_t InitHeader = 2;
-    MovieBits bits(body);
-    offset_ = offset;
+    const std::size_t outer = std::exchange(offset_, offset);
+    try {
+        ListContents(code, body, depth);
+    } catch (const RuntimeError&) {
+        Damage(offset);
+    }
+    offset_ = outer;
+}
+
+void MovieListing::ListContents(Long code, ByteView body, std::size_t depth) {
+    SwfBits bits(body);
     switch (code) {
         case TagCode::DoAction:
             return ListActions(body, depth);
         case TagCode::DoInitAction:
-            Line(depth, "sprite " + std::to_string(bits.U16()));
-            if (body.size() >= InitHeader) return ListActions(body.subspan(InitHeader), depth);
-            return Damage(offset);
+            Line(depth, "sprite " + std::to_string(bits.GetUI(2)));
+            return ListActions(bits.Rest(), depth);
         case TagCode::DefineSprite:
-            if (depth > MaxDepth || body.size() < SpriteHeader) return Damage(offset);
-            Line(depth, "sprite " + std::to_string(bits.U16()));
-            return ListTags(body.subspan(SpriteHeader), offset + SpriteHeader, depth);
+            if (depth > MaxDepth) return Damage(offset_);
+            Line(depth, "sprite " + std::to_string(bits.GetUI(2)));
+            bits.GetUI(2);
+            return ListTags(bits.Rest(), offset_ + OffsetIn(body, bits.Rest()), depth);
         case TagCode::PlaceObject2:
         case TagCode::PlaceObject3:
             return ListClip(body, code == TagCode::PlaceObject3, depth);
@@ -227,50 +240,48 @@ void MovieListing::ListActions(ByteView actions, std::size_t depth) {
 }
 
 void MovieListing::ListClip(ByteView body, bool hasMoreFlags, std::size_t depth) {
-    MovieBits bits(body);
-    const std::uint32_t flags = bits.U8();
-    const std::uint32_t more = hasMoreFlags ? bits.U8() : 0;
+    SwfBits bits(body);
+    const std::uint32_t flags = bits.GetUI(1);
+    const std::uint32_t more = hasMoreFlags ? bits.GetUI(1) : 0;
     if ((flags & HasActions) == 0) return;
-    bits.U16();
-    if ((more & HasClassName) != 0) bits.SkipText();
-    if ((flags & HasCharacter) != 0) bits.U16();
-    if ((flags & HasMatrix) != 0) bits.SkipMatrix();
-    if ((flags & HasColours) != 0) bits.SkipColourTransform();
-    if ((flags & HasRatio) != 0) bits.U16();
-    if ((flags & HasName) != 0) bits.SkipText();
-    if ((flags & HasClipDepth) != 0) bits.U16();
+    bits.GetUI(2);
+    if ((more & HasClassName) != 0) bits.GetString(version_, 0, true);
+    if ((flags & HasCharacter) != 0) bits.GetUI(2);
+    if ((flags & HasMatrix) != 0) bits.GetMatrix();
+    if ((flags & HasColours) != 0) bits.GetCXForm(true);
+    if ((flags & HasRatio) != 0) bits.GetUI(2);
+    if ((flags & HasName) != 0) bits.GetString(version_, 0, true);
+    if ((flags & HasClipDepth) != 0) bits.GetUI(2);
     if ((more & HasFilters) != 0)
-        for (std::uint32_t count = bits.U8(); count > 0; --count) SkipFilter(bits);
-    if ((more & HasBlendMode) != 0) bits.U8();
-    if ((more & HasCache) != 0) bits.U8();
-    bits.U16();
+        for (std::uint32_t count = bits.GetUI(1); count > 0; --count) SkipFilter(bits);
+    if ((more & HasBlendMode) != 0) bits.GetUI(1);
+    if ((more & HasCache) != 0) bits.GetUI(1);
+    bits.GetUI(2);
     ListClipEvents(bits, depth);
 }
 
 /// Events that the clip has, then for each its flags, a length and actions; zero flags end it.
-void MovieListing::ListClipEvents(MovieBits& bits, std::size_t depth) {
+void MovieListing::ListClipEvents(SwfBits& bits, std::size_t depth) {
     const bool isWide = version_ >= WideEventVersion;
-    const auto flags = [&] { return isWide ? bits.U32() : bits.U16(); };
+    const auto flags = [&] { return isWide ? bits.GetUI(4) : bits.GetUI(2); };
     flags();
     for (std::uint32_t events = flags(); events != 0; events = flags()) {
-        MovieBits actions(bits.Take(bits.U32()));
-        if (bits.IsDamaged()) return Damage(offset_);
+        SwfBits actions(bits.Take(bits.GetUI(4)));
         std::string line = "events " + std::to_string(events);
-        if (isWide && (events & ClipKeyPress) != 0) line += " key " + std::to_string(actions.U8());
+        if (isWide && (events & ClipKeyPress) != 0)
+            line += " key " + std::to_string(actions.GetUI(1));
         Line(depth, line);
         ListActions(actions.Rest(), depth + 1);
     }
-    if (bits.IsDamaged()) Damage(offset_);
 }
 
 void MovieListing::ListButton(ByteView body, std::size_t depth) {
-    MovieBits bits(body);
-    bits.U16();
-    while (!bits.IsEmpty() && bits.U8() != 0) {
-        bits.U32();
-        bits.SkipMatrix();
+    SwfBits bits(body);
+    bits.GetUI(2);
+    while (!bits.IsEmpty() && bits.GetUI(1) != 0) {
+        bits.GetUI(4);
+        bits.GetMatrix();
     }
-    if (bits.IsDamaged()) return Damage(offset_);
     ListActions(bits.Rest(), depth);
 }
 
@@ -278,20 +289,19 @@ void MovieListing::ListButton(ByteView body, std::size_t depth) {
 void MovieListing::ListButton2(ByteView body, std::size_t depth) {
     constexpr std::size_t OffsetAt = 3;
     constexpr std::size_t BlockHeader = 4;
-    MovieBits bits(body);
+    SwfBits bits(body);
     bits.Take(OffsetAt);
-    const std::size_t first = bits.U16();
-    if (bits.IsDamaged() || OffsetAt + first > body.size()) return Damage(offset_);
+    const std::size_t first = bits.GetUI(2);
+    if (OffsetAt + first > body.size()) return Damage(offset_);
     if (first == 0) return;
     ByteView rest = body.subspan(OffsetAt + first);
     for (bool isLast = false; !isLast && fault_.empty();) {
-        MovieBits block(rest);
-        const std::size_t next = block.U16();
-        const std::uint32_t conditions = block.U16();
+        SwfBits block(rest);
+        const std::size_t next = block.GetUI(2);
+        const std::uint32_t conditions = block.GetUI(2);
         isLast = next == 0;
         const std::size_t length = isLast ? rest.size() : next;
-        if (block.IsDamaged() || length < BlockHeader || length > rest.size())
-            return Damage(offset_);
+        if (length < BlockHeader || length > rest.size()) return Damage(offset_);
         Line(depth, "conditions " + std::to_string(conditions));
         ListActions(rest.subspan(BlockHeader, length - BlockHeader), depth + 1);
         rest = rest.subspan(length);

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "output/MovieBits.h"
+#include "swf/SwfBits.h"
 
 namespace tamber {
 
@@ -22,9 +22,10 @@ private:
     void ListMovie(ByteView body);
     void ListTags(ByteView tags, std::size_t offset, std::size_t depth);
     void ListTag(Long code, ByteView body, std::size_t offset, std::size_t depth);
+    void ListContents(Long code, ByteView body, std::size_t depth);
     void ListActions(ByteView actions, std::size_t depth);
     void ListClip(ByteView body, bool hasMoreFlags, std::size_t depth);
-    void ListClipEvents(MovieBits& bits, std::size_t depth);
+    void ListClipEvents(SwfBits& bits, std::size_t depth);
     void ListButton(ByteView body, std::size_t depth);
     void ListButton2(ByteView body, std::size_t depth);
     void Line(std::size_t depth, const std::string& text);

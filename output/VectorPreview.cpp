@@ -8,6 +8,7 @@
 #include "platform/rounding.h"
 #include "platform/twips.h"
 #include "swf/authoring/VectorDefinition.h"
+#include "swf/mdlSWFTag.h"
 
 namespace tamber {
 

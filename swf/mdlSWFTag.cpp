@@ -3,12 +3,16 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
+#include <cstdlib>
 #include <cstring>
 #include <limits>
+#include <memory>
+#include <new>
 
 #include "platform/RuntimeError.h"
 #include "platform/codepage.h"
 #include "platform/rounding.h"
+#include "swf/TextEncoding.h"
 
 namespace tamber::mdlSWFTag {
 
@@ -17,10 +21,16 @@ namespace {
 constexpr std::size_t BufferStep = 0x100000;
 constexpr double Pi = 3.14159265358979;
 
+struct FreeBytes {
+    void operator()(Byte* bytes) const { std::free(bytes); }
+};
+
+/// The buffer is a block of the C heap, which moves large blocks without copying them.
 struct Stream {
-    Bytes buffer;
+    std::unique_ptr<Byte[], FreeBytes> buffer;
+    std::size_t capacity = 0;
     std::size_t bytePos = 0;
-    /// Bits taken but not yet written (or read but not yet given), the low `pendingCount` ones.
+    /// Bits taken but not yet written, the low `pendingCount` ones.
     std::uint64_t pending = 0;
     Long pendingCount = 0;
     Long version = 6;
@@ -32,12 +42,19 @@ thread_local Stream stream;
     throw RuntimeError(ErrorOutOfRange, String(source), u"");
 }
 
+void Enlarge(std::size_t capacity) {
+    void* larger = std::realloc(stream.buffer.get(), capacity);
+    if (larger == nullptr) throw std::bad_alloc();
+    static_cast<void>(stream.buffer.release());
+    stream.buffer.reset(static_cast<Byte*>(larger));
+    stream.capacity = capacity;
+}
+
 Byte* Grow(std::size_t count) {
-    Stream& s = stream;
-    const std::size_t needed = s.bytePos + count;
-    if (needed > s.buffer.size())
-        s.buffer.resize(std::max(needed + BufferStep, s.buffer.size() + s.buffer.size() / 2));
-    return s.buffer.data() + s.bytePos;
+    const std::size_t needed = stream.bytePos + count;
+    if (needed > stream.capacity)
+        Enlarge(std::max(needed + BufferStep, stream.capacity + stream.capacity / 2));
+    return stream.buffer.get() + stream.bytePos;
 }
 
 void Store(Byte* target, Long byteCount, Long value) {
@@ -70,10 +87,6 @@ void SetOptionalPair(bool present, Long a, Long b) {
     if (present) SetPair(a, b);
 }
 
-bool UsesUtf8(Long version, bool blAllowUTF8) {
-    return version >= 6 && blAllowUTF8;
-}
-
 }  // namespace
 
 Long swfVersion() {
@@ -84,31 +97,24 @@ void swfVersion(Long version) {
 }
 
 void InitBuffer() {
-    LoadBuffer(Bytes(BufferStep + 1));
-}
-
-Bytes TakeBuffer() {
-    SetAlign();
-    stream.buffer.resize(stream.bytePos);
-    Bytes result = std::move(stream.buffer);
-    LoadBuffer({});
-    return result;
-}
-
-void LoadBuffer(Bytes bytes) {
-    stream.buffer = std::move(bytes);
     stream.bytePos = 0;
     stream.pending = 0;
     stream.pendingCount = 0;
 }
 
-std::size_t swfBytePos() {
-    return stream.bytePos;
+void ReleaseBuffer() {
+    InitBuffer();
+    stream.buffer.reset();
+    stream.capacity = 0;
 }
 
-void swfBytePos(std::size_t position) {
-    stream.bytePos = position;
-    stream.pendingCount = 0;
+ByteView Written() {
+    SetAlign();
+    return {stream.buffer.get(), stream.bytePos};
+}
+
+std::size_t swfBytePos() {
+    return stream.bytePos;
 }
 
 Long swfBitPos() {
@@ -156,7 +162,7 @@ BitRun::State StreamRun::Begin(std::size_t maxBits) {
 }
 
 void StreamRun::End(State state) {
-    stream.bytePos = static_cast<std::size_t>(state.Target - stream.buffer.data());
+    stream.bytePos = static_cast<std::size_t>(state.Target - stream.buffer.get());
     stream.pending = state.Pending;
     stream.pendingCount = state.Count;
 }
@@ -315,20 +321,20 @@ void EndTagShortest(Long tagCode, std::size_t bodyStart) {
         return;
     }
     PatchBytes(bodyStart - 6, 2, tagCode * 64 + static_cast<Long>(size));
-    Byte* body = stream.buffer.data() + bodyStart;
+    Byte* body = stream.buffer.get() + bodyStart;
     std::memmove(body - 4, body, size);
-    swfBytePos(swfBytePos() - 4);
+    stream.bytePos -= 4;
 }
 
 ByteView TakeBack(std::size_t start) {
     SetAlign();
-    const ByteView bytes(stream.buffer.data() + start, stream.bytePos - start);
+    const ByteView bytes(stream.buffer.get() + start, stream.bytePos - start);
     stream.bytePos = start;
     return bytes;
 }
 
 void PatchBytes(std::size_t position, Long byteCount, Long value) {
-    Store(stream.buffer.data() + position, byteCount, value);
+    Store(stream.buffer.get() + position, byteCount, value);
 }
 
 Long BitLength(Long value, bool blUnsigned) {
@@ -336,99 +342,6 @@ Long BitLength(Long value, bool blUnsigned) {
     const Long bits = 32 - std::countl_zero(magnitude);
     if (value > 0 && blUnsigned) return bits;
     return bits + 1;
-}
-
-namespace {
-
-Byte NextByte(StringView source) {
-    if (stream.bytePos >= stream.buffer.size()) Refuse(source);
-    return stream.buffer[stream.bytePos++];
-}
-
-/// Drops the rest of a byte that was begun by GetBits.
-void AlignReader() {
-    stream.pendingCount = 0;
-}
-
-}  // namespace
-
-Long GetUI(Long byteCount) {
-    if (byteCount < 1 || byteCount > 4) Refuse(u"GetUI");
-    AlignReader();
-    std::uint32_t value = 0;
-    for (Long i = 0; i < byteCount; ++i)
-        value |= static_cast<std::uint32_t>(NextByte(u"GetUI")) << (8 * i);
-    return static_cast<Long>(value);
-}
-
-Long GetBits(Long bitCount) {
-    if (bitCount < 0 || bitCount > 32) Refuse(u"GetBits");
-    Stream& s = stream;
-    while (s.pendingCount < bitCount) {
-        s.pending = (s.pending << 8) | NextByte(u"GetBits");
-        s.pendingCount += 8;
-    }
-    s.pendingCount -= bitCount;
-    const std::uint64_t mask = (std::uint64_t{1} << bitCount) - 1;
-    return static_cast<Long>(static_cast<std::uint32_t>((s.pending >> s.pendingCount) & mask));
-}
-
-Long GetSBits(Long bitCount) {
-    const auto value = static_cast<std::uint32_t>(GetBits(bitCount));
-    if (bitCount == 0 || bitCount == 32) return static_cast<Long>(value);
-    const std::uint32_t sign = std::uint32_t{1} << (bitCount - 1);
-    return static_cast<Long>((value ^ sign) - sign);
-}
-
-SwfRect GetRect() {
-    AlignReader();
-    const Long width = GetBits(5);
-    SwfRect rect;
-    rect.xMin = GetSBits(width);
-    rect.xMax = GetSBits(width);
-    rect.yMin = GetSBits(width);
-    rect.yMax = GetSBits(width);
-    return rect;
-}
-
-SwfMatrix GetMatrix() {
-    AlignReader();
-    SwfMatrix matrix;
-    if (GetBits(1) != 0) {
-        const Long width = GetBits(5);
-        matrix.ScaleX = GetSBits(width);
-        matrix.ScaleY = GetSBits(width);
-    }
-    if (GetBits(1) != 0) {
-        const Long width = GetBits(5);
-        matrix.RotateSkew0 = GetSBits(width);
-        matrix.RotateSkew1 = GetSBits(width);
-    }
-    const Long width = GetBits(5);
-    matrix.TranslateX = GetSBits(width);
-    matrix.TranslateY = GetSBits(width);
-    return matrix;
-}
-
-String GetString(Long version, Long length, bool blAllowUTF8) {
-    AlignReader();
-    const Stream& s = stream;
-    const auto from = s.buffer.begin() + static_cast<std::ptrdiff_t>(s.bytePos);
-    const auto room = static_cast<std::size_t>(s.buffer.end() - from);
-    auto count = static_cast<std::size_t>(length);
-    std::size_t skip = 0;
-    if (length == 0) {
-        const auto zero = std::find(from, s.buffer.end(), Byte{0});
-        if (zero == s.buffer.end()) Refuse(u"GetString");
-        count = static_cast<std::size_t>(zero - from);
-        skip = 1;
-    } else if (length < 0 || count > room) {
-        Refuse(u"GetString");
-    }
-    const ByteView bytes(s.buffer.data() + s.bytePos, count);
-    String text = UsesUtf8(version, blAllowUTF8) ? DecodeUtf8(bytes) : DecodeAnsi(bytes);
-    swfBytePos(s.bytePos + count + skip);
-    return text;
 }
 
 }  // namespace tamber::mdlSWFTag

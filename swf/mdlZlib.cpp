@@ -22,14 +22,18 @@ struct FreeCompressor {
 
 }  // namespace
 
-Bytes ZlibCompress(ByteView bytes) {
+Bytes ZlibCompress(ByteView bytes, ByteView head) {
     const std::unique_ptr<libdeflate_compressor, FreeCompressor> compressor(
         libdeflate_alloc_compressor(Level));
     if (!compressor) throw std::bad_alloc();
-    Bytes result(libdeflate_zlib_compress_bound(compressor.get(), bytes.size()));
-    result.resize(libdeflate_zlib_compress(compressor.get(), bytes.data(), bytes.size(),
-                                           result.data(), result.size()));
-    result.shrink_to_fit();
+    const std::size_t bound = libdeflate_zlib_compress_bound(compressor.get(), bytes.size());
+    const auto stream = std::make_unique_for_overwrite<Byte[]>(bound);
+    const std::size_t size =
+        libdeflate_zlib_compress(compressor.get(), bytes.data(), bytes.size(), stream.get(), bound);
+    Bytes result;
+    result.reserve(head.size() + size);
+    result.assign(head.begin(), head.end());
+    result.insert(result.end(), stream.get(), stream.get() + size);
     return result;
 }
 

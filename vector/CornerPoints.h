@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "swf/mdlSWFTag.h"
+#include "swf/SwfTypes.h"
 
 namespace tamber {
 

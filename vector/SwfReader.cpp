@@ -8,6 +8,7 @@
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/twips.h"
+#include "swf/SwfBits.h"
 #include "swf/mdlZlib.h"
 #include "swf/tags/TagCodes.h"
 #include "vector/LoadProgress.h"
@@ -22,8 +23,6 @@ namespace {
 constexpr std::size_t SignatureBytes = 8;
 constexpr std::size_t LengthOffset = 4;
 constexpr std::size_t MaxInflated = std::size_t{256} << 20;
-/// The longest RECT: a width of 5 bits and four fields of 31.
-constexpr std::size_t MaxRectBytes = 17;
 constexpr std::size_t RateBytes = 2;
 /// Bytes that pictures may take of tables they share; more than those of any real movie.
 constexpr std::size_t MaxSharedTables = std::size_t{64} << 20;
@@ -43,43 +42,13 @@ enum PlaceFlag3 : Long { HasFilters = 1, HasBlendMode = 2, HasClassName = 8, Has
 /// Of the first byte of a colour transform: whether it adds or multiplies anything.
 constexpr Long ColorTerms = 0xC0;
 
-/// Bytes of a file, read from the front.
-class ByteReader {
-public:
-    explicit ByteReader(ByteView bytes) : rest_(bytes) {}
-
-    ByteView Rest() const { return rest_; }
-    ByteView Take(std::size_t count) {
-        if (count > rest_.size()) throw RuntimeError(ErrorOutOfRange, u"ReadSwfFile", u"");
-        const ByteView taken = rest_.first(count);
-        rest_ = rest_.subspan(count);
-        return taken;
-    }
-    std::uint32_t U16() {
-        const ByteView b = Take(2);
-        return static_cast<std::uint32_t>(b[0] | b[1] << 8);
-    }
-    std::uint32_t U32() {
-        const std::uint32_t low = U16();
-        return low | U16() << 16;
-    }
-
-private:
-    ByteView rest_;
-};
-
-/// Frees what the stream holds.
-struct StreamRelease {
-    ~StreamRelease() { mdlSWFTag::LoadBuffer({}); }
-};
-
 /// What stands behind the signature; nothing for a file that is no movie, or a damaged one.
 std::optional<ByteView> MovieBody(ByteView file, Bytes& inflated) {
     if (file.size() < SignatureBytes || file[1] != 'W' || file[2] != 'S') return std::nullopt;
     const ByteView body = file.subspan(SignatureBytes);
     if (file[0] == 'F') return body;
     if (file[0] != 'C') return std::nullopt;
-    const std::size_t length = ByteReader(file.subspan(LengthOffset)).U32();
+    const std::size_t length = SwfBits(file.subspan(LengthOffset)).GetUI(4);
     std::optional<Bytes> bytes = mdlZlib::ZlibUncompress(body, std::min(length, MaxInflated));
     if (!bytes) return std::nullopt;
     inflated = std::move(*bytes);
@@ -108,22 +77,19 @@ public:
 
 private:
     void ReadHeader() {
-        const ByteView head = tags_.Rest();
-        const ByteView rect = head.first(std::min(head.size(), MaxRectBytes));
-        mdlSWFTag::LoadBuffer(Bytes(rect.begin(), rect.end()));
-        const SwfRect size = mdlSWFTag::GetRect();
+        const SwfRect size = tags_.GetRect();
         vector_.Width = (size.xMax - size.xMin) / TwipsPerPixel;
         vector_.height = (size.yMax - size.yMin) / TwipsPerPixel;
-        tags_.Take(mdlSWFTag::swfBytePos() + RateBytes);
-        frames_ = tags_.U16();
+        tags_.Take(RateBytes);
+        frames_ = tags_.GetUI(2);
     }
 
     /// False at the end of the first frame.
     bool ReadTag() {
-        const std::uint32_t head = tags_.U16();
+        const std::uint32_t head = tags_.GetUI(2);
         const std::uint32_t shortLength = head & 63;
         const auto code = static_cast<Long>(head >> 6);
-        ByteReader body(tags_.Take(shortLength == LongLength ? tags_.U32() : shortLength));
+        SwfBits body(tags_.Take(shortLength == LongLength ? tags_.GetUI(4) : shortLength));
         switch (code) {
             case TagCode::End:
             case TagCode::ShowFrame:
@@ -137,11 +103,10 @@ private:
             case TagCode::PlaceObject:
             case TagCode::PlaceObject2:
             case TagCode::PlaceObject3:
-                mdlSWFTag::LoadBuffer(Bytes(body.Rest().begin(), body.Rest().end()));
                 if (code == TagCode::PlaceObject)
-                    ReadPlaceObject(body.Rest().size());
+                    ReadPlaceObject(body);
                 else
-                    ReadPlaceObject2(code);
+                    ReadPlaceObject2(code, body);
                 break;
             case TagCode::DefineBits:
             case TagCode::DefineBitsLossless:
@@ -161,23 +126,23 @@ private:
     }
 
     /// A character that is no shape, or what else a tag tells of.
-    void AddOther(Long code, ByteReader body) {
+    void AddOther(Long code, SwfBits body) {
         const StringView name = SwfLeftOut::CharacterName(code);
         if (!name.empty())
-            othersByID_.emplace(static_cast<Long>(body.U16()), name);
+            othersByID_.emplace(static_cast<Long>(body.GetUI(2)), name);
         else
             leftOut_.NoteTag(code);
     }
 
     /// The first definition of an identifier counts, for shapes and bitmaps alike.
-    void AddShape(Long code, ByteReader body) {
-        const auto id = static_cast<Long>(body.U16());
+    void AddShape(Long code, SwfBits body) {
+        const auto id = static_cast<Long>(body.GetUI(2));
         if (!entriesByID_.emplace(id, entries_.size()).second) return;
         entries_.push_back({code, id, 0, body.Rest(), {}});
     }
 
-    void AddBitmap(Long code, ByteReader body) {
-        const auto id = static_cast<Long>(body.U16());
+    void AddBitmap(Long code, SwfBits body) {
+        const auto id = static_cast<Long>(body.GetUI(2));
         if (bitmapsByID_.contains(id)) return;
         const bool sharesTables = code == TagCode::DefineBits;
         auto bitmap =
@@ -198,35 +163,35 @@ private:
         return JoinJpegTables(jpegTables_, picture);
     }
 
-    void ReadPlaceObject(std::size_t size) {
-        const Long id = mdlSWFTag::GetUI(2);
-        const Long depth = mdlSWFTag::GetUI(2);
+    void ReadPlaceObject(SwfBits body) {
+        const Long id = static_cast<Long>(body.GetUI(2));
+        const Long depth = static_cast<Long>(body.GetUI(2));
         const bool isShape = entriesByID_.contains(id);
-        const SwfPoint placement = ReadTranslation(isShape);
-        if (isShape && mdlSWFTag::swfBytePos() < size) ReadColorTransform();
+        const SwfPoint placement = ReadTranslation(body, isShape);
+        if (isShape && !body.IsEmpty()) ReadColorTransform(body);
         Place(id, depth, placement);
     }
 
-    void ReadPlaceObject2(Long code) {
-        const Long flags = mdlSWFTag::GetUI(1);
-        const Long flags3 = code == TagCode::PlaceObject3 ? mdlSWFTag::GetUI(1) : 0;
+    void ReadPlaceObject2(Long code, SwfBits body) {
+        const Long flags = static_cast<Long>(body.GetUI(1));
+        const Long flags3 = code == TagCode::PlaceObject3 ? static_cast<Long>(body.GetUI(1)) : 0;
         if ((flags & HasClipDepth) != 0) leftOut_.Note(SwfLeftOut::Clipping);
         if ((flags3 & HasFilters) != 0) leftOut_.Note(SwfLeftOut::Filter);
         if ((flags3 & HasBlendMode) != 0) leftOut_.Note(SwfLeftOut::BlendMode);
         if ((flags3 & (HasClassName | HasImage)) != 0)
             return leftOut_.Note(SwfLeftOut::ClassPlacement);
-        const Long depth = mdlSWFTag::GetUI(2);
+        const Long depth = static_cast<Long>(body.GetUI(2));
         const auto found = entriesByDepth_.find(depth);
         SwfShapeEntry* former = found != entriesByDepth_.end() ? &entries_[found->second] : nullptr;
         SwfPoint placement = former != nullptr ? former->Placement : SwfPoint{};
         if ((flags & HasCharacter) == 0) {
             // What stands at the depth moves.
             if (former == nullptr) return;
-            if ((flags & HasMatrix) != 0) former->Placement = ReadTranslation(true);
-            if ((flags & HasColorTransform) != 0) ReadColorTransform();
+            if ((flags & HasMatrix) != 0) former->Placement = ReadTranslation(body, true);
+            if ((flags & HasColorTransform) != 0) ReadColorTransform(body);
             return;
         }
-        const Long id = mdlSWFTag::GetUI(2);
+        const Long id = static_cast<Long>(body.GetUI(2));
         const bool isShape = entriesByID_.contains(id);
         if ((flags & Move) == 0) {
             placement = {};
@@ -234,21 +199,22 @@ private:
             former->depth = 0;
             entriesByDepth_.erase(found);
         }
-        if ((flags & HasMatrix) != 0) placement = ReadTranslation(isShape);
-        if (isShape && (flags & HasColorTransform) != 0) ReadColorTransform();
+        if ((flags & HasMatrix) != 0) placement = ReadTranslation(body, isShape);
+        if (isShape && (flags & HasColorTransform) != 0) ReadColorTransform(body);
         Place(id, depth, placement);
     }
 
-    SwfPoint ReadTranslation(bool isShape) {
-        const SwfMatrix matrix = mdlSWFTag::GetMatrix();
+    SwfPoint ReadTranslation(SwfBits& body, bool isShape) {
+        const SwfMatrix matrix = body.GetMatrix();
         const SwfMatrix moved{.TranslateX = matrix.TranslateX, .TranslateY = matrix.TranslateY};
         if (isShape && matrix != moved) leftOut_.Note(SwfLeftOut::Transformation);
         return {matrix.TranslateX, matrix.TranslateY};
     }
 
     /// Only whether it changes anything.
-    void ReadColorTransform() {
-        if ((mdlSWFTag::GetUI(1) & ColorTerms) != 0) leftOut_.Note(SwfLeftOut::ColorTransform);
+    void ReadColorTransform(SwfBits& body) {
+        if ((static_cast<Long>(body.GetUI(1)) & ColorTerms) != 0)
+            leftOut_.Note(SwfLeftOut::ColorTransform);
     }
 
     void Place(Long id, Long depth, SwfPoint placement) {
@@ -284,7 +250,7 @@ private:
         }
     }
 
-    ByteReader tags_;
+    SwfBits tags_;
     StringView fileName_;
     clsVector& vector_;
     /// In the order of definition.
@@ -302,7 +268,6 @@ private:
 
 bool ReadMovie(ByteView file, StringView fileName, clsVector& vector) {
     try {
-        const StreamRelease release;
         Bytes inflated;
         const std::optional<ByteView> body = MovieBody(file, inflated);
         return body && SwfMovie(*body, fileName, vector).Read();

@@ -1,14 +1,13 @@
 #include "vector/SwfShapeReader.h"
 
 #include "platform/RuntimeError.h"
+#include "swf/mdlSWFTag.h"
 #include "swf/tags/TagCodes.h"
 #include "vector/VectorLimits.h"
 
 namespace tamber {
 
 namespace {
-
-using namespace mdlSWFTag;
 
 /// Index of the transparent fill that each piece begins with. The file's own fills follow.
 constexpr Long PlaceholderFill = 1;
@@ -43,13 +42,8 @@ constexpr Long StyleChangeCost = 6;
 constexpr Long FillCost = 8;
 constexpr Long LineCost = 4;
 
-Long ReadCount() {
-    const Long count = GetUI(1);
-    return count == ExtendedCount ? GetUI(2) : count;
-}
-
 Long AddToField(Long field, Long offset) {
-    return ToField(static_cast<double>(field) + offset);
+    return mdlSWFTag::ToField(static_cast<double>(field) + offset);
 }
 
 }  // namespace
@@ -61,18 +55,23 @@ void SwfShapeReader::Charge(Long cost) {
 
 void SwfShapeReader::Read(const SwfShapeEntry& entry) {
     entry_ = &entry;
-    LoadBuffer(Bytes(entry.Body.begin(), entry.Body.end()));
-    GetRect();
+    bits_ = SwfBits(entry.Body);
+    bits_.GetRect();
     strokeFlags_ = UsesScalingStrokes;
     if (entry.TagNum == TagCode::DefineShape4) {
-        GetRect();
-        strokeFlags_ = GetUI(1);
+        bits_.GetRect();
+        strokeFlags_ = UI(1);
     }
     pen_ = ToCoordinates(entry.Placement.X, entry.Placement.Y);
     StartPiece();
     ReadStyles();
     ReadSwfShapeRecords();
     ClosePiece();
+}
+
+Long SwfShapeReader::ReadCount() {
+    const Long count = UI(1);
+    return count == ExtendedCount ? UI(2) : count;
 }
 
 void SwfShapeReader::StartPiece() {
@@ -101,7 +100,7 @@ bool SwfShapeReader::HasStyles() const {
 void SwfShapeReader::ReadStyles() {
     ReadFillStyles();
     ReadLineStyles();
-    const Long widths = GetUI(1);
+    const Long widths = UI(1);
     fillBits_ = widths >> 4;
     lineBits_ = widths & 15;
 }
@@ -129,18 +128,18 @@ void SwfShapeReader::ReadLineStyles() {
 
 Long SwfShapeReader::ReadColor() {
     constexpr auto Opaque = static_cast<Long>(0xFF000000);
-    return entry_->TagNum < TagCode::DefineShape3 ? GetUI(3) | Opaque : GetUI(4);
+    return entry_->TagNum < TagCode::DefineShape3 ? UI(3) | Opaque : UI(4);
 }
 
 void SwfShapeReader::ReadMatrix(FillMatrix& matrix) {
     matrix.blMatrix2 = true;
-    matrix.Matrix2 = GetMatrix();
+    matrix.Matrix2 = bits_.GetMatrix();
     matrix.Matrix2.TranslateX = AddToField(matrix.Matrix2.TranslateX, entry_->Placement.X);
     matrix.Matrix2.TranslateY = AddToField(matrix.Matrix2.TranslateY, entry_->Placement.Y);
 }
 
 std::optional<clsSWFTFillStyle> SwfShapeReader::ReadSwfFillStyle() {
-    const Long type = GetUI(1);
+    const Long type = UI(1);
     if (type >= FirstBitmap && type <= LastBitmap)
         return ReadBitmapFill(type - FirstBitmap + clsSWFTFillStyle::BitmapTiled);
     switch (type) {
@@ -155,8 +154,7 @@ std::optional<clsSWFTFillStyle> SwfShapeReader::ReadSwfFillStyle() {
             return ReadGradient(clsSWFTFillStyle::Radial);
         case FocalGradient: {
             clsSWFTFillStyle fill = ReadGradient(clsSWFTFillStyle::Focal);
-            fill.StyleAs<clsSWFTFillFocalRadial>()->FocalPoint =
-                static_cast<std::int16_t>(GetUI(2));
+            fill.StyleAs<clsSWFTFillFocalRadial>()->FocalPoint = static_cast<std::int16_t>(UI(2));
             return fill;
         }
         default:
@@ -168,18 +166,18 @@ clsSWFTFillStyle SwfShapeReader::ReadGradient(Long mode) {
     clsSWFTFillStyle fill(mode);
     auto& gradient = *fill.StyleAs<clsSWFTFillLinearRadial>();
     ReadMatrix(gradient.inMatrix);
-    const Long modes = GetUI(1);
+    const Long modes = UI(1);
     gradient.spreadMode = modes >> 6;
     gradient.interpolationMode = modes >> 4 & 3;
     for (Long i = modes & 15; i > 0; --i) {
-        gradient.ColorPosTbl.push_back(static_cast<Byte>(GetUI(1)));
+        gradient.ColorPosTbl.push_back(static_cast<Byte>(UI(1)));
         gradient.ColorTbl.push_back(ReadColor());
     }
     return fill;
 }
 
 std::optional<clsSWFTFillStyle> SwfShapeReader::ReadBitmapFill(Long mode) {
-    const Long id = GetUI(2);
+    const Long id = UI(2);
     clsSWFTFillStyle fill(mode);
     auto& picture = *fill.StyleAs<clsSWFTFillBmpClippedTiled>();
     ReadMatrix(picture.inMatrix);
@@ -191,25 +189,25 @@ std::optional<clsSWFTFillStyle> SwfShapeReader::ReadBitmapFill(Long mode) {
 
 clsSWFTLineStyle SwfShapeReader::ReadSwfLineStyle() {
     clsSWFTLineStyle line;
-    line.Width = GetUI(2);
+    line.Width = UI(2);
     line.Color = ReadColor();
     return line;
 }
 
 clsSWFTLineStyle SwfShapeReader::ReadSwfLineStyles2() {
     clsSWFTLineStyle line;
-    line.Width = GetUI(2);
-    line.StartCapStyle = GetBits(2);
-    line.JoinStyle = GetBits(2);
-    const bool hasFill = GetBits(1) != 0;
-    line.blNoHScaleFlag = GetBits(1) != 0;
-    line.blNoVScaleFlag = GetBits(1) != 0;
-    line.blPixelHintingFlag = GetBits(1) != 0;
-    const Long ends = GetUI(1);
+    line.Width = UI(2);
+    line.StartCapStyle = Bits(2);
+    line.JoinStyle = Bits(2);
+    const bool hasFill = Bits(1) != 0;
+    line.blNoHScaleFlag = Bits(1) != 0;
+    line.blNoVScaleFlag = Bits(1) != 0;
+    line.blPixelHintingFlag = Bits(1) != 0;
+    const Long ends = UI(1);
     line.EndCapStyle = ends & 3;
     line.blNoClose = (ends & 4) != 0;
     line.MiterLimitFactor =
-        line.JoinStyle == clsSWFTLineStyle::JoinMiter ? GetUI(2) : DefaultMiterLimit;
+        line.JoinStyle == clsSWFTLineStyle::JoinMiter ? UI(2) : DefaultMiterLimit;
     if (!hasFill) {
         line.Color = ReadColor();
     } else if (std::optional<clsSWFTFillStyle> fill = ReadSwfFillStyle()) {
@@ -221,8 +219,8 @@ clsSWFTLineStyle SwfShapeReader::ReadSwfLineStyles2() {
 
 void SwfShapeReader::ReadSwfShapeRecords() {
     for (;;) {
-        const bool edge = GetBits(1) != 0;
-        const Long flags = GetBits(5);
+        const bool edge = Bits(1) != 0;
+        const Long flags = Bits(5);
         if (!edge && flags == 0) return;
         const Long bits = (flags & EdgeBits) + 2;
         if (!edge)
@@ -237,14 +235,14 @@ void SwfShapeReader::ReadSwfShapeRecords() {
 void SwfShapeReader::ReadStyleChange(Long flags) {
     Charge(StyleChangeCost);
     if ((flags & StateMove) != 0) {
-        const Long width = GetBits(5);
-        const std::int64_t x = GetSBits(width);
-        const std::int64_t y = GetSBits(width);
+        const Long width = Bits(5);
+        const std::int64_t x = bits_.GetSBits(width);
+        const std::int64_t y = bits_.GetSBits(width);
         pen_ = ToCoordinates(x + entry_->Placement.X, y + entry_->Placement.Y);
     }
-    const Long fill0 = (flags & StateFill0) != 0 ? GetBits(fillBits_) : 0;
-    const Long fill1 = (flags & StateFill1) != 0 ? GetBits(fillBits_) : 0;
-    const Long line = (flags & StateLine) != 0 ? GetBits(lineBits_) : 0;
+    const Long fill0 = (flags & StateFill0) != 0 ? Bits(fillBits_) : 0;
+    const Long fill1 = (flags & StateFill1) != 0 ? Bits(fillBits_) : 0;
+    const Long line = (flags & StateLine) != 0 ? Bits(lineBits_) : 0;
     // The indices of a record that brings new styles mean the new ones.
     const bool newStyles = (flags & StateNewStyles) != 0;
     if (newStyles) {
@@ -277,13 +275,13 @@ void SwfShapeReader::ReadStraightEdge(Long bits) {
     StartPath();
     std::int64_t x = pen_.X;
     std::int64_t y = pen_.Y;
-    if (GetBits(1) != 0) {
-        x += GetSBits(bits);
-        y += GetSBits(bits);
-    } else if (GetBits(1) != 0) {
-        y += GetSBits(bits);
+    if (Bits(1) != 0) {
+        x += bits_.GetSBits(bits);
+        y += bits_.GetSBits(bits);
+    } else if (Bits(1) != 0) {
+        y += bits_.GetSBits(bits);
     } else {
-        x += GetSBits(bits);
+        x += bits_.GetSBits(bits);
     }
     pen_ = ToCoordinates(x, y);
     Records().DrawLineTo(pen_.X, pen_.Y);
@@ -292,11 +290,11 @@ void SwfShapeReader::ReadStraightEdge(Long bits) {
 void SwfShapeReader::ReadCurveEdge(Long bits) {
     Charge(1);
     StartPath();
-    std::int64_t x = std::int64_t{pen_.X} + GetSBits(bits);
-    std::int64_t y = std::int64_t{pen_.Y} + GetSBits(bits);
+    std::int64_t x = std::int64_t{pen_.X} + bits_.GetSBits(bits);
+    std::int64_t y = std::int64_t{pen_.Y} + bits_.GetSBits(bits);
     const SwfPoint control = ToCoordinates(x, y);
-    x = std::int64_t{control.X} + GetSBits(bits);
-    y = std::int64_t{control.Y} + GetSBits(bits);
+    x = std::int64_t{control.X} + bits_.GetSBits(bits);
+    y = std::int64_t{control.Y} + bits_.GetSBits(bits);
     pen_ = ToCoordinates(x, y);
     Records().DrawCurveTo(control.X, control.Y, pen_.X, pen_.Y);
 }

@@ -3,6 +3,7 @@
 #include <optional>
 #include <unordered_map>
 
+#include "swf/SwfBits.h"
 #include "vector/clsVectorData.h"
 
 namespace tamber {
@@ -26,10 +27,14 @@ public:
     SwfShapeReader(const BitmapTable& bitmaps, clsVectorData& artwork)
         : bitmaps_(bitmaps), artwork_(artwork) {}
 
-    /// Appends the pieces of a shape to the artwork, moved by its placement. Takes the stream over.
+    /// Appends the pieces of a shape to the artwork, moved by its placement.
     void Read(const SwfShapeEntry& entry);
 
 private:
+    Long UI(Long byteCount) { return static_cast<Long>(bits_.GetUI(byteCount)); }
+    Long Bits(Long bitCount) { return static_cast<Long>(bits_.GetBits(bitCount)); }
+    Long ReadCount();
+
     void StartPiece();
     void AddPlaceholderFill();
     void ClosePiece();
@@ -64,6 +69,8 @@ private:
     /// keeps a file of a few bytes from growing without end.
     Long budget_ = 1 << 22;
     const SwfShapeEntry* entry_ = nullptr;
+    /// What is left of the entry's body.
+    SwfBits bits_{{}};
     Long strokeFlags_ = 0;
     std::shared_ptr<clsVectorData2> piece_;
     /// Where each fill index of the file stands in the piece's table.

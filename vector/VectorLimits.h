@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "swf/mdlSWFTag.h"
+#include "swf/SwfTypes.h"
 
 namespace tamber {
 

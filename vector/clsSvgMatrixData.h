@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "swf/mdlSWFTag.h"
+#include "swf/SwfTypes.h"
 #include "vector/SvgNumbers.h"
 
 namespace tamber {

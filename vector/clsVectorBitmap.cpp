@@ -1,5 +1,7 @@
 #include "vector/clsVectorBitmap.h"
 
+#include "swf/mdlSWFTag.h"
+
 namespace tamber {
 
 namespace {

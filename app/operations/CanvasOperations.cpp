@@ -8,6 +8,7 @@
 #include "platform/paths.h"
 #include "platform/twips.h"
 #include "swf/authoring/TextDefinition.h"
+#include "swf/mdlSWFTag.h"
 
 namespace tamber {
 

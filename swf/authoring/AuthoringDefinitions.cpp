@@ -17,6 +17,7 @@
 #include "swf/authoring/MovieLimits.h"
 #include "swf/authoring/TextDefinition.h"
 #include "swf/authoring/VectorDefinition.h"
+#include "swf/mdlSWFTag.h"
 #include "swf/tags/clsSWFTagDefineSprite.h"
 #include "swf/tags/clsSWFTagExport.h"
 

@@ -15,6 +15,7 @@
 #include "swf/authoring/MovieLimits.h"
 #include "swf/authoring/TimelineRows.h"
 #include "swf/authoring/VectorDefinition.h"
+#include "swf/mdlSWFTag.h"
 
 namespace tamber {
 

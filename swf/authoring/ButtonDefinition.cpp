@@ -3,6 +3,7 @@
 #include "document/records/clsPropertySprite.h"
 #include "document/records/clsPropertyVector.h"
 #include "platform/twips.h"
+#include "swf/mdlSWFTag.h"
 
 namespace tamber {
 

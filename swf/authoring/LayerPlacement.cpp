@@ -1,5 +1,6 @@
 #include "swf/authoring/LayerPlacement.h"
 
+#include "swf/mdlSWFTag.h"
 #include "swf/tags/clsSWFTagRemoveObject.h"
 
 namespace tamber {

@@ -1,5 +1,7 @@
 #include "swf/authoring/PlaceObjectFactory.h"
 
+#include "swf/mdlSWFTag.h"
+
 namespace tamber {
 
 namespace {

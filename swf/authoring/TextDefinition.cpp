@@ -1,5 +1,6 @@
 #include "swf/authoring/TextDefinition.h"
 #include "platform/twips.h"
+#include "swf/mdlSWFTag.h"
 
 namespace tamber {
 

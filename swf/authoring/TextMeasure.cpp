@@ -6,6 +6,7 @@
 #include "document/symbols/clsSymbolData.h"
 #include "platform/twips.h"
 #include "swf/authoring/TextDefinition.h"
+#include "swf/mdlSWFTag.h"
 
 namespace tamber {
 

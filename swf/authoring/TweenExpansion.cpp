@@ -6,6 +6,7 @@
 
 #include "platform/rounding.h"
 #include "swf/authoring/EdgingCurve.h"
+#include "swf/mdlSWFTag.h"
 #include "swf/tags/clsSWFTagRemoveObject.h"
 
 namespace tamber {

@@ -3,8 +3,8 @@
 #include <vector>
 
 #include "document/elements/clsLayerObjElement.h"
+#include "swf/SwfTypes.h"
 #include "swf/authoring/QuadraticCurve.h"
-#include "swf/mdlSWFTag.h"
 
 namespace tamber {
 

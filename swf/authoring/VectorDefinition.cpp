@@ -4,6 +4,7 @@
 
 #include "platform/text.h"
 #include "platform/twips.h"
+#include "swf/mdlSWFTag.h"
 #include "vector/MorphCheck.h"
 
 namespace tamber {

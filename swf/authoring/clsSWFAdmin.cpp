@@ -6,6 +6,7 @@
 #include "platform/rounding.h"
 #include "platform/text.h"
 #include "platform/twips.h"
+#include "swf/mdlSWFTag.h"
 #include "swf/mdlZlib.h"
 #include "swf/tags/clsSWFTagDefineEditText.h"
 #include "swf/tags/clsSWFTagDefineFont.h"
@@ -26,10 +27,9 @@ constexpr Long AttributesVersion = 8;
 /// DefineShape4 and DefineMorphShape2 come with this version.
 constexpr Long Shape4Version = 8;
 
-Bytes CompressMovie(const Bytes& movie) {
-    Bytes result(movie.begin(), movie.begin() + PlainHeaderSize);
-    const Bytes body = mdlZlib::ZlibCompress(ByteView(movie).subspan(PlainHeaderSize));
-    result.insert(result.end(), body.begin(), body.end());
+Bytes CompressMovie(ByteView movie) {
+    Bytes result =
+        mdlZlib::ZlibCompress(movie.subspan(PlainHeaderSize), movie.first(PlainHeaderSize));
     result[0] = 'C';
     return result;
 }
@@ -299,15 +299,16 @@ bool clsSWFAdmin::Save(StringView path, Notices& told) {
     FramesSave();
     mdlSWFTag::SetEndTag();
     mdlSWFTag::PatchBytes(LengthPosition, 4, static_cast<Long>(mdlSWFTag::swfBytePos()));
-    Bytes movie = mdlSWFTag::TakeBuffer();
-    if (blCompress && Ver < CompressionVersion)
+    const ByteView movie = mdlSWFTag::Written();
+    const bool compresses = blCompress && Ver >= CompressionVersion;
+    if (blCompress && !compresses)
         told.push_back({u"SWF" + ToText(Ver) + u"では、SWF圧縮できません",
                         String(ProgramTitle),
                         MessageIcon::Information,
                         {}});
-    else if (blCompress)
-        movie = CompressMovie(movie);
-    return WriteFileBytes(movie, path);
+    const bool written = WriteFileBytes(compresses ? ByteView(CompressMovie(movie)) : movie, path);
+    mdlSWFTag::ReleaseBuffer();
+    return written;
 }
 
 }  // namespace tamber

@@ -6,6 +6,7 @@
 #include "platform/Notice.h"
 #include "script/ScriptCompiler.h"
 #include "swf/authoring/clsSWFrame.h"
+#include "swf/clsSWFTag.h"
 #include "swf/tags/clsFontAdmin.h"
 #include "swf/tags/clsSWFTagDefineBitsJPEG.h"
 #include "swf/tags/clsSWFTagDefineBitsLossless.h"

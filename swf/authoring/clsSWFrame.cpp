@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "swf/mdlSWFTag.h"
 #include "swf/tags/TagCodes.h"
 #include "swf/tags/clsSWFTagFrameLabel.h"
 

@@ -3,7 +3,7 @@
 #include <memory>
 #include <vector>
 
-#include "swf/mdlSWFTag.h"
+#include "swf/clsSWFTag.h"
 #include "swf/tags/clsSWFTagDoAction.h"
 
 namespace tamber {

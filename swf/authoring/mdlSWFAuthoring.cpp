@@ -5,6 +5,7 @@
 #include "platform/text.h"
 #include "swf/authoring/Authoring.h"
 #include "swf/authoring/MovieLimits.h"
+#include "swf/mdlSWFTag.h"
 
 namespace tamber::mdlSWFAuthoring {
 
@@ -63,7 +64,7 @@ MovieOutcome BuildMovie(const MovieRequest& request) {
         return outcome;
     }
     mdlSWFTag::swfVersion(request.Version);
-    mdlSWFTag::LoadBuffer({});
+    mdlSWFTag::InitBuffer();
     clsSWFAdmin admin;
     admin.inFontAdmin = request.Fonts;
     admin.InitSWF();

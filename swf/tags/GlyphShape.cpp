@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "swf/mdlSWFTag.h"
 #include "swf/tags/ShapeEdge.h"
 
 namespace tamber {

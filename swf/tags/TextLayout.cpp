@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/text.h"
+#include "swf/mdlSWFTag.h"
 
 namespace tamber {
 

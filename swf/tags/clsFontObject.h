@@ -3,7 +3,6 @@
 #include <vector>
 
 #include "platform/fonts.h"
-#include "swf/mdlSWFTag.h"
 
 namespace tamber {
 

@@ -3,7 +3,7 @@
 #include <memory>
 #include <vector>
 
-#include "swf/mdlSWFTag.h"
+#include "swf/SwfTypes.h"
 
 namespace tamber {
 

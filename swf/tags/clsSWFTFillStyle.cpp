@@ -1,5 +1,7 @@
 #include "swf/tags/clsSWFTFillStyle.h"
 
+#include "swf/mdlSWFTag.h"
+
 #include <array>
 
 namespace tamber {

@@ -1,5 +1,7 @@
 #include "swf/tags/clsSWFTLineStyle.h"
 
+#include "swf/mdlSWFTag.h"
+
 namespace tamber {
 
 void clsSWFTLineStyle::SaveOptions() const {

@@ -1,5 +1,7 @@
 #include "swf/tags/clsSWFTShapeRecords.h"
 
+#include "swf/mdlSWFTag.h"
+
 #include <algorithm>
 
 namespace tamber {

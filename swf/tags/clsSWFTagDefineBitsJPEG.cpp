@@ -1,5 +1,6 @@
 #include "swf/tags/clsSWFTagDefineBitsJPEG.h"
 
+#include "swf/mdlSWFTag.h"
 #include "swf/mdlZlib.h"
 
 namespace tamber {

@@ -1,5 +1,7 @@
 #include "swf/tags/clsSWFTagDefineBitsLossless.h"
 
+#include "swf/mdlSWFTag.h"
+
 namespace tamber {
 
 void clsSWFTagDefineBitsLossless::SetBitmap(Bytes stream, Long bitCount) {

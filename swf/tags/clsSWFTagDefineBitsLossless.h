@@ -1,6 +1,6 @@
 #pragma once
 
-#include "swf/mdlSWFTag.h"
+#include "swf/clsSWFTag.h"
 #include "swf/tags/TagCodes.h"
 
 namespace tamber {

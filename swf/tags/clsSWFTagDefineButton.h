@@ -2,7 +2,8 @@
 
 #include <vector>
 
-#include "swf/mdlSWFTag.h"
+#include "swf/SwfTypes.h"
+#include "swf/clsSWFTag.h"
 #include "swf/tags/SwfEventActions.h"
 #include "swf/tags/TagCodes.h"
 

@@ -1,5 +1,7 @@
 #include "swf/tags/clsSWFTagDefineEditText.h"
 
+#include "swf/mdlSWFTag.h"
+
 namespace tamber {
 
 namespace {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "swf/clsSWFTag.h"
 #include "swf/tags/TagCodes.h"
 #include "swf/tags/clsSWFTShapeRecords.h"
 

@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "swf/clsSWFTag.h"
 #include "swf/mdlSWFTag.h"
 #include "swf/tags/TagCodes.h"
 

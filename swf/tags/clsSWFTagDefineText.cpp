@@ -1,5 +1,7 @@
 #include "swf/tags/clsSWFTagDefineText.h"
 
+#include "swf/mdlSWFTag.h"
+
 #include <algorithm>
 #include <limits>
 #include <span>

@@ -1,5 +1,7 @@
 #include "swf/tags/clsSWFTagExport.h"
 
+#include "swf/mdlSWFTag.h"
+
 namespace tamber {
 
 void clsSWFTagExport::Save() {

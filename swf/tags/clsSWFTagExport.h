@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "swf/clsSWFTag.h"
 #include "swf/mdlSWFTag.h"
 #include "swf/tags/TagCodes.h"
 

@@ -1,6 +1,7 @@
 #include "swf/tags/clsSWFTagImport.h"
 
 #include "platform/text.h"
+#include "swf/mdlSWFTag.h"
 
 namespace tamber {
 

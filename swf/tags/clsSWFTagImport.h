@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "swf/mdlSWFTag.h"
+#include "swf/clsSWFTag.h"
 #include "swf/tags/TagCodes.h"
 #include "swf/tags/clsSWFTagExport.h"
 

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "effects/filters/FilterList.h"
+#include "swf/mdlSWFTag.h"
 #include "swf/tags/TagCodes.h"
 
 namespace tamber {

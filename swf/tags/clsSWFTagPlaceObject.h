@@ -4,7 +4,8 @@
 #include <vector>
 
 #include "effects/filters/clsFilterData.h"
-#include "swf/mdlSWFTag.h"
+#include "swf/SwfTypes.h"
+#include "swf/clsSWFTag.h"
 #include "swf/tags/SwfEventActions.h"
 
 namespace tamber {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "swf/clsSWFTag.h"
 #include "swf/mdlSWFTag.h"
 #include "swf/tags/TagCodes.h"
 

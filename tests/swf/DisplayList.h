@@ -46,9 +46,8 @@ private:
         if (tag.Code == 1) frames_.push_back(Seen());
         if (tag.Code == 26 || tag.Code == 70) Place(tag);
         if (tag.Code == 28) {
-            mdlSWFTag::LoadBuffer(tag.Body);
             // A koma's first picture has one too, which removes nothing.
-            now_.erase(mdlSWFTag::GetUI(2));
+            now_.erase(static_cast<Long>(SwfBits(tag.Body).GetUI(2)));
         }
         const bool defines = tag.Code == 32 || tag.Code == 83 || tag.Code == 46 || tag.Code == 84;
         if (!defines) return;
@@ -69,23 +68,25 @@ private:
     }
 
     void Place(const ParsedTag& tag) {
-        mdlSWFTag::LoadBuffer(tag.Body);
-        const Long flags = mdlSWFTag::GetUI(1);
-        const Long more = tag.Code == 70 ? mdlSWFTag::GetUI(1) : 0;
-        const Long depth = mdlSWFTag::GetUI(2);
+        SwfBits bits(tag.Body);
+        const auto number = [&bits](Long byteCount) {
+            return static_cast<Long>(bits.GetUI(byteCount));
+        };
+        const Long flags = number(1);
+        const Long more = tag.Code == 70 ? number(1) : 0;
+        const Long depth = number(2);
         EXPECT_EQ(now_.count(depth), (flags & 1) != 0 ? 1u : 0u) << "depth " << depth;
         Shown& shown = now_[depth];
-        if ((flags & 2) != 0) shown.Definition = definitions_.at(mdlSWFTag::GetUI(2));
+        if ((flags & 2) != 0) shown.Definition = definitions_.at(number(2));
         if ((flags & 4) != 0) {
-            const SwfMatrix m = mdlSWFTag::GetMatrix();
+            const SwfMatrix m = bits.GetMatrix();
             shown.Matrix = {m.ScaleX,      m.ScaleY,     m.RotateSkew0,
                             m.RotateSkew1, m.TranslateX, m.TranslateY};
         }
-        if ((flags & 8) != 0) shown.Color = ReadColor();
-        if ((flags & 16) != 0) shown.Ratio = mdlSWFTag::GetUI(2);
-        if ((flags & 64) != 0) shown.ClipDepth = mdlSWFTag::GetUI(2);
-        const auto rest = static_cast<std::ptrdiff_t>(mdlSWFTag::swfBytePos());
-        Bytes tail(tag.Body.begin() + rest, tag.Body.end());
+        if ((flags & 8) != 0) shown.Color = ReadColor(bits);
+        if ((flags & 16) != 0) shown.Ratio = number(2);
+        if ((flags & 64) != 0) shown.ClipDepth = number(2);
+        Bytes tail(bits.Rest().begin(), bits.Rest().end());
         if ((more & 2) != 0) {
             shown.Blend = tail.back();
             tail.pop_back();
@@ -93,17 +94,9 @@ private:
         if ((more & 1) != 0) shown.Filters = tail;
     }
 
-    static std::array<Long, 8> ReadColor() {
-        mdlSWFTag::swfBytePos(mdlSWFTag::swfBytePos());
-        const Long add = mdlSWFTag::GetBits(1);
-        const Long mult = mdlSWFTag::GetBits(1);
-        const Long width = mdlSWFTag::GetBits(4);
-        std::array<Long, 8> color{256, 256, 256, 256, 0, 0, 0, 0};
-        const auto read = [width](Long& field) { field = mdlSWFTag::GetSBits(width); };
-        if (mult != 0) std::for_each_n(color.begin(), 4, read);
-        if (add != 0) std::for_each_n(color.begin() + 4, 4, read);
-        mdlSWFTag::swfBytePos(mdlSWFTag::swfBytePos());
-        return color;
+    static std::array<Long, 8> ReadColor(SwfBits& bits) {
+        const SwfColorTransform t = bits.GetCXForm(true);
+        return {t.MultR, t.MultG, t.MultB, t.MultA, t.AddR, t.AddG, t.AddB, t.AddA};
     }
 
     std::map<Long, Bytes> definitions_;

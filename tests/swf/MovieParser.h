@@ -3,7 +3,7 @@
 #include <zlib.h>
 
 #include "platform/files.h"
-#include "swf/mdlSWFTag.h"
+#include "swf/SwfBits.h"
 
 namespace tamber::test {
 
@@ -59,43 +59,34 @@ inline ParsedMovie ParseMovie(StringView path) {
         file.resize(8);
         file.insert(file.end(), body.begin(), body.end());
     }
-    mdlSWFTag::LoadBuffer(file);
-    mdlSWFTag::swfBytePos(8);
-    movie.Stage = mdlSWFTag::GetRect();
-    movie.Rate = mdlSWFTag::GetUI(2);
-    movie.Frames = mdlSWFTag::GetUI(2);
-    while (mdlSWFTag::swfBytePos() < file.size()) {
-        const Long head = mdlSWFTag::GetUI(2);
-        Long length = head & 63;
-        if (length == 63) length = mdlSWFTag::GetUI(4);
-        const auto from = file.begin() + static_cast<std::ptrdiff_t>(mdlSWFTag::swfBytePos());
-        movie.Tags.push_back({head >> 6, Bytes(from, from + length)});
-        mdlSWFTag::swfBytePos(mdlSWFTag::swfBytePos() + static_cast<std::size_t>(length));
+    SwfBits bits(ByteView(file).subspan(8));
+    movie.Stage = bits.GetRect();
+    movie.Rate = static_cast<Long>(bits.GetUI(2));
+    movie.Frames = static_cast<Long>(bits.GetUI(2));
+    while (!bits.IsEmpty()) {
+        const std::uint32_t head = bits.GetUI(2);
+        std::size_t length = head & 63;
+        if (length == 63) length = bits.GetUI(4);
+        const ByteView body = bits.Take(length);
+        movie.Tags.push_back({static_cast<Long>(head >> 6), Bytes(body.begin(), body.end())});
     }
     return movie;
 }
 
-/// Passes over a colour transform with alpha.
-inline void SkipColors() {
-    // It begins at a byte of its own.
-    mdlSWFTag::swfBytePos(mdlSWFTag::swfBytePos());
-    const Long add = mdlSWFTag::GetBits(1);
-    const Long mult = mdlSWFTag::GetBits(1);
-    const Long width = mdlSWFTag::GetBits(4);
-    for (Long i = 0; i < 4 * (add + mult); ++i) mdlSWFTag::GetBits(width);
-}
-
 inline ParsedPlace ParsePlace(const Bytes& body) {
     ParsedPlace place;
-    mdlSWFTag::LoadBuffer(body);
-    place.Flags = mdlSWFTag::GetUI(1);
-    place.Depth = mdlSWFTag::GetUI(2);
-    if ((place.Flags & 2) != 0) place.Character = mdlSWFTag::GetUI(2);
-    if ((place.Flags & 4) != 0) place.Matrix = mdlSWFTag::GetMatrix();
-    if ((place.Flags & 8) != 0) SkipColors();
-    if ((place.Flags & 16) != 0) place.Ratio = mdlSWFTag::GetUI(2);
-    if ((place.Flags & 32) != 0) mdlSWFTag::GetString(6, 0, false);
-    if ((place.Flags & 64) != 0) place.ClipDepth = mdlSWFTag::GetUI(2);
+    SwfBits bits(body);
+    const auto number = [&bits](Long byteCount) {
+        return static_cast<Long>(bits.GetUI(byteCount));
+    };
+    place.Flags = number(1);
+    place.Depth = number(2);
+    if ((place.Flags & 2) != 0) place.Character = number(2);
+    if ((place.Flags & 4) != 0) place.Matrix = bits.GetMatrix();
+    if ((place.Flags & 8) != 0) bits.GetCXForm(true);
+    if ((place.Flags & 16) != 0) place.Ratio = number(2);
+    if ((place.Flags & 32) != 0) bits.GetString(6, 0, false);
+    if ((place.Flags & 64) != 0) place.ClipDepth = number(2);
     return place;
 }
 

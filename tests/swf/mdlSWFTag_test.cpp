@@ -3,17 +3,13 @@
 #include <gtest/gtest.h>
 
 #include "platform/RuntimeError.h"
+#include "swf/SwfBits.h"
+#include "tests/swf/Written.h"
 
 namespace tamber {
 namespace {
 
-/// What a writer leaves in the stream.
-template <class Writer>
-Bytes Written(Writer write) {
-    mdlSWFTag::InitBuffer();
-    write();
-    return mdlSWFTag::TakeBuffer();
-}
+using test::Written;
 
 TEST(BitLength, is_the_smallest_signed_width) {
     const struct {
@@ -67,9 +63,9 @@ TEST(SetMatrix, of_identity_takes_nine_bits) {
 /// The matrix that SetMatrixTransform wrote, read again.
 SwfMatrix Transformed(Single sx, Single sy, Single angle, SwfPoint at, SwfPoint centre, Single kx,
                       Single ky) {
-    mdlSWFTag::LoadBuffer(
-        Written([&] { mdlSWFTag::SetMatrixTransform(sx, sy, angle, at, centre, kx, ky); }));
-    return mdlSWFTag::GetMatrix();
+    const Bytes written =
+        Written([&] { mdlSWFTag::SetMatrixTransform(sx, sy, angle, at, centre, kx, ky); });
+    return SwfBits(written).GetMatrix();
 }
 
 TEST(SetMatrixTransform, composes_scale_rotation_skew_and_centre) {
@@ -123,13 +119,25 @@ TEST(EndTagShortest, moves_a_body_of_62_bytes_down_and_leaves_one_of_63) {
     }
 }
 
-TEST(Reading, past_the_end_raises) {
-    mdlSWFTag::LoadBuffer({0x41, 0x42});
-    EXPECT_THROW(mdlSWFTag::GetString(6, 0, true), RuntimeError);
-    EXPECT_THROW(mdlSWFTag::GetString(6, 3, true), RuntimeError);
-    EXPECT_EQ(mdlSWFTag::GetString(6, 2, true), u"AB");
-    EXPECT_THROW(mdlSWFTag::GetUI(1), RuntimeError);
-    EXPECT_THROW(mdlSWFTag::GetBits(1), RuntimeError);
+TEST(SwfBits, reads_texts_and_raises_past_the_end) {
+    const Bytes bytes{0x41, 0x42};
+    EXPECT_THROW(SwfBits(bytes).GetString(6, 0, true), RuntimeError);
+    EXPECT_THROW(SwfBits(bytes).GetString(6, 3, true), RuntimeError);
+    EXPECT_THROW(SwfBits(bytes).GetUI(5), RuntimeError);
+    SwfBits bits(bytes);
+    EXPECT_EQ(bits.GetString(6, 2, true), u"AB");
+    EXPECT_THROW(bits.GetUI(1), RuntimeError);
+    EXPECT_THROW(bits.GetBits(1), RuntimeError);
+}
+
+TEST(SwfBits, begins_bytes_behind_the_byte_of_a_bit) {
+    // 101, then 0x34 in a byte of its own; -3 in three bits.
+    const Bytes bytes{0xBF, 0x34, 0xA0};
+    SwfBits bits(bytes);
+    EXPECT_EQ(bits.GetBits(3), 5u);
+    EXPECT_EQ(bits.GetUI(1), 0x34u);
+    EXPECT_EQ(bits.GetSBits(3), -3);
+    EXPECT_TRUE(bits.IsEmpty());
 }
 
 }  // namespace

@@ -1,14 +1,14 @@
 #include <gtest/gtest.h>
 
+#include "swf/SwfBits.h"
 #include "swf/tags/clsSWFTagDefineShape.h"
+#include "tests/swf/Written.h"
 
 namespace tamber {
 namespace {
 
 Bytes Saved(clsSWFTag& tag) {
-    mdlSWFTag::InitBuffer();
-    tag.Save();
-    return mdlSWFTag::TakeBuffer();
+    return test::Written([&] { tag.Save(); });
 }
 
 TEST(DefineShape, that_nothing_places_writes_no_bytes) {
@@ -82,10 +82,9 @@ TEST(Gradient, is_cut_at_8_colours_below_version_8_and_at_15_from_it) {
         clsSWFTFillLinearRadial gradient;
         gradient.ColorTbl.assign(20, 0);
         gradient.ColorPosTbl.assign(20, 0);
-        mdlSWFTag::InitBuffer();
-        gradient.Save(nullptr);
         // Matrix of two bytes, count byte, five bytes a colour.
-        EXPECT_EQ(mdlSWFTag::TakeBuffer().size(), 3u + 5u * (version == 7 ? 8 : 15));
+        EXPECT_EQ(test::Written([&] { gradient.Save(nullptr); }).size(),
+                  3u + 5u * (version == 7 ? 8 : 15));
     }
     mdlSWFTag::swfVersion(6);
 }
@@ -95,12 +94,11 @@ TEST(BitmapFill, has_one_twip_more_below_version_8) {
     fill.BitmapID = 3;
     for (const Long version : {6, 8}) {
         mdlSWFTag::swfVersion(version);
-        mdlSWFTag::InitBuffer();
-        fill.Save(nullptr);
-        mdlSWFTag::LoadBuffer(mdlSWFTag::TakeBuffer());
-        EXPECT_EQ(mdlSWFTag::GetUI(2), 3);
+        const Bytes saved = test::Written([&] { fill.Save(nullptr); });
+        SwfBits bits(saved);
+        EXPECT_EQ(bits.GetUI(2), 3u);
         const Long shift = version == 8 ? 0 : -1;
-        EXPECT_EQ(mdlSWFTag::GetMatrix(), (SwfMatrix{20 * 65536, 20 * 65536, 0, 0, shift, shift}));
+        EXPECT_EQ(bits.GetMatrix(), (SwfMatrix{20 * 65536, 20 * 65536, 0, 0, shift, shift}));
     }
     mdlSWFTag::swfVersion(6);
 }

@@ -1,4 +1,5 @@
 #include "swf/authoring/TextDefinition.h"
+#include "swf/mdlSWFTag.h"
 
 #include <gtest/gtest.h>
 

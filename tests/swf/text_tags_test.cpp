@@ -1,11 +1,13 @@
 #include <gtest/gtest.h>
 
 #include "swf/authoring/clsSWFAdmin.h"
+#include "swf/mdlSWFTag.h"
 #include "swf/tags/GlyphShape.h"
 #include "swf/tags/clsSWFTagCSMTextSettings.h"
 #include "swf/tags/clsSWFTagDefineEditText.h"
 #include "swf/tags/clsSWFTagDefineFont.h"
 #include "swf/tags/clsSWFTagDefineText.h"
+#include "tests/swf/Written.h"
 
 namespace tamber {
 namespace {
@@ -37,9 +39,7 @@ std::shared_ptr<clsFontObject> FontOf(StringView characters, Long advance = 512)
 
 Bytes Saved(clsSWFTag& tag, Long version) {
     mdlSWFTag::swfVersion(version);
-    mdlSWFTag::InitBuffer();
-    tag.Save();
-    return mdlSWFTag::TakeBuffer();
+    return test::Written([&] { tag.Save(); });
 }
 
 TEST(GlyphShape, has_a_fill_for_all_contours_and_lines_that_close_them) {
@@ -316,9 +316,7 @@ TEST(Fonts, stand_before_or_behind_the_first_frame) {
         text->FontObject = admin.inFontAdmin->FontObject(font);
         admin.AddTag(frame, text, true);
     }
-    mdlSWFTag::InitBuffer();
-    admin.FramesSave();
-    const Bytes bytes = mdlSWFTag::TakeBuffer();
+    const Bytes bytes = test::Written([&] { admin.FramesSave(); });
     std::vector<int> tags;
     for (std::size_t at = 0; at < bytes.size();) {
         const int head = bytes[at] | bytes[at + 1] << 8;

@@ -1,5 +1,6 @@
 #include "document/records/clsPropertyKoma.h"
 #include "document/records/clsPropertySprite.h"
+#include "swf/SwfBits.h"
 #include "tests/swf/VectorAuthoringTest.h"
 
 namespace tamber {
@@ -10,9 +11,7 @@ constexpr Long DefineMorph = 46;
 
 /// Bounds of a shape's body, behind its identifier.
 SwfRect BoundsOf(const Bytes& body) {
-    mdlSWFTag::LoadBuffer(body);
-    mdlSWFTag::swfBytePos(2);
-    return mdlSWFTag::GetRect();
+    return SwfBits(ByteView(body).subspan(2)).GetRect();
 }
 
 TEST_F(VectorAuthoringTest, a_drawing_is_one_shape_and_a_divided_one_a_shape_a_piece) {

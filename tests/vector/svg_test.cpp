@@ -9,7 +9,10 @@
 #include "platform/RecordingUserInterface.h"
 #include "platform/codepage.h"
 #include "platform/text.h"
+#include "swf/SwfBits.h"
+#include "swf/mdlSWFTag.h"
 #include "swf/mdlZlib.h"
+#include "tests/swf/Written.h"
 #include "vector/SvgColors.h"
 #include "vector/SvgNumbers.h"
 #include "vector/SvgReader.h"
@@ -371,10 +374,8 @@ TEST(SvgSize, comes_from_the_sides_the_box_or_the_shapes) {
 
 /// The fill of a shape of 200 x 100 twips as a movie holds its matrix.
 SwfMatrix SavedMatrix(const clsSWFTFillStyle& fill) {
-    mdlSWFTag::InitBuffer();
-    fill.StyleObject()->Matrix()->Save();
-    mdlSWFTag::LoadBuffer(mdlSWFTag::TakeBuffer());
-    return mdlSWFTag::GetMatrix();
+    const Bytes saved = test::Written([&] { fill.StyleObject()->Matrix()->Save(); });
+    return SwfBits(saved).GetMatrix();
 }
 
 struct GradientCase {

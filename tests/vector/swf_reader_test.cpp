@@ -6,6 +6,7 @@
 #include "platform/codepage.h"
 #include "platform/files.h"
 #include "swf/authoring/clsSWFAdmin.h"
+#include "swf/mdlSWFTag.h"
 #include "tests/vector/MovieMaker.h"
 #include "tests/vector/ShapeText.h"
 #include "vector/SwfReader.h"
