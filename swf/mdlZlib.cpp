@@ -6,19 +6,34 @@
 #include <algorithm>
 #include <memory>
 #include <new>
+#include <span>
 
 namespace tamber::mdlZlib {
 
 namespace {
 
-/// Gives fewer bytes than zlib's default level, in a third of its time.
+/// Gives mostly fewer bytes than zlib's default level, in a third of its time.
 constexpr int Level = 6;
+/// Of few bytes, zlib's stream can be some ten bytes shorter, and takes no time either.
+constexpr std::size_t ShortInput = 0x10000;
 
 struct FreeCompressor {
     void operator()(libdeflate_compressor* compressor) const {
         libdeflate_free_compressor(compressor);
     }
 };
+
+/// Puts zlib's own stream into `stream`, where it is shorter than the `size` bytes there. The
+/// result is the size of the stream that stands then.
+std::size_t Shorter(ByteView bytes, std::span<Byte> stream, std::size_t size) {
+    auto length = compressBound(static_cast<uLong>(bytes.size()));
+    Bytes other(length);
+    const int status =
+        compress(other.data(), &length, bytes.data(), static_cast<uLong>(bytes.size()));
+    if (status != Z_OK || length >= size) return size;
+    std::copy_n(other.begin(), length, stream.begin());
+    return length;
+}
 
 }  // namespace
 
@@ -28,8 +43,9 @@ Bytes ZlibCompress(ByteView bytes, ByteView head) {
     if (!compressor) throw std::bad_alloc();
     const std::size_t bound = libdeflate_zlib_compress_bound(compressor.get(), bytes.size());
     const auto stream = std::make_unique_for_overwrite<Byte[]>(bound);
-    const std::size_t size =
+    std::size_t size =
         libdeflate_zlib_compress(compressor.get(), bytes.data(), bytes.size(), stream.get(), bound);
+    if (bytes.size() <= ShortInput) size = Shorter(bytes, {stream.get(), bound}, size);
     Bytes result;
     result.reserve(head.size() + size);
     result.assign(head.begin(), head.end());
