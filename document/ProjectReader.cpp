@@ -58,6 +58,12 @@ Long ReadVersion(clsCSV& csv) {
     return version;
 }
 
+/// Kind of a row without an entry of the library.
+Long HeadKind(Long id) {
+    const SymbolKind& kind = KindOfFixedId(id);
+    return kind.FixedName.empty() ? KindBackGround : kind.Number;
+}
+
 class Reader {
 public:
     Reader(clsCSV& csv, String baseDir, const ProjectAssets& assets, std::optional<Long> importInto)
@@ -271,10 +277,7 @@ void Reader::ReadLayers(Collection<clsLayer>& layers) {
             if (found == byId_.end()) RaiseDamaged();
             layer->SymbolData(found->second);
         } else {
-            layer->SymbolData(std::make_shared<clsSymbolData>(id == -4   ? KindLayerFolder
-                                                              : id == -3 ? KindFrameAction
-                                                              : id == -2 ? KindFrameLabel
-                                                                         : KindBackGround));
+            layer->SymbolData(std::make_shared<clsSymbolData>(HeadKind(id)));
         }
         layer->Load(csv_);
         layers.Add(std::move(layer));

@@ -1,7 +1,5 @@
 #include "document/SymbolFiles.h"
 
-#include <array>
-
 #include "document/elements/SymbolKinds.h"
 #include "platform/paths.h"
 #include "platform/text.h"
@@ -10,19 +8,8 @@ namespace tamber {
 
 namespace {
 
-struct FileKind {
-    Long Kind;
-    StringView Name;
-    StringView Patterns;
-};
-
-constexpr std::array FileKinds{
-    FileKind{KindBitmap, u"画像ファイル", u"*.bmp;*.jpg;*.jpeg;*.png;*.gif"},
-    FileKind{KindVector, u"ベクタ画像ファイル", u"*.swf;*.pdr;*.svg;*.svgz"},
-    FileKind{KindSound, u"サウンドファイル", u"*.mp3;*.wav;*.rmp;*.mid;*.mld;*.mmf"},
-    FileKind{KindText, u"テキストファイル", u"*.txt;*.text"},
-    FileKind{KindMovie, u"動画ファイル", u"*.flv"},
-};
+/// As a dialog lists them.
+constexpr Long FileKinds[]{KindBitmap, KindVector, KindSound, KindText, KindMovie};
 
 FileFilter Filter(StringView name, StringView patterns) {
     return {String(name) + u" (" + String(patterns) + u")", String(patterns)};
@@ -32,23 +19,24 @@ FileFilter Filter(StringView name, StringView patterns) {
 
 Long SymbolKindOfFile(StringView path) {
     const String pattern = u";*." + FoldCase(GetFileExt(path)) + u";";
-    for (const FileKind& kind : FileKinds)
-        if ((u";" + String(kind.Patterns) + u";").find(pattern) != String::npos) return kind.Kind;
+    for (const Long kind : FileKinds) {
+        const String patterns = u";" + String(KindOf(kind).FilePatterns) + u";";
+        if (patterns.find(pattern) != String::npos) return kind;
+    }
     return 0;
 }
 
 FileFilter SymbolFileFilter(Long kind) {
-    for (const FileKind& entry : FileKinds)
-        if (entry.Kind == kind) return Filter(entry.Name, entry.Patterns);
-    return {};
+    const SymbolKind& made = KindOf(kind);
+    return made.FilePatterns.empty() ? FileFilter() : Filter(made.FileName, made.FilePatterns);
 }
 
 std::vector<FileFilter> SymbolFileFilters() {
     std::vector<FileFilter> filters;
     String all;
-    for (const FileKind& kind : FileKinds) {
-        filters.push_back(Filter(kind.Name, kind.Patterns));
-        all.append(all.empty() ? u"" : u";").append(kind.Patterns);
+    for (const Long kind : FileKinds) {
+        filters.push_back(SymbolFileFilter(kind));
+        all.append(all.empty() ? u"" : u";").append(KindOf(kind).FilePatterns);
     }
     filters.insert(filters.begin(), Filter(u"追加可能なファイル", all));
     return filters;

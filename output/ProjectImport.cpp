@@ -5,8 +5,8 @@
 #include <unordered_set>
 #include <utility>
 
-#include "canvas/timeline/SymbolRows.h"
 #include "canvas/timeline/RowRange.h"
+#include "canvas/timeline/SymbolRows.h"
 #include "document/edit/SymbolIdEdit.h"
 #include "document/edit/SymbolLibrary.h"
 #include "document/elements/clsLayerFolder.h"
@@ -42,15 +42,7 @@ std::shared_ptr<Row> FolderThatComes(const Row& row, Comes comes) {
 }
 
 bool IsInLibrary(const clsSymbolData& symbol) {
-    switch (symbol.eType()) {
-        case KindBackGround:
-        case KindFrameLabel:
-        case KindFrameAction:
-        case KindLayerFolder:
-            return false;
-        default:
-            return true;
-    }
+    return KindOf(symbol.eType()).FixedName.empty();
 }
 
 }  // namespace

@@ -55,18 +55,7 @@ std::shared_ptr<clsSymbolData> PictureAt(CommandContext& context, StringView row
     const Long index = ToLong(row);
     if (!IsRow(context, index)) return nullptr;
     const auto symbol = (*context.Controller.colSymbol())(index);
-    switch (symbol->eTypeEx()) {
-        case KindBitmap:
-        case KindText:
-        case KindVector:
-        case KindSprite:
-        case KindMovie:
-        case KindMovieEmp:
-        case KindKoma:
-            return symbol;
-        default:
-            return nullptr;
-    }
+    return KindOf(symbol->eTypeEx()).blPicture ? symbol : nullptr;
 }
 
 bool AddSprite(CommandContext& context, const CommandArguments& arguments) {

@@ -10,8 +10,8 @@ namespace tamber {
 /// of its range; a text that is no number where one is wanted raises.
 bool SetKeyFrameField(clsLayerObject& object, StringView field, StringView value);
 
-/// The same for a row: "LayerName", "ClippingDepth", "OnEvent", "Visible", "Expand", "ExpText", and
-/// the cells of its script.
+/// The same for a row: "LayerName", "ClippingDepth", "Visible", "ExpText", the cells of its script,
+/// "OnEvent" of a button's row, and "Expand" and what else a folder's row holds.
 bool SetLayerField(clsLayer& layer, StringView field, StringView value);
 
 }  // namespace tamber

@@ -3,8 +3,6 @@
 #include <nlohmann/json.hpp>
 #include <unordered_map>
 
-#include "app/fields/CellNames.h"
-#include "document/cells/clsCSV.h"
 #include "document/elements/SymbolKinds.h"
 #include "document/elements/clsLayerObjElement.h"
 #include "document/elements/clsObjSprite.h"
@@ -26,96 +24,83 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-/// The cells that a record writes, row behind row.
-template <class Record>
-std::vector<std::string> CellsOf(const Record& record) {
-    clsCSV csv;
-    record.Save(csv);
-    std::vector<std::string> cells;
-    const Long lastRow = csv.Y();
-    for (Long row = 0; row <= lastRow; ++row) {
-        const Long width = row == lastRow ? csv.X() : csv.colS();
-        for (Long column = 0; column < width; ++column)
-            cells.push_back(ToNarrow(csv.GetValue(column, row)));
-        while (row < lastRow && !cells.empty() && cells.back().empty()) cells.pop_back();
-    }
-    return cells;
-}
-
-/// A record's cells under their names; those beyond the names are listed under "more".
-template <class Record>
-Json Named(const Record& record, std::string_view names) {
-    Json result = Json::object();
-    Json more = Json::array();
-    for (std::string& cell : CellsOf(record)) {
-        const std::size_t end = names.find(',');
-        if (names.empty())
-            more.push_back(std::move(cell));
-        else
-            result[std::string(names.substr(0, end))] = std::move(cell);
-        names.remove_prefix(end == std::string_view::npos ? names.size() : end + 1);
-    }
-    if (!more.empty()) result["more"] = std::move(more);
-    return result;
-}
-
-Json CurveOf(const clsEdgingTable& table) {
-    Json points = Json::array();
-    for (const EdgingPoint& point : table.Points) points.push_back({point.X, point.Y});
-    return points;
-}
-
 /// A Single as its cell shows it.
 double Number(Single value) {
     return std::stod(ToNarrow(ToText(value)));
 }
 
-Json PathOf(const clsLayerObjElement& placement) {
-    Json points = Json::array();
-    for (const auto& point : placement.colTweenPoint)
-        points.push_back({{"type", point->PointType == 0 ? "On" : "Off"},
-                          {"x", Number(point->X)},
-                          {"y", Number(point->Y)}});
-    return points;
+/// Takes fields as texts under their names; those without a name are listed under "more".
+FieldSink Into(Json& result) {
+    return [&result](StringView name, const String& value) {
+        if (name.empty())
+            result["more"].push_back(ToNarrow(value));
+        else
+            result[ToNarrow(name)] = ToNarrow(value);
+    };
 }
 
-Json PlacementOf(const clsLayerObjElement& p) {
-    return {{"X", Number(p.X())},
-            {"Y", Number(p.Y())},
-            {"OffsetX", Number(p.OffsetX())},
-            {"OffsetY", Number(p.OffsetY())},
-            {"ScaleX", Number(p.ScaleX())},
-            {"ScaleY", Number(p.ScaleY())},
-            {"Bright", p.Bright},
-            {"Toumei", p.Toumei},
-            {"Angle", Number(p.Angle())},
-            {"SkewX", Number(p.SkewX())},
-            {"SkewY", Number(p.SkewY())},
-            {"Edging", p.Edging},
-            {"blCustomEdging", p.blCustomEdging},
-            {"EdgingAllMode", p.EdgingAllMode},
-            {"eBlend", p.eBlend},
-            {"EdgingTblXY", CurveOf(p.EdgingTblXY)},
-            {"EdgingTblPrm", CurveOf(p.EdgingTblPrm)},
-            {"filters", Named(*p.inFilter, FilterCellNames())},
-            {"tweenPoints", PathOf(p)}};
+template <class Record>
+Json Values(const Record& record);
+
+Json ValueOf(Long value) {
+    return value;
+}
+Json ValueOf(bool value) {
+    return value;
+}
+Json ValueOf(Single value) {
+    return Number(value);
+}
+Json ValueOf(StringView value) {
+    return ToNarrow(value);
+}
+Json ValueOf(const String& value) {
+    return ToNarrow(value);
+}
+Json ValueOf(const clsEdgingTable& table) {
+    Json points = Json::array();
+    for (const EdgingPoint& point : table.Points) points.push_back({point.X, point.Y});
+    return points;
+}
+Json ValueOf(const Collection<clsTweenPointData>& path) {
+    Json points = Json::array();
+    for (const auto& point : path) points.push_back(Values(*point));
+    return points;
+}
+/// A record within another, as texts.
+template <HasFields Record>
+Json ValueOf(const Record& record) {
+    Json result = Json::object();
+    TellFields(record, Into(result));
+    return result;
+}
+
+/// The fields of a record as what they are.
+template <class Record>
+Json Values(const Record& record) {
+    Json result = Json::object();
+    const auto add = [&result](StringView name, const auto& value) {
+        if constexpr (requires { ValueOf(value); })
+            result[ToNarrow(name)] = ValueOf(value);
+        else
+            result[ToNarrow(name) + "s"] = value;
+    };
+    ForEachField<Record>([&](const auto& field) { field.Show(record, add); });
+    return result;
 }
 
 Json KeyFrameOf(const clsLayerObject& object) {
-    Json frame{{"StartFrame", object.StartFrame()}, {"DispCount", object.DispCount()},
-               {"blTween", object.blTween},         {"blFixed", object.blFixed},
-               {"blVisible", object.blVisible},     {"kind", object.SymbolType()}};
-    if (object.Placement() != nullptr) frame["placement"] = PlacementOf(*object.Placement());
+    Json frame = Values(object);
+    frame["kind"] = object.SymbolType();
+    if (object.Placement() != nullptr) frame["placement"] = Values(*object.Placement());
     if (const auto* vector = object.ObjectAs<clsObjVector>())
-        frame["freeTransform"] = {{"blFreeTrans", vector->blFreeTrans},
-                                  {"FreeTransPoints", vector->FreeTransPoints},
-                                  {"blDivide", vector->blDivide}};
-    if (const auto* text = object.ObjectAs<clsObjText>())
-        frame["effect"] = Named(text->inEfElement, EffectCellNames());
-    if (const auto* sprite = object.ObjectAs<clsObjSprite>())
-        frame["effect"] = Named(sprite->inEfElement, EffectCellNames());
-    if (object.Object && object.Placement() == nullptr)
-        frame["values"] = Named(*object.Object, ElementCellNames(object.SymbolType()));
+        frame["freeTransform"] = Values(*vector);
+    if (const auto* text = object.ObjectAs<clsObjText>()) frame.update(Values(*text));
+    if (const auto* sprite = object.ObjectAs<clsObjSprite>()) frame.update(Values(*sprite));
+    if (object.Object && object.Placement() == nullptr) {
+        frame["values"] = Json::object();
+        object.Object->TellFields(Into(frame["values"]));
+    }
     return frame;
 }
 
@@ -140,16 +125,12 @@ Json LayersOf(const Collection<clsLayer>& layers) {
     for (const auto& layer : layers) {
         Json frames = Json::array();
         for (const auto& object : layer->colObject) frames.push_back(KeyFrameOf(*object));
-        result.push_back({{"symbolID", layer->SymbolData()->ID},
-                          {"kind", layer->SymbolData()->eType()},
-                          {"LayerName", ToNarrow(layer->LayerName)},
-                          {"InstanceName", ToNarrow(layer->InstanceName)},
-                          {"ClippingDepth", layer->ClippingDepth},
-                          {"eOnEvent", layer->eOnEvent},
-                          {"script", Named(layer->inScript, ScriptCellNames())},
-                          {"Visible", layer->Visible(true)},
-                          {"folderDepth", depths.Of(*layer)},
-                          {"keyFrames", std::move(frames)}});
+        Json row{{"symbolID", layer->SymbolData()->ID}, {"kind", layer->SymbolData()->eType()}};
+        row.update(Values(*layer));
+        row["eOnEvent"] = layer->eOnEvent;
+        row["folderDepth"] = depths.Of(*layer);
+        row["keyFrames"] = std::move(frames);
+        result.push_back(std::move(row));
     }
     return result;
 }
@@ -179,17 +160,12 @@ Json SymbolOf(const clsSymbolData& symbol, Long folderDepth) {
                 {"type", ToNarrow(symbol.TypeText())},
                 {"ID", symbol.ID},
                 {"name", ToNarrow(symbol.Value())},
-                {"file", ToNarrow(symbol.FilePathName)},
-                {"ObjectName", ToNarrow(symbol.ObjectName)},
-                {"LinkClassName", ToNarrow(symbol.LinkClassName)},
-                {"blExport", symbol.blExport},
-                {"blExportTop", symbol.blExportTop},
-                {"folderDepth", folderDepth}};
+                {"file", ToNarrow(symbol.FilePathName)}};
+    result.update(Values(symbol));
+    result["folderDepth"] = folderDepth;
     if (symbol.PropertyData()) {
-        const auto* text = symbol.Property<clsPropertyText>();
-        result["options"] =
-            Named(*symbol.PropertyData(),
-                  OptionCellNames(symbol.eType(), text != nullptr && text->blDynamic));
+        result["options"] = Json::object();
+        symbol.PropertyData()->TellFields(Into(result["options"]));
         result["width"] = symbol.PixelWidth();
         result["height"] = symbol.PixelHeight();
     }

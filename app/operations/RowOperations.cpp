@@ -34,11 +34,6 @@ bool IsInstanceName(StringView name) {
            });
 }
 
-/// Folders and classes are no pictures of a layer.
-bool IsPlaceable(const clsSymbolData& symbol) {
-    return symbol.eType() != KindSymbolFolder && symbol.eType() != KindClass;
-}
-
 /// False for a symbol that does not show the timeline's owner.
 bool TellLoop(const clsSymbolData& symbol, const clsSymbolData& owner) {
     if (!ShowsSymbol(symbol, owner)) return false;
@@ -163,7 +158,7 @@ bool RowOperations::ChangeSymbol(Long index) {
     const auto symbol = (*session_.colSymbol())(index);
     return Change({}, [&](clsLayer& layer) {
         const bool ofLibrary = layer.SymbolData() && layer.SymbolData()->ID > 0;
-        if (!ofLibrary || !IsPlaceable(*symbol) || ShowsItself(*symbol)) return false;
+        if (!ofLibrary || !KindOf(symbol->eType()).blLayer || ShowsItself(*symbol)) return false;
         layer.SymbolData(symbol);
         return true;
     });

@@ -1,6 +1,5 @@
 #include "document/symbols/clsPropertyData.h"
 
-#include "document/symbols/clsLayer.h"
 #include "document/records/clsPropertyBmp.h"
 #include "document/records/clsPropertyButton.h"
 #include "document/records/clsPropertyClass.h"
@@ -13,39 +12,38 @@
 #include "document/records/clsPropertySymbolFolder.h"
 #include "document/records/clsPropertyText.h"
 #include "document/records/clsPropertyVector.h"
+#include "document/symbols/clsLayer.h"
 #include "document/symbols/clsSymbolData.h"
 
 namespace tamber {
 
+namespace {
+
+template <class Record>
+std::shared_ptr<clsPropertyData> New() {
+    return std::make_shared<Record>();
+}
+
+struct RecordMaker {
+    Long Kind;
+    std::shared_ptr<clsPropertyData> (*Make)();
+};
+
+constexpr RecordMaker Makers[]{
+    {KindBitmap, New<clsPropertyBmp>},        {KindText, New<clsPropertyText>},
+    {KindSound, New<clsPropertySound>},       {KindVector, New<clsPropertyVector>},
+    {KindSprite, New<clsPropertySprite>},     {KindMovie, New<clsPropertyMovie>},
+    {KindMovieEmp, New<clsPropertyMovieEmp>}, {KindButton, New<clsPropertyButton>},
+    {KindKoma, New<clsPropertyKoma>},         {KindSymbolFolder, New<clsPropertySymbolFolder>},
+    {KindClass, New<clsPropertyClass>},       {KindLink, New<clsPropertyLinkSymbol>},
+};
+
+}  // namespace
+
 std::shared_ptr<clsPropertyData> MakePropertyData(Long kind) {
-    switch (kind) {
-        case KindBitmap:
-            return std::make_shared<clsPropertyBmp>();
-        case KindText:
-            return std::make_shared<clsPropertyText>();
-        case KindSound:
-            return std::make_shared<clsPropertySound>();
-        case KindVector:
-            return std::make_shared<clsPropertyVector>();
-        case KindSprite:
-            return std::make_shared<clsPropertySprite>();
-        case KindMovie:
-            return std::make_shared<clsPropertyMovie>();
-        case KindMovieEmp:
-            return std::make_shared<clsPropertyMovieEmp>();
-        case KindButton:
-            return std::make_shared<clsPropertyButton>();
-        case KindKoma:
-            return std::make_shared<clsPropertyKoma>();
-        case KindSymbolFolder:
-            return std::make_shared<clsPropertySymbolFolder>();
-        case KindClass:
-            return std::make_shared<clsPropertyClass>();
-        case KindLink:
-            return std::make_shared<clsPropertyLinkSymbol>();
-        default:
-            return nullptr;
-    }
+    for (const RecordMaker& maker : Makers)
+        if (maker.Kind == kind) return maker.Make();
+    return nullptr;
 }
 
 }  // namespace tamber

@@ -4,18 +4,12 @@ namespace tamber {
 
 void clsButtonMatrix::Load(clsCSV& csv) {
     *this = clsButtonMatrix();
-    if (!csv.TakeBoolean()) return;
-    TranslatePosX = csv.TakeLong();
-    TranslatePosY = csv.TakeLong();
-    EditColor.Load(csv);
+    if (csv.TakeBoolean()) LoadFields(*this, csv);
 }
 
 void clsButtonMatrix::Save(clsCSV& csv) const {
     csv.Put(!CkDefault());
-    if (CkDefault()) return;
-    csv.Put(TranslatePosX);
-    csv.Put(TranslatePosY);
-    EditColor.Save(csv);
+    if (!CkDefault()) SaveFields(*this, csv);
 }
 
 }  // namespace tamber

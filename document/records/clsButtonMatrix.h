@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/cells/clsCSV.h"
+#include "document/cells/Fields.h"
 #include "effects/filters/clsFilterEditColor.h"
 
 namespace tamber {
@@ -17,6 +17,15 @@ public:
     void Load(clsCSV& csv);
     void Save(clsCSV& csv) const;
     bool operator==(const clsButtonMatrix&) const = default;
+
+    static constexpr auto Fields() {
+        using T = clsButtonMatrix;
+        return std::tuple{
+            Field(u"TranslatePosX", &T::TranslatePosX),
+            Field(u"TranslatePosY", &T::TranslatePosY),
+            Record(u"EditColor", u"", &T::EditColor),
+        };
+    }
 };
 
 }  // namespace tamber

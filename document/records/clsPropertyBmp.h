@@ -1,11 +1,11 @@
 #pragma once
 
-#include "document/symbols/clsPropertyData.h"
+#include "document/records/FieldRecord.h"
 
 namespace tamber {
 
 /// A picture.
-class clsPropertyBmp : public clsPropertyData {
+class clsPropertyBmp : public FieldRecord<clsPropertyBmp> {
 public:
     /// A key colour is transparent.
     bool blToumei = false;
@@ -34,9 +34,22 @@ public:
     Long eType() const override { return KindBitmap; }
     Long PixelWidth() const override { return Width; }
     Long PixelHeight() const override { return height; }
-    void Load(clsCSV& csv) override;
-    void Save(clsCSV& csv) const override;
-    void CopyTo(clsPropertyData& target) const override { CopyRecord(*this, target); }
+
+    static constexpr auto Fields() {
+        using T = clsPropertyBmp;
+        return std::tuple{
+            Field(u"blToumei", &T::blToumei),
+            Field(u"ToumeiColorRed", &T::ToumeiColorRed),
+            Field(u"ToumeiColorGreen", &T::ToumeiColorGreen),
+            Field(u"ToumeiColorBlue", &T::ToumeiColorBlue),
+            Field(u"blShading", &T::blShading),
+            Field(u"ShadingType", &T::ShadingType, Words({{1, u"CR"}, {2, u"BL"}}, 0)),
+            Field(u"ShadingNum", &T::ShadingNum),
+            Field(u"blJpegComp", &T::blJpegComp),
+            Field(u"JpegQuality", &T::JpegQuality),
+
+        };
+    }
 };
 
 }  // namespace tamber

@@ -2,14 +2,11 @@
 
 #include <algorithm>
 
-#include "document/cells/ProjectFileVersion.h"
 #include "document/symbols/clsSymbolData.h"
 
 namespace tamber {
 
 namespace {
-
-constexpr Long VersionWithMatrix = 0x50C00;
 
 Long IndexOf(const std::shared_ptr<clsSymbolData>& symbol) {
     return symbol ? symbol->Index : 0;
@@ -24,32 +21,6 @@ bool IsShape(const std::shared_ptr<clsSymbolData>& symbol) {
 }
 
 }  // namespace
-
-void clsPropertyButton::Load(clsCSV& csv) {
-    ButtonName = csv.TakeText();
-    blAutoHitTest = csv.TakeBoolean();
-    if (csv.Value().empty()) return;
-    bl9Scale = csv.TakeBoolean();
-    GridLeft = csv.TakeLong();
-    GridRight = csv.TakeLong();
-    GridTop = csv.TakeLong();
-    GridBottom = csv.TakeLong();
-    if (ProjectFileVersion < VersionWithMatrix) return;
-    matrixDown.Load(csv);
-    matrixOver.Load(csv);
-}
-
-void clsPropertyButton::Save(clsCSV& csv) const {
-    csv.Put(ButtonName);
-    csv.Put(blAutoHitTest);
-    csv.Put(bl9Scale);
-    csv.Put(GridLeft);
-    csv.Put(GridRight);
-    csv.Put(GridTop);
-    csv.Put(GridBottom);
-    matrixDown.Save(csv);
-    matrixOver.Save(csv);
-}
 
 Long clsPropertyButton::UpIndex() const {
     return IndexOf(UpSymbol());

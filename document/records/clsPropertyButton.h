@@ -2,15 +2,15 @@
 
 #include <memory>
 
+#include "document/records/FieldRecord.h"
 #include "document/records/clsButtonMatrix.h"
-#include "document/symbols/clsPropertyData.h"
 
 namespace tamber {
 
 class clsSymbolData;
 
 /// A button and its states.
-class clsPropertyButton : public clsPropertyData {
+class clsPropertyButton : public FieldRecord<clsPropertyButton> {
 public:
     String ButtonName;
     bool blAutoHitTest = false;
@@ -45,9 +45,20 @@ public:
     Long eType() const override { return KindButton; }
     std::optional<String> Name() const override { return ButtonName; }
     bool HasInstanceName() const override { return true; }
-    void Load(clsCSV& csv) override;
-    void Save(clsCSV& csv) const override;
-    void CopyTo(clsPropertyData& target) const override { CopyRecord(*this, target); }
+
+    static constexpr auto Fields() {
+        using T = clsPropertyButton;
+        constexpr FromVersion WithMatrix(0x50C00);
+        return std::tuple{
+            Field(u"ButtonName", &T::ButtonName),
+            Field(u"blAutoHitTest", &T::blAutoHitTest),
+            Group(IfFilled(), Field(u"bl9Scale", &T::bl9Scale), Field(u"GridLeft", &T::GridLeft),
+                  Field(u"GridRight", &T::GridRight), Field(u"GridTop", &T::GridTop),
+                  Field(u"GridBottom", &T::GridBottom),
+                  Group(WithMatrix, Record(u"matrixDown", u"Down.", &T::matrixDown),
+                        Record(u"matrixOver", u"Over.", &T::matrixOver))),
+        };
+    }
 
 private:
     std::weak_ptr<clsSymbolData> up_;

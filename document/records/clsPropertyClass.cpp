@@ -1,7 +1,7 @@
 #include "document/records/clsPropertyClass.h"
 
-#include "document/symbols/clsLayer.h"
 #include "document/elements/clsObjFrameAction.h"
+#include "document/symbols/clsLayer.h"
 #include "document/symbols/clsSymbolData.h"
 #include "platform/RuntimeError.h"
 
@@ -20,8 +20,7 @@ std::shared_ptr<clsLayer> clsPropertyClass::NewLayer() {
 }
 
 void clsPropertyClass::Load(clsCSV& csv) {
-    className = csv.TakeText();
-    Extends = csv.TakeText();
+    LoadFields(*this, csv);
     const Long count = csv.TakeLong();
     colLayer = std::make_shared<Collection<clsLayer>>();
     colLayer->Add(NewLayer());
@@ -38,17 +37,32 @@ void clsPropertyClass::Load(clsCSV& csv) {
     }
 }
 
-void clsPropertyClass::Save(clsCSV& csv) const {
-    csv.Put(className);
-    csv.Put(Extends);
-    csv.Put(colLayer->Count());
+template <class Visit>
+void clsPropertyClass::ForEachPart(Visit&& visit) const {
     for (const auto& layer : *colLayer) {
-        csv.CrLf();
         const auto first = layer->FastObject();
         const auto* action = first ? first->ObjectAs<clsObjFrameAction>() : nullptr;
-        csv.Put(action ? StringView(action->Comment) : StringView());
-        csv.Put(action ? StringView(action->inScript.ScriptText) : StringView());
+        visit(action ? action->Comment : String(), action ? action->inScript.ScriptText : String());
     }
+}
+
+void clsPropertyClass::Save(clsCSV& csv) const {
+    SaveFields(*this, csv);
+    csv.Put(colLayer->Count());
+    ForEachPart([&csv](const String& comment, const String& text) {
+        csv.CrLf();
+        csv.Put(comment);
+        csv.Put(text);
+    });
+}
+
+void clsPropertyClass::TellFields(const FieldSink& sink) const {
+    FieldRecord::TellFields(sink);
+    sink(u"layers", ToText(colLayer->Count()));
+    ForEachPart([&sink](const String& comment, const String& text) {
+        sink({}, comment);
+        sink({}, text);
+    });
 }
 
 void clsPropertyClass::CopyTo(clsPropertyData& target) const {

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "document/symbols/clsPropertyData.h"
+#include "document/records/FieldRecord.h"
 #include "platform/Collection.h"
 
 namespace tamber {
@@ -14,7 +14,7 @@ class clsUndoRedo;
 inline constexpr StringView ClassExportPrefix = u"__Packages.";
 
 /// A class of ActionScript; each layer holds a part of its text.
-class clsPropertyClass : public clsPropertyData {
+class clsPropertyClass : public FieldRecord<clsPropertyClass> {
 public:
     String className;
     String Extends;
@@ -37,6 +37,21 @@ public:
     void Save(clsCSV& csv) const override;
     /// The copy has a name of its own and none of the layers.
     void CopyTo(clsPropertyData& target) const override;
+    void TellFields(const FieldSink& sink) const override;
+
+    /// The layers follow behind them.
+    static constexpr auto Fields() {
+        using T = clsPropertyClass;
+        return std::tuple{
+            Field(u"className", &T::className, Follows),
+            Field(u"Extends", &T::Extends),
+        };
+    }
+
+private:
+    /// Hands over comment and text of each layer.
+    template <class Visit>
+    void ForEachPart(Visit&& visit) const;
 };
 
 }  // namespace tamber

@@ -6,16 +6,6 @@
 
 namespace tamber {
 
-void clsPropertyKoma::Load(clsCSV& csv) {
-    KomaName = csv.TakeText();
-    DispCount = csv.TakeLong();
-}
-
-void clsPropertyKoma::Save(clsCSV& csv) const {
-    csv.Put(KomaName);
-    csv.Put(DispCount);
-}
-
 void clsPropertyKoma::SetSize() {
     Width = 0;
     height = 0;

@@ -1,8 +1,9 @@
 #pragma once
 
+#include <limits>
 #include <memory>
 
-#include "document/symbols/clsPropertyData.h"
+#include "document/records/FieldRecord.h"
 #include "platform/Collection.h"
 
 namespace tamber {
@@ -10,7 +11,7 @@ namespace tamber {
 class clsSymbolData;
 
 /// Pictures shown one after the other.
-class clsPropertyKoma : public clsPropertyData {
+class clsPropertyKoma : public FieldRecord<clsPropertyKoma> {
 public:
     String KomaName;
     /// Frames a picture.
@@ -27,9 +28,14 @@ public:
     std::optional<String> Name() const override { return KomaName; }
     Long PixelWidth() const override { return Width; }
     Long PixelHeight() const override { return height; }
-    void Load(clsCSV& csv) override;
-    void Save(clsCSV& csv) const override;
-    void CopyTo(clsPropertyData& target) const override { CopyRecord(*this, target); }
+
+    static constexpr auto Fields() {
+        using T = clsPropertyKoma;
+        return std::tuple{
+            Field(u"KomaName", &T::KomaName),
+            Field(u"DispCount", &T::DispCount, Among(1, std::numeric_limits<Long>::max())),
+        };
+    }
 };
 
 }  // namespace tamber

@@ -6,20 +6,18 @@
 
 namespace tamber {
 
+namespace {
+constexpr StringView TargetPrefix = u"target.";
+}  // namespace
+
 void clsPropertyLinkSymbol::Load(clsCSV& csv) {
-    SymbolName = csv.TakeText();
-    URL = csv.TakeText();
-    Width = csv.TakeLong();
-    height = csv.TakeLong();
+    LoadFields(*this, csv);
     eSymbolType(SymbolKindFromText(csv.TakeText()));
     if (objPropertyData) objPropertyData->Load(csv);
 }
 
 void clsPropertyLinkSymbol::Save(clsCSV& csv) const {
-    csv.Put(SymbolName);
-    csv.Put(URL);
-    csv.Put(Width);
-    csv.Put(height);
+    SaveFields(*this, csv);
     csv.Put(SymbolTypeText());
     if (objPropertyData) objPropertyData->Save(csv);
 }
@@ -38,6 +36,21 @@ void clsPropertyLinkSymbol::CopyTo(clsPropertyData& target) const {
     auto record = MakePropertyData(targetKind_);
     objPropertyData->CopyTo(*record);
     dynamic_cast<clsPropertyLinkSymbol&>(target).objPropertyData = std::move(record);
+}
+
+void clsPropertyLinkSymbol::TellFields(const FieldSink& sink) const {
+    FieldRecord::TellFields(sink);
+    sink(u"target", SymbolTypeText());
+    if (!objPropertyData) return;
+    objPropertyData->TellFields([&sink](StringView name, const String& value) {
+        sink(name.empty() ? String() : String(TargetPrefix) + String(name), value);
+    });
+}
+
+bool clsPropertyLinkSymbol::SetField(StringView name, StringView value) {
+    if (!objPropertyData || !name.starts_with(TargetPrefix))
+        return FieldRecord::SetField(name, value);
+    return objPropertyData->SetField(name.substr(TargetPrefix.size()), value);
 }
 
 }  // namespace tamber

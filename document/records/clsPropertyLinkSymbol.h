@@ -2,12 +2,12 @@
 
 #include <memory>
 
-#include "document/symbols/clsPropertyData.h"
+#include "document/records/FieldRecord.h"
 
 namespace tamber {
 
 /// A symbol imported from another movie by name.
-class clsPropertyLinkSymbol : public clsPropertyData {
+class clsPropertyLinkSymbol : public FieldRecord<clsPropertyLinkSymbol> {
 public:
     String SymbolName;
     /// The other movie.
@@ -35,6 +35,20 @@ public:
     void Load(clsCSV& csv) override;
     void Save(clsCSV& csv) const override;
     void CopyTo(clsPropertyData& target) const override;
+    /// The target's options are called "target." and their names.
+    void TellFields(const FieldSink& sink) const override;
+    bool SetField(StringView name, StringView value) override;
+
+    /// The target's kind and record follow behind them.
+    static constexpr auto Fields() {
+        using T = clsPropertyLinkSymbol;
+        return std::tuple{
+            Field(u"SymbolName", &T::SymbolName),
+            Field(u"URL", &T::URL),
+            Field(u"Width", &T::Width),
+            Field(u"height", &T::height),
+        };
+    }
 
 private:
     Long targetKind_ = 0;

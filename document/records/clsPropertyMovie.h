@@ -1,11 +1,11 @@
 #pragma once
 
-#include "document/symbols/clsPropertyData.h"
+#include "document/records/FieldRecord.h"
 
 namespace tamber {
 
 /// A video.
-class clsPropertyMovie : public clsPropertyData {
+class clsPropertyMovie : public FieldRecord<clsPropertyMovie> {
 public:
     Long StartFrame = 1;
     bool blSound = true;
@@ -18,9 +18,16 @@ public:
     bool HasInstanceName() const override { return true; }
     Long PixelWidth() const override { return Width; }
     Long PixelHeight() const override { return height; }
-    void Load(clsCSV& csv) override;
-    void Save(clsCSV& csv) const override;
-    void CopyTo(clsPropertyData& target) const override { CopyRecord(*this, target); }
+
+    static constexpr auto Fields() {
+        using T = clsPropertyMovie;
+        return std::tuple{
+            Field(u"StartFrame", &T::StartFrame),
+            Field(u"blSound", &T::blSound),
+            Field(u"blSmoothing", &T::blSmoothing),
+
+        };
+    }
 };
 
 }  // namespace tamber

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "document/symbols/clsPropertyData.h"
+#include "document/records/FieldRecord.h"
 
 namespace tamber {
 
 /// A video that the movie fetches when it plays.
-class clsPropertyMovieEmp : public clsPropertyData {
+class clsPropertyMovieEmp : public FieldRecord<clsPropertyMovieEmp> {
 public:
     String MovieName;
     Long Width = 0;
@@ -16,9 +16,16 @@ public:
     bool HasInstanceName() const override { return true; }
     Long PixelWidth() const override { return Width; }
     Long PixelHeight() const override { return height; }
-    void Load(clsCSV& csv) override;
-    void Save(clsCSV& csv) const override;
-    void CopyTo(clsPropertyData& target) const override { CopyRecord(*this, target); }
+
+    static constexpr auto Fields() {
+        using T = clsPropertyMovieEmp;
+        return std::tuple{
+            Field(u"MovieName", &T::MovieName),
+            Field(u"Width", &T::Width),
+            Field(u"height", &T::height),
+
+        };
+    }
 };
 
 }  // namespace tamber

@@ -1,19 +1,23 @@
 #pragma once
 
-#include "document/symbols/clsPropertyData.h"
+#include "document/records/FieldRecord.h"
 
 namespace tamber {
 
 /// A sound.
-class clsPropertySound : public clsPropertyData {
+class clsPropertySound : public FieldRecord<clsPropertySound> {
 public:
     /// The wave table is built when the display needs it.
     bool blWavRead = true;
 
     Long eType() const override { return KindSound; }
-    void Load(clsCSV& csv) override;
-    void Save(clsCSV& csv) const override;
-    void CopyTo(clsPropertyData& target) const override { CopyRecord(*this, target); }
+
+    static constexpr auto Fields() {
+        using T = clsPropertySound;
+        return std::tuple{
+            Group(IfFilled(), Field(u"blWavRead", &T::blWavRead)),
+        };
+    }
 };
 
 }  // namespace tamber

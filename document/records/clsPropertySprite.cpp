@@ -5,33 +5,6 @@
 
 namespace tamber {
 
-void clsPropertySprite::Load(clsCSV& csv) {
-    SpriteName = csv.TakeText();
-    Width = csv.TakeLong();
-    height = csv.TakeLong();
-    baseX = csv.TakeLong();
-    baseY = csv.TakeLong();
-    if (csv.Value().empty()) return;
-    bl9Scale = csv.TakeBoolean();
-    GridLeft = csv.TakeLong();
-    GridRight = csv.TakeLong();
-    GridTop = csv.TakeLong();
-    GridBottom = csv.TakeLong();
-}
-
-void clsPropertySprite::Save(clsCSV& csv) const {
-    csv.Put(SpriteName);
-    csv.Put(Width);
-    csv.Put(height);
-    csv.Put(baseX);
-    csv.Put(baseY);
-    csv.Put(bl9Scale);
-    csv.Put(GridLeft);
-    csv.Put(GridRight);
-    csv.Put(GridTop);
-    csv.Put(GridBottom);
-}
-
 void clsPropertySprite::CopyTo(clsPropertyData& target) const {
     CopyRecord(*this, target);
     auto layers = std::make_shared<Collection<clsLayer>>();

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "document/symbols/clsPropertyData.h"
+#include "document/records/FieldRecord.h"
 #include "platform/Collection.h"
 
 namespace tamber {
@@ -12,7 +12,7 @@ class clsUndoRedo;
 class clsSymbolData;
 
 /// A sprite: a timeline of its own.
-class clsPropertySprite : public clsPropertyData {
+class clsPropertySprite : public FieldRecord<clsPropertySprite> {
 public:
     String SpriteName;
     Long Width = 0;
@@ -37,9 +37,21 @@ public:
     bool HasInstanceName() const override { return true; }
     Long PixelWidth() const override { return Width; }
     Long PixelHeight() const override { return height; }
-    void Load(clsCSV& csv) override;
-    void Save(clsCSV& csv) const override;
     void CopyTo(clsPropertyData& target) const override;
+
+    static constexpr auto Fields() {
+        using T = clsPropertySprite;
+        return std::tuple{
+            Field(u"SpriteName", &T::SpriteName),
+            Field(u"Width", &T::Width),
+            Field(u"height", &T::height),
+            Field(u"baseX", &T::baseX),
+            Field(u"baseY", &T::baseY),
+            Group(IfFilled(), Field(u"bl9Scale", &T::bl9Scale), Field(u"GridLeft", &T::GridLeft),
+                  Field(u"GridRight", &T::GridRight), Field(u"GridTop", &T::GridTop),
+                  Field(u"GridBottom", &T::GridBottom)),
+        };
+    }
 };
 
 }  // namespace tamber

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "document/symbols/clsPropertyData.h"
+#include "document/records/FieldRecord.h"
 
 namespace tamber {
 
 /// A folder of the library.
-class clsPropertySymbolFolder : public clsPropertyData {
+class clsPropertySymbolFolder : public FieldRecord<clsPropertySymbolFolder> {
 public:
     String FolderName;
     /// For display only.
@@ -20,9 +20,16 @@ public:
     std::optional<String> Name() const override { return FolderName; }
     Long RowsBelow() const override { return LayerCount; }
     void AddRows(Long count) override { LayerCount += count; }
-    void Load(clsCSV& csv) override;
-    void Save(clsCSV& csv) const override;
-    void CopyTo(clsPropertyData& target) const override { CopyRecord(*this, target); }
+
+    static constexpr auto Fields() {
+        using T = clsPropertySymbolFolder;
+        return std::tuple{
+            Field(u"FolderName", &T::FolderName),
+            Field(u"LayerCount", &T::LayerCount, Follows),
+            Field(u"Expand", &T::Expand),
+
+        };
+    }
 };
 
 }  // namespace tamber

@@ -2,14 +2,14 @@
 
 #include <memory>
 
-#include "document/symbols/clsPropertyData.h"
+#include "document/records/FieldRecord.h"
 
 namespace tamber {
 
 class clsSymbolData;
 
 /// A text, static or a field.
-class clsPropertyText : public clsPropertyData {
+class clsPropertyText : public FieldRecord<clsPropertyText> {
 public:
     String InitialText;
     /// The text with definitions applied.
@@ -63,9 +63,40 @@ public:
     bool TakesEffects() const override { return !blDynamic && !FontName.starts_with(u'_'); }
     Long PixelWidth() const override { return Width; }
     Long PixelHeight() const override { return height; }
-    void Load(clsCSV& csv) override;
-    void Save(clsCSV& csv) const override;
-    void CopyTo(clsPropertyData& target) const override { CopyRecord(*this, target); }
+
+    static constexpr auto Fields() {
+        using T = clsPropertyText;
+        constexpr FromVersion WithFitShape(0x60300);
+        return std::tuple{
+            Field(u"InitialText", &T::InitialText),
+            Field(u"DefineText", &T::DefineText),
+            Field(u"FontName", &T::FontName),
+            Field(u"Width", &T::Width),
+            Field(u"height", &T::height),
+            Field(u"FontSize", &T::FontSize),
+            Field(u"FontLeading", &T::FontLeading),
+            Field(u"FontCharSpace", &T::FontCharSpace),
+            Field(u"FontBold", &T::FontBold),
+            Field(u"FontItalic", &T::FontItalic),
+            Field(u"FontColorRed", &T::FontColorRed),
+            Field(u"FontColorGreen", &T::FontColorGreen),
+            Field(u"FontColorBlue", &T::FontColorBlue),
+            Field(u"Alignment", &T::Alignment),
+            Field(u"blAutoSize", &T::blAutoSize),
+            Field(u"blDynamic", &T::blDynamic),
+            Group(IfOn{&T::blDynamic}, Field(u"blWordWrap", &T::blWordWrap),
+                  Field(u"blInput", &T::blInput), Field(u"blSelect", &T::blSelect),
+                  Field(u"blMultiLine", &T::blMultiLine), Field(u"blBorder", &T::blBorder),
+                  Field(u"blPassword", &T::blPassword), Field(u"blHtml", &T::blHtml),
+                  Field(u"VariableName", &T::VariableName)),
+            Group(IfFilled(), Field(u"blFlashType", &T::blFlashType),
+                  Field(u"Thickness", &T::Thickness), Field(u"Sharpness", &T::Sharpness)),
+            Group(WithFitShape, Field(u"FitShapeScaleX", &T::FitShapeScaleX),
+                  Field(u"FitShapeScaleY", &T::FitShapeScaleY),
+                  Field(u"blFitAngle", &T::blFitAngle), Field(u"blFitEven", &T::blFitEven),
+                  Field(u"blFitOpposite", &T::blFitOpposite), Field(u"eBasePos", &T::eBasePos)),
+        };
+    }
 
 private:
     std::weak_ptr<clsSymbolData> fitShape_;

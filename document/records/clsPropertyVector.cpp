@@ -12,32 +12,6 @@ namespace {
 constexpr Long LineOptionVersion = 8;
 }  // namespace
 
-void clsPropertyVector::Load(clsCSV& csv) {
-    blDivide = csv.TakeBoolean();
-    if (csv.Value().empty()) return;
-    blFreeTrans = csv.TakeBoolean();
-    for (Long& value : FreeTransPoints) value = csv.TakeLong();
-    if (csv.Value().empty()) return;
-    blLineOption = csv.TakeBoolean();
-    blNoLineScale = csv.TakeBoolean();
-    blPixelHinting = csv.TakeBoolean();
-    CapStyle = csv.TakeLong();
-    JoinStyle = csv.TakeLong();
-    MiterLimit = csv.TakeLong();
-}
-
-void clsPropertyVector::Save(clsCSV& csv) const {
-    csv.Put(blDivide);
-    csv.Put(blFreeTrans);
-    for (const Long value : FreeTransPoints) csv.Put(value);
-    csv.Put(blLineOption);
-    csv.Put(blNoLineScale);
-    csv.Put(blPixelHinting);
-    csv.Put(CapStyle);
-    csv.Put(JoinStyle);
-    csv.Put(MiterLimit);
-}
-
 String clsPropertyVector::OptionText() const {
     String mark;
     if (const auto target = MorphSymbol()) {

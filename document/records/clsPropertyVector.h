@@ -4,7 +4,7 @@
 #include <memory>
 #include <optional>
 
-#include "document/symbols/clsPropertyData.h"
+#include "document/records/FieldRecord.h"
 #include "vector/LineOptions.h"
 #include "vector/clsVectorData.h"
 
@@ -13,7 +13,7 @@ namespace tamber {
 class clsSymbolData;
 
 /// A vector drawing.
-class clsPropertyVector : public clsPropertyData {
+class clsPropertyVector : public FieldRecord<clsPropertyVector> {
 public:
     /// Each shape takes a depth of its own.
     bool blDivide = false;
@@ -54,9 +54,20 @@ public:
     Long DividedDepths() const override { return blDivide ? ShapeCount() : 1; }
     Long PixelWidth() const override { return Width; }
     Long PixelHeight() const override { return height; }
-    void Load(clsCSV& csv) override;
-    void Save(clsCSV& csv) const override;
-    void CopyTo(clsPropertyData& target) const override { CopyRecord(*this, target); }
+
+    static constexpr auto Fields() {
+        using T = clsPropertyVector;
+        return std::tuple{
+            Field(u"blDivide", &T::blDivide),
+            Group(IfFilled(), Field(u"blFreeTrans", &T::blFreeTrans),
+                  Array(u"FreeTransPoint", &T::FreeTransPoints),
+                  Group(IfFilled(), Field(u"blLineOption", &T::blLineOption),
+                        Field(u"blNoLineScale", &T::blNoLineScale),
+                        Field(u"blPixelHinting", &T::blPixelHinting),
+                        Field(u"CapStyle", &T::CapStyle), Field(u"JoinStyle", &T::JoinStyle),
+                        Field(u"MiterLimit", &T::MiterLimit))),
+        };
+    }
 
 private:
     std::optional<LineOptions> OptionsInForce(Long version) const;

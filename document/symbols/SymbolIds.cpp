@@ -51,7 +51,7 @@ bool CheckID(const Collection<clsSymbolData>& library, Long id, Long index) {
 }
 
 bool HasNumber(const clsSymbolData& symbol) {
-    return symbol.eType() != KindSymbolFolder && symbol.eType() != KindClass;
+    return KindOf(symbol.eType()).blLayer;
 }
 
 void SeparateIds(const Collection<clsSymbolData>& library, SymbolIds& ids, Long first, Long last,

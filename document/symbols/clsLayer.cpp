@@ -1,10 +1,8 @@
 #include "document/symbols/clsLayer.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
-#include "document/cells/ProjectFileVersion.h"
 #include "document/elements/clsLayerFolder.h"
 #include "document/elements/clsObjSprite.h"
 #include "document/elements/clsObjVector.h"
@@ -13,22 +11,6 @@
 #include "platform/text.h"
 
 namespace tamber {
-
-namespace {
-
-constexpr Long VersionWithEvent = 0x51800;
-
-constexpr std::array<std::pair<Long, StringView>, 7> events{{
-    {1024, u"press"},
-    {2048, u"release"},
-    {4096, u"releaseOutside"},
-    {8192, u"rollover"},
-    {16384, u"rollout"},
-    {32768, u"dragover"},
-    {65536, u"dragout"},
-}};
-
-}  // namespace
 
 clsLayer::clsLayer() {
     inScript.eScriptMode(NoScript);
@@ -51,18 +33,6 @@ void clsLayer::SymbolData(std::shared_ptr<clsSymbolData> symbol) {
 String clsLayer::ExpText() const {
     if (!remark_.empty() || !symbol_ || symbol_->ID < 1) return remark_;
     return ToText(symbol_->ID);
-}
-
-String clsLayer::OnEventName() const {
-    for (const auto& [number, name] : events)
-        if (number == eOnEvent) return String(name);
-    return String(events[0].second);
-}
-
-void clsLayer::OnEventName(StringView name) {
-    const auto found = std::find_if(events.begin(), events.end(),
-                                    [name](const auto& event) { return event.second == name; });
-    eOnEvent = found == events.end() ? EventPress : found->first;
 }
 
 std::shared_ptr<clsLayerObject> clsLayer::SelectObject() const {
@@ -288,6 +258,10 @@ String clsLayer::LayerNameView() const {
     return symbol_ ? symbol_->Value() : String();
 }
 
+bool clsLayer::IsOfButton() const {
+    return symbol_ && symbol_->eType() == KindButton;
+}
+
 bool clsLayer::blInstance() const {
     return symbol_ && symbol_->PropertyData() && symbol_->PropertyData()->HasInstanceName();
 }
@@ -310,17 +284,9 @@ String clsLayer::Script(Long swfVersion) const {
 
 Long clsLayer::DepthCnt(bool inTween) const {
     if (!symbol_) return 0;
-    switch (symbol_->eTypeEx()) {
-        case KindFrameLabel:
-        case KindSound:
-        case KindFrameAction:
-        case KindLayerFolder:
-            return 0;
-        case KindVector:
-            break;
-        default:
-            return Visible(true) ? 1 : 0;
-    }
+    const KindDepths depths = KindOf(symbol_->eTypeEx()).Depths;
+    if (depths == KindDepths::None) return 0;
+    if (depths == KindDepths::One) return Visible(true) ? 1 : 0;
     const clsPropertyData* record = symbol_->PropertyData().get();
     if (ClippingDepth != 0 || record == nullptr) return 1;
     const Long divided = record->DividedDepths();
@@ -356,27 +322,12 @@ void clsLayer::CopyTo(clsLayer& target) const {
 }
 
 bool clsLayer::CompareHead(const clsLayer& other) const {
-    return symbol_ == other.symbol_ && LayerName == other.LayerName &&
-           InstanceName == other.InstanceName && ClippingDepth == other.ClippingDepth &&
-           inScript.Compare(other.inScript) && inScript.TargetPath == other.inScript.TargetPath &&
-           SelectIndex == other.SelectIndex && eOnEvent == other.eOnEvent &&
-           FirstFrame == other.FirstFrame && FrameWidth == other.FrameWidth &&
-           remark_ == other.remark_ && visible_ == other.visible_;
+    return symbol_ == other.symbol_ && SameFields(*this, other) &&
+           inScript.TargetPath == other.inScript.TargetPath;
 }
 
 void clsLayer::Load(clsCSV& csv) {
-    LayerName = csv.TakeText();
-    InstanceName = csv.TakeText();
-    ClippingDepth = std::clamp(csv.TakeLong(), 0, MaxClippingDepth);
-    // The remark is for the session it was written in.
-    csv.Right();
-    remark_.clear();
-    if (ProjectFileVersion < VersionWithEvent)
-        eOnEvent = EventPress;
-    else if (symbol_->eType() == KindButton)
-        OnEventName(csv.TakeText());
-    inScript.Load(csv);
-    visible_ = csv.TakeBoolean();
+    LoadFields(*this, csv);
     const Long count = csv.TakeLong();
     csv.CrLf();
     colObject.Clear();
@@ -393,13 +344,7 @@ void clsLayer::Load(clsCSV& csv) {
 
 void clsLayer::Save(clsCSV& csv) const {
     csv.Put(symbol_->ID);
-    csv.Put(LayerName);
-    csv.Put(InstanceName);
-    csv.Put(ClippingDepth);
-    csv.Put(remark_);
-    if (symbol_->eType() == KindButton) csv.Put(OnEventName());
-    inScript.Save(csv);
-    csv.Put(visible_);
+    SaveFields(*this, csv);
     csv.Put(ObjectCount());
     csv.CrLf();
     for (const auto& object : colObject) object->Save(csv);

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "document/cells/clsCSV.h"
+#include "document/cells/Fields.h"
 #include "document/elements/clsLayerObject.h"
 #include "platform/Collection.h"
 #include "platform/types.h"
@@ -13,6 +13,31 @@ namespace tamber {
 class clsLayerFolder;
 class clsSymbolData;
 
+/// A remark is for the session it was written in: its cell is not read.
+struct ForThisSession : AsIs {
+    static void Take(clsCSV& csv, String& value) {
+        csv.Right();
+        value.clear();
+    }
+};
+
+/// The button event of a row: before the version that has it, all scripts were for a press.
+struct ButtonEvent {
+    template <class Owner, class Fields>
+    static void Load(Owner& owner, clsCSV& csv, const Fields& fields) {
+        constexpr Long VersionWithEvent = 0x51800;
+        const auto& event = std::get<0>(fields);
+        if (ProjectFileVersion < VersionWithEvent)
+            owner.*event.Member = Owner::EventPress;
+        else if (Writes(owner))
+            event.Load(owner, csv);
+    }
+    template <class Owner>
+    static bool Writes(const Owner& owner) {
+        return owner.IsOfButton();
+    }
+};
+
 /// A row of a timeline: a symbol and its key frames in frame order.
 class clsLayer {
 public:
@@ -20,6 +45,14 @@ public:
     static constexpr Long EventRelease = 2048;
     static constexpr Long MaxClippingDepth = 999;
     static constexpr Long NoScript = 2048;
+    static constexpr auto EventWords = Words({{1024, u"press"},
+                                              {2048, u"release"},
+                                              {4096, u"releaseOutside"},
+                                              {8192, u"rollover"},
+                                              {16384, u"rollout"},
+                                              {32768, u"dragover"},
+                                              {65536, u"dragout"}},
+                                             0);
 
     /// User's name of the layer, empty for the default.
     String LayerName;
@@ -47,8 +80,8 @@ public:
     /// A remark; without one the symbol's ID.
     String ExpText() const;
     void ExpText(StringView text) { remark_ = text; }
-    String OnEventName() const;
-    void OnEventName(StringView name);
+    String OnEventName() const { return String(EventWords.Seen(eOnEvent)); }
+    void OnEventName(StringView name) { eOnEvent = EventWords.Number(name); }
 
     const std::shared_ptr<clsLayerObject>& Object(Long index) const { return colObject(index); }
     Long ObjectCount() const { return colObject.Count(); }
@@ -98,6 +131,8 @@ public:
     /// Adds to the row count of this folder and of those above it.
     void AddInFolder(Long count);
     String LayerNameView() const;
+    /// The row shows a button.
+    bool IsOfButton() const;
     /// The layer can take an instance name.
     bool blInstance() const;
     bool blEffect() const;
@@ -118,6 +153,23 @@ public:
     /// Reads from the cell behind the symbol's ID; `SymbolData` is set before.
     void Load(clsCSV& csv);
     void Save(clsCSV& csv) const;
+
+    /// Behind the symbol's ID.
+    static constexpr auto Fields() {
+        using T = clsLayer;
+        return std::tuple{
+            Field(u"LayerName", &T::LayerName),
+            Field(u"InstanceName", &T::InstanceName, Follows),
+            Field(u"ClippingDepth", &T::ClippingDepth, Within(0, MaxClippingDepth)),
+            Field(u"ExpText", &T::remark_, ForThisSession()),
+            Group(ButtonEvent(), Field(u"OnEvent", &T::eOnEvent, EventWords)),
+            Record(u"script", u"", &T::inScript),
+            Field(u"Visible", &T::visible_),
+            Field(u"SelectIndex", &T::SelectIndex, Unsaved),
+            Field(u"FirstFrame", &T::FirstFrame, Unsaved),
+            Field(u"FrameWidth", &T::FrameWidth, Unsaved),
+        };
+    }
 
 private:
     std::shared_ptr<clsSymbolData> symbol_;

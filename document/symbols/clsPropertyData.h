@@ -3,8 +3,8 @@
 #include <memory>
 #include <optional>
 
+#include "document/cells/Fields.h"
 #include "document/elements/SymbolKinds.h"
-#include "document/cells/clsCSV.h"
 #include "platform/types.h"
 
 namespace tamber {
@@ -45,6 +45,9 @@ public:
     virtual void Save(clsCSV& csv) const = 0;
     /// Copies into a record of the same class; any other raises.
     virtual void CopyTo(clsPropertyData& target) const = 0;
+    /// Tells the options by name, as `SetField` takes them.
+    virtual void TellFields(const FieldSink& sink) const = 0;
+    virtual bool SetField(StringView name, StringView value) = 0;
     /// Size in pixels, 0 for a kind without one.
     virtual Long PixelWidth() const { return 0; }
     virtual Long PixelHeight() const { return 0; }

@@ -1,6 +1,5 @@
 #include "document/symbols/clsSymbolData.h"
 
-#include "document/cells/ProjectFileVersion.h"
 #include "platform/UserInterface.h"
 #include "platform/paths.h"
 #include "platform/text.h"
@@ -8,42 +7,6 @@
 namespace tamber {
 
 namespace {
-
-constexpr Long VersionWithLinkClass = 0x70403;
-
-/// The ID of a kind without a number of its own, 0 for the others.
-Long FixedId(Long kind) {
-    switch (kind) {
-        case KindBackGround:
-            return -1;
-        case KindFrameLabel:
-            return -2;
-        case KindFrameAction:
-            return -3;
-        case KindLayerFolder:
-            return -4;
-        case KindClass:
-            return -5;
-        default:
-            return 0;
-    }
-}
-
-/// Name of a row that shows no entry of the library; empty for the other kinds.
-StringView FixedName(Long kind) {
-    switch (kind) {
-        case KindBackGround:
-            return u"背景";
-        case KindFrameLabel:
-            return u"フレームラベル";
-        case KindFrameAction:
-            return u"フレームアクション";
-        case KindLayerFolder:
-            return u"フォルダ";
-        default:
-            return {};
-    }
-}
 
 /// The file that a cell tells, against the project's folder.
 String FileOfCell(StringView cell, StringView baseDir) {
@@ -79,7 +42,7 @@ void SaveUnknown(const clsSymbolData& symbol, clsCSV& csv, StringView baseDir) {
 void clsSymbolData::eType(Long kind) {
     kind_ = kind;
     property_ = MakePropertyData(kind);
-    if (const Long fixed = FixedId(kind); fixed != 0) ID = fixed;
+    if (const Long fixed = KindOf(kind).FixedId; fixed != 0) ID = fixed;
 }
 
 Long clsSymbolData::eTypeEx() const {
@@ -104,7 +67,7 @@ String clsSymbolData::TypeTextEx() const {
 
 String clsSymbolData::Value() const {
     if (const auto name = property_ ? property_->Name() : std::nullopt) return *name;
-    const StringView fixed = FixedName(kind_);
+    const StringView fixed = KindOf(kind_).FixedName;
     return fixed.empty() ? GetFileName(FilePathName) : String(fixed);
 }
 
@@ -124,19 +87,6 @@ String clsSymbolData::ListName() const {
 
 String clsSymbolData::OptionText() const {
     return property_ ? property_->OptionText() : String();
-}
-
-Long clsSymbolData::BackColor() const {
-    switch (kind_) {
-        case KindFrameLabel:
-            return ColorLong(230, 240, 255);
-        case KindFrameAction:
-            return ColorLong(255, 238, 255);
-        case KindLayerFolder:
-            return ColorLong(255, 255, 220);
-        default:
-            return ColorLong(255, 255, 255);
-    }
 }
 
 Long clsSymbolData::TypeColor() const {
@@ -168,11 +118,7 @@ void clsSymbolData::Load(clsCSV& csv, StringView baseDir) {
     FilePathName = FileOfCell(csv.TakeText(), baseDir);
     eType(SymbolKindFromText(csv.TakeText()));
     UnknownCells = kind_ == 0 ? CellsOfRow(csv) : std::vector<String>();
-    ObjectName = csv.TakeText();
-    if (ProjectFileVersion >= VersionWithLinkClass) LinkClassName = csv.TakeText();
-    const String word = csv.TakeText();
-    blExport = word == u"Export" || word == u"ExportTop";
-    blExportTop = word != u"Export";
+    LoadFields(*this, csv);
     if (kind_ == KindButton) {
         // A button has no linkage, whatever its cells hold.
         ObjectName.clear();
@@ -191,11 +137,7 @@ void clsSymbolData::Save(clsCSV& csv, StringView baseDir) const {
     csv.Put(ID);
     csv.Put(CellOfFile(FilePathName, baseDir));
     csv.Put(TypeText());
-    csv.Put(ObjectName);
-    csv.Put(LinkClassName);
-    csv.Put(!blExport     ? StringView()
-            : blExportTop ? StringView(u"ExportTop")
-                          : StringView(u"Export"));
+    SaveFields(*this, csv);
     if (property_) property_->Save(csv);
     csv.CrLf();
 }

@@ -5,11 +5,27 @@
 #include <vector>
 
 #include "document/elements/SymbolKinds.h"
-#include "document/cells/clsCSV.h"
 #include "document/symbols/clsPropertyData.h"
 #include "platform/types.h"
 
 namespace tamber {
+
+/// The two switches of an export in one word.
+struct ExportWord : AlwaysWritten {
+    template <class Owner, class Fields>
+    static void Load(Owner& owner, clsCSV& csv, const Fields& fields) {
+        const auto& [exported, onTop] = fields;
+        const String word = csv.TakeText();
+        owner.*exported.Member = word == u"Export" || word == u"ExportTop";
+        owner.*onTop.Member = word != u"Export";
+    }
+    template <class Owner, class Fields>
+    static void Save(const Owner& owner, clsCSV& csv, const Fields& fields) {
+        const auto& [exported, onTop] = fields;
+        const StringView word = owner.*onTop.Member ? u"ExportTop" : u"Export";
+        csv.Put(owner.*exported.Member ? word : StringView());
+    }
+};
 
 /// An entry of the library, or the head of a layer that shows no library entry.
 class clsSymbolData {
@@ -68,7 +84,7 @@ public:
     /// Mark in the list.
     String OptionText() const;
     /// Colours of the list row, red in the low byte.
-    Long BackColor() const;
+    Long BackColor() const { return KindOf(kind_).BackColor; }
     Long TypeColor() const;
     Long FolderDepth() const;
     /// Adds to the row count of this folder and of those above it.
@@ -81,6 +97,18 @@ public:
     /// `baseDir` is the project's folder, against which the file's path is relative.
     void Load(clsCSV& csv, StringView baseDir);
     void Save(clsCSV& csv, StringView baseDir) const;
+
+    /// Behind the number, the file and the kind.
+    static constexpr auto Fields() {
+        using T = clsSymbolData;
+        constexpr FromVersion WithLinkClass(0x70403);
+        return std::tuple{
+            Field(u"ObjectName", &T::ObjectName),
+            Group(WithLinkClass, Field(u"LinkClassName", &T::LinkClassName)),
+            Group(ExportWord(), Field(u"blExport", &T::blExport),
+                  Field(u"blExportTop", &T::blExportTop)),
+        };
+    }
 
 private:
     std::size_t Slot() const { return DefineNum == 0 ? 0 : DefineNum == 1 ? 1 : 2; }

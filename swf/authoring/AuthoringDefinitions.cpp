@@ -32,11 +32,6 @@ bool IsExported(const clsSymbolData& symbol) {
     return symbol.blExportEx() && symbol.eType() != KindBackGround;
 }
 
-/// Kinds whose exports are not generated yet.
-bool LacksExport(Long kind) {
-    return kind == KindSound || kind == KindMovieEmp;
-}
-
 /// A definition gives the symbol an identifier.
 bool HasCharacter(const clsSymbolData& symbol) {
     switch (symbol.eType()) {
@@ -110,7 +105,7 @@ void Authoring::DefineExports(clsSWFAdmin& admin, Long mode) {
 }
 
 void Authoring::DefineExport(clsSWFAdmin& admin, const clsSymbolData& symbol, Long frame) {
-    if (LacksExport(symbol.eType())) {
+    if (KindOf(symbol.eType()).blLacksExport) {
         told_.push_back({u"「" + symbol.ExportName() +
                              u"」は書き出せません。\r\n"
                              u"この種類のシンボルの生成には対応していません。",

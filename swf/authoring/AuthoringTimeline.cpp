@@ -28,7 +28,7 @@ constexpr Long MovieVersion = 6;
 /// For a picture of a koma and a state of a button: buttons are made for layers, and komas have no
 /// character of their own.
 bool CanBePart(Long kind) {
-    return CanPlace(kind) && kind != KindButton && kind != KindKoma;
+    return KindOf(kind).blPlaced && kind != KindButton && kind != KindKoma;
 }
 
 bool IsEverSeen(const clsLayer& layer) {
@@ -143,10 +143,10 @@ void Authoring::WriteLayer(const Timeline& timeline, Long index, Long& depth) {
     const Long kind = layer.SymbolData()->eType();
     if (IsGated(layer)) return;
     if (snapshot_ == nullptr) WriteUnplaced(timeline, layer);
-    const Long depths = TakesDepths(kind) ? layer.DepthCnt(true) : 0;
+    const Long depths = KindOf(kind).blTakesDepths ? layer.DepthCnt(true) : 0;
     if (depths == 0) return;
     if (request_.blTopToBottom) depth -= depths - 1;
-    if (!CanPlace(kind))
+    if (!KindOf(kind).blPlaced)
         LeaveOut(layer);
     else if (IsWalked(timeline, index, depth, depths))
         PlaceLayer(timeline, index, depth);

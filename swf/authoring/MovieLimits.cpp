@@ -83,7 +83,8 @@ String TimelineFault(const MovieRequest& request) {
         std::int64_t depths = 0;
         for (const Long row : WalkedRows(*layers, request.blTopToBottom)) {
             const clsLayer& layer = *(*layers)(row);
-            if (!TakesDepths(layer.SymbolData()->eType()) || layer.DepthCnt(true) == 0) continue;
+            if (!KindOf(layer.SymbolData()->eType()).blTakesDepths || layer.DepthCnt(true) == 0)
+                continue;
             depths += layer.DepthCnt(true);
             placements += PlacementsOf(layer);
         }

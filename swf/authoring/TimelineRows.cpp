@@ -7,25 +7,6 @@
 
 namespace tamber {
 
-bool CanPlace(Long kind) {
-    switch (kind) {
-        case KindBitmap:
-        case KindText:
-        case KindVector:
-        case KindSprite:
-        case KindButton:
-        case KindKoma:
-        case KindLink:
-            return true;
-        default:
-            return false;
-    }
-}
-
-bool TakesDepths(Long kind) {
-    return CanPlace(kind) || kind == KindMovie || kind == KindMovieEmp;
-}
-
 std::vector<Long> WalkedRows(const Collection<clsLayer>& layers, bool topToBottom) {
     std::vector<Long> rows;
     const Long count = layers.Count();

@@ -7,11 +7,6 @@
 
 namespace tamber {
 
-/// Kinds of symbols that this generation can put on a timeline.
-bool CanPlace(Long kind);
-/// Kinds whose rows have depths on a timeline, generated or not.
-bool TakesDepths(Long kind);
-
 /// Positions of the rows of a timeline that are generated, in the order of their depths. Rows in a
 /// hidden folder are left out from the top to the bottom only.
 std::vector<Long> WalkedRows(const Collection<clsLayer>& layers, bool topToBottom);
