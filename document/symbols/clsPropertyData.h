@@ -43,6 +43,8 @@ public:
     virtual void AddRows(Long) {}
     virtual void Load(clsCSV& csv) = 0;
     virtual void Save(clsCSV& csv) const = 0;
+    /// A record of the same class with the same values; what it refers to is shared.
+    virtual std::shared_ptr<clsPropertyData> Copy() const = 0;
     /// Copies into a record of the same class; any other raises.
     virtual void CopyTo(clsPropertyData& target) const = 0;
     /// Tells the options by name, as `SetField` takes them.
