@@ -97,7 +97,7 @@ bool MakeJpeg(clsDib& dib, const BitmapOptions& options, BitmapBuffers& buffers)
         buffers.bufBmp = std::move(dib.JpegStream);
     else if (!CompressTreated(dib, options, buffers.bufBmp))
         return false;
-    if (dib.blBlend()) buffers.bufAlpha = std::move(dib.ADib);
+    if (dib.blBlend()) buffers.bufAlpha = mdlZlib::ZlibCompress(dib.ADib);
     return true;
 }
 

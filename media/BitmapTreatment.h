@@ -31,7 +31,7 @@ struct BitmapBuffers {
     /// `bufBmp` is a whole JPEG stream; otherwise a zlib stream of lossless pixels.
     bool blJpeg = false;
     Bytes bufBmp;
-    /// Alpha beside a JPEG: one byte a pixel, top row first, not compressed. Empty when opaque.
+    /// Alpha beside a JPEG: a zlib stream of one byte a pixel, top row first. Empty when opaque.
     Bytes bufAlpha;
     /// Of a lossless picture: 8 (palette), 16 (five bits a channel) or 32. Of a JPEG: that of the
     /// picture as read.

@@ -19,7 +19,8 @@ public:
     /// Compress to JPEG in the movie.
     bool blJpegComp = false;
     Long JpegQuality = 70;
-    /// From the file: the picture as the movie takes it. Not stored.
+    /// From the file: the picture as the movie takes it, the alpha beside a JPEG compressed. Not
+    /// stored.
     bool blJpeg = false;
     Bytes bufBmp;
     Bytes bufAlpha;

@@ -184,11 +184,10 @@ std::shared_ptr<clsSWFTagDefineBitsLossless> clsSWFAdmin::GetNewBitmap(Bytes str
     return tag;
 }
 
-std::shared_ptr<clsSWFTagDefineBitsJPEG> clsSWFAdmin::GetNewJpeg(Bytes stream,
-                                                                 ByteView alphaPlane) {
+std::shared_ptr<clsSWFTagDefineBitsJPEG> clsSWFAdmin::GetNewJpeg(Bytes stream, Bytes alpha) {
     auto tag = std::make_shared<clsSWFTagDefineBitsJPEG>();
     tag->bufJpeg(std::move(stream));
-    if (!alphaPlane.empty()) tag->bufAlpha(alphaPlane);
+    if (!alpha.empty()) tag->bufAlpha(std::move(alpha));
     tag->ID = AddDefinition(tag);
     return tag;
 }

@@ -75,7 +75,7 @@ public:
     Long AddDefinition(SWFTagReference tag);
     std::shared_ptr<clsSWFTagDefineBitsLossless> GetNewBitmap(Bytes stream, Long bitCount,
                                                               Long width, Long height);
-    std::shared_ptr<clsSWFTagDefineBitsJPEG> GetNewJpeg(Bytes stream, ByteView alphaPlane);
+    std::shared_ptr<clsSWFTagDefineBitsJPEG> GetNewJpeg(Bytes stream, Bytes alpha);
     std::shared_ptr<clsSWFTagDefineShape> GetNewBitmapShape(Long bitmapID, Long width, Long height);
     std::shared_ptr<clsSWFTagDefineShape> GetNewShape(Long ver);
     /// A shape of an artwork: of the artwork's version from version 8 of the movie on, else of

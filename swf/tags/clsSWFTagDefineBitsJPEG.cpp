@@ -1,7 +1,6 @@
 #include "swf/tags/clsSWFTagDefineBitsJPEG.h"
 
 #include "swf/mdlSWFTag.h"
-#include "swf/mdlZlib.h"
 
 namespace tamber {
 
@@ -9,11 +8,6 @@ namespace {
 /// EOI and SOI in front of the stream, as older players want them.
 constexpr Long LeadingMarkers = static_cast<Long>(0xD8FFD9FF);
 }  // namespace
-
-void clsSWFTagDefineBitsJPEG::bufAlpha(ByteView plane) {
-    alpha_ = mdlZlib::ZlibCompress(plane);
-    ver_ = 3;
-}
 
 void clsSWFTagDefineBitsJPEG::Save() {
     const auto n = static_cast<Long>(jpeg_.size());

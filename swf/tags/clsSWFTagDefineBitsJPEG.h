@@ -13,8 +13,11 @@ public:
 
     /// The whole JPEG stream, its own SOI included.
     void bufJpeg(Bytes stream) { jpeg_ = std::move(stream); }
-    /// One byte of alpha a pixel; kept compressed.
-    void bufAlpha(ByteView plane);
+    /// The zlib stream of one byte of alpha a pixel.
+    void bufAlpha(Bytes stream) {
+        alpha_ = std::move(stream);
+        ver_ = 3;
+    }
 
     Long Ver() const { return ver_; }
     Long TagNum() const override {
