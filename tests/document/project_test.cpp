@@ -438,6 +438,26 @@ TEST_F(ProjectFile, FindsFilesByNamesOfAnotherForm) {
               JoinPath(folder_, u"s.MP3") + u"\r\n\r\nファイルが見つかりません。");
 }
 
+TEST_F(ProjectFile, RowsOfANumberHeldTwiceShowTheSymbolOfTheirKind) {
+    const String sprite = u"3,,ｽﾌﾟﾗｲﾄ,,,,A,0,0,0,0,False,0,0,0,0\r\n";
+    const String button = u"3,,ﾎﾞﾀﾝ,,,,B,True\r\n";
+    const String spriteCells = plainPlacement + u",True,loop,False,5,Random,False,12,spin,";
+    Project project;
+    ASSERT_TRUE(Load(u"KVF,0,9,0\r\n1,1,1,8\r\n4\r\n1,,空動画,,,,E,3,4\r\n" + sprite + button +
+                         sprite + u"0,0,0,0\r\n0\r\n0\r\n2\r\n" +
+                         LayerRows(u"3", plainPlacement, u"rollout,") +
+                         LayerRows(u"3", spriteCells),
+                     project));
+    ASSERT_EQ(ui_.Messages.size(), 1U);
+    EXPECT_EQ(ui_.Messages[0].first, u"重複しているIDを、\r\n空いているIDへ変更します。");
+    const auto& symbols = *project.colSymbol;
+    EXPECT_EQ(symbols(2)->ID, 3);
+    EXPECT_EQ(symbols(3)->ID, 2);
+    EXPECT_EQ(symbols(4)->ID, 4);
+    EXPECT_EQ((*project.colMainLayer)(1)->SymbolData(), symbols(3));
+    EXPECT_EQ((*project.colMainLayer)(2)->SymbolData(), symbols(2));
+}
+
 TEST_F(ProjectFile, AsksForAMissingFile) {
     const String text =
         u"KVF,0,9,0\r\n1,1,1,8\r\n1\r\n"
