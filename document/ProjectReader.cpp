@@ -418,7 +418,7 @@ ProjectLoad LoadProjectBytes(ByteView bytes, StringView path, Project& out,
                              const ProjectAssets& assets, std::optional<Long> importInto) {
     const ProjectFileVersionScope version(NewestProjectFileVersion);
     clsCSV csv;
-    Reader reader(csv, GetFileFolder(AbsolutePath(path)), assets, importInto);
+    Reader reader(csv, FolderOfFile(path), assets, importInto);
     try {
         Notices told;
         if (!ReadHead(bytes, csv, told)) return Damaged({});

@@ -81,7 +81,7 @@ void SaveProjectCells(clsCSV& csv, const Project& project, StringView baseDir) {
 
 bool SaveProject(StringView path, const Project& project, RuntimeError* why) {
     try {
-        const String folder = GetFileFolder(AbsolutePath(path));
+        const String folder = FolderOfFile(path);
         clsCSV csv;
         SaveProjectCells(csv, project, folder);
         const Bytes bytes = EncodeProjectText(csv, EqualsNoCase(GetFileExt(path), u"kvfz"));

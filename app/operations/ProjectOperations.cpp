@@ -280,7 +280,7 @@ bool ProjectOperations::Author(StringView path) {
     request.Layers = project.colMainLayer.get();
     request.Fonts = RefreshFontAdmin(*project.colSymbol, project.SWFVersion);
     request.Path = path;
-    request.ProjectFolder = GetFileFolder(session_.ProjectFileName);
+    request.ProjectFolder = FolderOfFile(session_.ProjectFileName);
     request.blProgress = true;
     request.blCompress = mdlPrivateProfile::flgSWFCompress();
     request.blTopToBottom = mdlPrivateProfile::flgTopToBottom();

@@ -9,6 +9,7 @@
 #include <filesystem>
 
 #include "platform/codepage.h"
+#include "platform/paths.h"
 
 namespace tamber {
 namespace {
@@ -97,6 +98,23 @@ TEST_F(FilesTest, a_save_keeps_permissions_and_follows_links) {
     EXPECT_TRUE(fs::is_symlink(link));
     EXPECT_EQ(fs::file_size(file), newBytes.size());
     EXPECT_EQ(fs::status(file).permissions(), fs::perms(0640));
+}
+
+TEST_F(FilesTest, paths_that_climb_start_where_links_lead) {
+    const String real = FromNarrow((fs::canonical(folder) / "real" / "deep").string());
+    const String root = GetFileFolder(GetFileFolder(real));
+    const String link = JoinPath(root, u"link");
+    fs::create_directories(ToNarrow(real));
+    fs::create_symlink("real/deep", ToNarrow(link));
+    EXPECT_EQ(NormalizePath(JoinPath(link, u"../a.png")), JoinPath(root, u"real/a.png"));
+    EXPECT_EQ(AbsolutePath(JoinPath(link, u"./x/../../a.png")), JoinPath(root, u"real/a.png"));
+    EXPECT_EQ(MakeRelativePath(link, JoinPath(root, u"a.png")), u"../../a.png");
+    EXPECT_EQ(MakeRelativePath(link, JoinPath(link, u"a.png")), u"a.png");
+    const String project = JoinPath(real, u"a.kvf");
+    ASSERT_TRUE(WriteFileBytes(oldBytes, project));
+    fs::create_symlink(ToNarrow(project), folder / "b.kvf");
+    EXPECT_EQ(FolderOfFile(JoinPath(root, u"b.kvf")), real);
+    EXPECT_EQ(FolderOfFile(JoinPath(link, u"a.kvf")), link);
 }
 
 TEST_F(FilesTest, a_pipe_is_written_to_and_stays_a_pipe) {
