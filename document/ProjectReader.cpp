@@ -80,6 +80,7 @@ private:
     void NoteId(const std::shared_ptr<clsSymbolData>& symbol);
     void TellUnknown(const std::vector<String>& cells);
     void FitFont(clsSymbolData& symbol);
+    String FontInstead() const;
     void LoadAsset(clsSymbolData& symbol);
     void ChooseFile(clsSymbolData& symbol);
     void ReadReferences();
@@ -102,6 +103,8 @@ private:
     Notices told_;
     /// Words of unknown kinds that were told.
     std::set<String> unknownWords_;
+    /// Fonts that were looked for, and what stands for those that are not available.
+    std::unordered_map<String, String> fontsFor_;
     /// By the numbers of the file, of which rows tell. The first of a kind only.
     std::unordered_map<Long, std::vector<std::shared_ptr<clsSymbolData>>> byId_;
 };
@@ -228,13 +231,23 @@ void Reader::TellUnknown(const std::vector<String>& cells) {
         {u"「" + word + u"」は不明な種類のシンボルです。\r\n内容はそのまま保存されます。"});
 }
 
+String Reader::FontInstead() const {
+    const String font = assets_.DefaultFont();
+    return assets_.FontAvailable(font) ? font : String(LastFont);
+}
+
 void Reader::FitFont(clsSymbolData& symbol) {
-    auto& text = *symbol.Property<clsPropertyText>();
-    if (text.FontName.starts_with(u'_') || assets_.FontAvailable(text.FontName)) return;
-    const String other = assets_.DefaultFont();
-    told_.push_back(
-        {u"「" + text.FontName + u"」が見つかりません。\r\n「" + other + u"」へ変更します。"});
-    text.FontName = other;
+    String& name = symbol.Property<clsPropertyText>()->FontName;
+    if (name.starts_with(u'_')) return;
+    const auto [known, isNew] = fontsFor_.try_emplace(name, name);
+    if (isNew && !assets_.FontAvailable(name)) {
+        known->second = FontInstead();
+        // A substitute takes the place of the last one as a matter of course.
+        if (name != known->second || !assets_.SubstituteAvailable())
+            told_.push_back({u"「" + name + u"」が見つかりません。\r\n「" + known->second +
+                             u"」へ変更します。"});
+    }
+    name = known->second;
 }
 
 void Reader::ChooseFile(clsSymbolData& symbol) {
