@@ -188,7 +188,9 @@ String NormalizePath(StringView path) {
 String AbsolutePath(StringView path) {
     std::error_code error;
     const fs::path absolute = fs::absolute(Native(path), error);
-    return error ? String(path) : Resolved(FromNarrow(absolute.string()));
+    if (error) return String(path);
+    const String resolved = Resolved(FromNarrow(absolute.string()));
+    return path.ends_with(PathSeparator) ? JoinPath(resolved, u"") : resolved;
 }
 
 String FolderOfFile(StringView path) {
