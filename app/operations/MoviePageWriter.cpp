@@ -91,8 +91,8 @@ bool WriteMoviePage(StringView moviePath, MoviePage page) {
     const String folder = GetFileFolder(moviePath);
     const String path = JoinPath(folder, GetFileBase(moviePath) + u".html");
     if (!WriteFileBytes(EncodeAnsi(text), path)) {
-        ShowMessage(path + u"\r\n\r\nファイルに書き込めませんでした。", ProgramTitle,
-                    MessageIcon::Error);
+        ShowMessage(path + u"\r\n\r\nファイルに書き込めませんでした。\r\n" + WriteFault(),
+                    ProgramTitle, MessageIcon::Error);
         return false;
     }
     if (page.blPlayer) ProvidePlayer(folder);

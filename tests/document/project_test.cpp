@@ -647,7 +647,8 @@ TEST_F(ProjectFile, CutAtAnyByteLoadsOrSaysWhyNot) {
 TEST_F(ProjectFile, FailedSaveTellsWhy) {
     RuntimeError why(0, u"", u"");
     EXPECT_FALSE(SaveProject(JoinPath(JoinPath(folder_, u"s.mp3"), u"a.kvf"), Project(), &why));
-    EXPECT_NE(why.Number, 0);
+    EXPECT_EQ(why.Number, 75);
+    EXPECT_TRUE(why.Description.ends_with(u"\r\nフォルダを作成できません。"));
 }
 
 TEST_F(ProjectFile, LeavesTheFileVersionAsItWas) {
