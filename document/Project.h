@@ -39,6 +39,7 @@ struct Project {
     Long MainHeight = 0;
     Single FrameRate = 0;
     Long SWFVersion = 0;
+    /// While it is read or written; an open project's are those of the program.
     std::optional<HtmlSettings> Html;
 };
 

@@ -6,6 +6,7 @@
 #include <set>
 #include <stdexcept>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -16,6 +17,7 @@
 #include "document/records/SymbolContents.h"
 #include "document/records/clsPropertyText.h"
 #include "document/records/clsPropertyVector.h"
+#include "document/symbols/SymbolIds.h"
 #include "platform/FindFile.h"
 #include "platform/RuntimeError.h"
 #include "platform/UserInterface.h"
@@ -81,13 +83,20 @@ private:
     void ShowTold() { ShowNotices(TakeTold()); }
     void ReadHtml();
     void ReadSymbols();
+    void NoteId(const std::shared_ptr<clsSymbolData>& symbol);
     void TellUnknown(const std::vector<String>& cells);
     void FitFont(clsSymbolData& symbol);
+    String FontInstead() const;
     void LoadAsset(clsSymbolData& symbol);
     void ChooseFile(clsSymbolData& symbol);
     void ReadReferences();
     std::shared_ptr<clsSymbolData> TakeReference();
+    void SeparateIds();
     void ReadLayers(Collection<clsLayer>& layers);
+    std::shared_ptr<clsLayer> ReadLayer();
+    std::shared_ptr<clsLayer> ReadAmbiguous(
+        const std::vector<std::shared_ptr<clsSymbolData>>& symbols);
+    std::shared_ptr<clsLayer> ReadLayerOf(const std::shared_ptr<clsSymbolData>& symbol);
     void CheckNesting() const;
     /// `done` of `total` items of a phase, told to the user a hundred times at most.
     static void ShowProgress(Long done, Long total);
@@ -100,7 +109,10 @@ private:
     Notices told_;
     /// Words of unknown kinds that were told.
     std::set<String> unknownWords_;
-    std::unordered_map<Long, std::shared_ptr<clsSymbolData>> byId_;
+    /// Fonts that were looked for, and what stands for those that are not available.
+    std::unordered_map<String, String> fontsFor_;
+    /// By the numbers of the file, of which rows tell. The first of a kind only.
+    std::unordered_map<Long, std::vector<std::shared_ptr<clsSymbolData>>> byId_;
 };
 
 Project Reader::Read(Notices told) {
@@ -113,6 +125,7 @@ Project Reader::Read(Notices told) {
     AskForVersion();
     ReadHtml();
     ReadSymbols();
+    SeparateIds();
     FitSymbolCounts(*project_.colSymbol);
     NestSymbols(*project_.colSymbol);
     ReadReferences();
@@ -191,10 +204,29 @@ void Reader::ReadSymbols() {
             default:
                 break;
         }
-        // No layer shows a folder, whatever number it has.
-        if (symbol->ID > 0 && symbol->eType() != KindSymbolFolder)
-            byId_.emplace(symbol->ID, symbol);
+        NoteId(symbol);
         project_.colSymbol->Add(std::move(symbol));
+    }
+}
+
+void Reader::NoteId(const std::shared_ptr<clsSymbolData>& symbol) {
+    // No layer shows a folder, whatever number it has.
+    if (symbol->ID < 1 || !HasNumber(*symbol)) return;
+    auto& same = byId_[symbol->ID];
+    const auto ofKind = [&symbol](const auto& other) { return other->eType() == symbol->eType(); };
+    if (std::none_of(same.begin(), same.end(), ofKind)) same.push_back(symbol);
+}
+
+/// Gives free numbers to the symbols whose number stands before.
+void Reader::SeparateIds() {
+    SymbolIds ids(*project_.colSymbol);
+    std::unordered_set<Long> seen;
+    bool told = false;
+    for (const auto& symbol : *project_.colSymbol) {
+        if (symbol->ID < 1 || !HasNumber(*symbol) || seen.insert(symbol->ID).second) continue;
+        if (!told) told_.push_back({u"重複しているIDを、\r\n空いているIDへ変更します。"});
+        told = true;
+        ids.Change(*symbol, ids.Free());
     }
 }
 
@@ -205,13 +237,23 @@ void Reader::TellUnknown(const std::vector<String>& cells) {
         {u"「" + word + u"」は不明な種類のシンボルです。\r\n内容はそのまま保存されます。"});
 }
 
+String Reader::FontInstead() const {
+    const String font = assets_.DefaultFont();
+    return assets_.FontAvailable(font) ? font : String(LastFont);
+}
+
 void Reader::FitFont(clsSymbolData& symbol) {
-    auto& text = *symbol.Property<clsPropertyText>();
-    if (text.FontName.starts_with(u'_') || assets_.FontAvailable(text.FontName)) return;
-    const String other = assets_.DefaultFont();
-    told_.push_back(
-        {u"「" + text.FontName + u"」が見つかりません。\r\n「" + other + u"」へ変更します。"});
-    text.FontName = other;
+    String& name = symbol.Property<clsPropertyText>()->FontName;
+    if (name.starts_with(u'_')) return;
+    const auto [known, isNew] = fontsFor_.try_emplace(name, name);
+    if (isNew && !assets_.FontAvailable(name)) {
+        known->second = FontInstead();
+        // A substitute takes the place of the last one as a matter of course.
+        if (name != known->second || !assets_.SubstituteAvailable())
+            told_.push_back({u"「" + name + u"」が見つかりません。\r\n「" + known->second +
+                             u"」へ変更します。"});
+    }
+    name = known->second;
 }
 
 void Reader::ChooseFile(clsSymbolData& symbol) {
@@ -265,22 +307,56 @@ void Reader::ReadReferences() {
     }
 }
 
+/// The rows from `first` to the cursor have as many cells as the layer writes.
+bool IsAsWritten(const clsLayer& layer, const clsCSV& csv, Long first) {
+    clsCSV written;
+    layer.Save(written);
+    if (written.Y() != csv.Y() - first) return false;
+    for (Long row = 0; row < written.Y(); ++row)
+        if (written.RowLength(row) != csv.RowLength(first + row)) return false;
+    return true;
+}
+
+/// The cursor stands behind the number.
+std::shared_ptr<clsLayer> Reader::ReadLayerOf(const std::shared_ptr<clsSymbolData>& symbol) {
+    auto layer = std::make_shared<clsLayer>();
+    layer->SymbolData(symbol);
+    layer->Load(csv_);
+    return layer;
+}
+
+/// Of symbols with one number, the rows mean the first whose kind has such cells, else the first.
+std::shared_ptr<clsLayer> Reader::ReadAmbiguous(
+    const std::vector<std::shared_ptr<clsSymbolData>>& symbols) {
+    const Long x = csv_.X();
+    const Long y = csv_.Y();
+    for (const auto& symbol : symbols) {
+        try {
+            auto layer = ReadLayerOf(symbol);
+            if (IsAsWritten(*layer, csv_, y)) return layer;
+        } catch (const RuntimeError&) {
+            // The cells are those of another kind.
+        }
+        csv_.SetPosition(x, y);
+    }
+    return ReadLayerOf(symbols.front());
+}
+
+std::shared_ptr<clsLayer> Reader::ReadLayer() {
+    const Long id = csv_.TakeLong();
+    if (id < 1) return ReadLayerOf(std::make_shared<clsSymbolData>(HeadKind(id)));
+    const auto found = byId_.find(id);
+    if (found == byId_.end()) RaiseDamaged();
+    return found->second.size() == 1 ? ReadLayerOf(found->second.front())
+                                     : ReadAmbiguous(found->second);
+}
+
 void Reader::ReadLayers(Collection<clsLayer>& layers) {
     const Long count = csv_.TakeLong();
     csv_.CrLf();
     for (Long i = 1; i <= count; ++i) {
         ShowProgress(i, count);
-        const Long id = csv_.TakeLong();
-        auto layer = std::make_shared<clsLayer>();
-        if (id > 0) {
-            const auto found = byId_.find(id);
-            if (found == byId_.end()) RaiseDamaged();
-            layer->SymbolData(found->second);
-        } else {
-            layer->SymbolData(std::make_shared<clsSymbolData>(HeadKind(id)));
-        }
-        layer->Load(csv_);
-        layers.Add(std::move(layer));
+        layers.Add(ReadLayer());
     }
     FitLayerCounts(layers);
     NestLayers(layers);
@@ -357,7 +433,7 @@ ProjectLoad LoadProjectBytes(ByteView bytes, StringView path, Project& out,
                              const ProjectAssets& assets, std::optional<Long> importInto) {
     const ProjectFileVersionScope version(NewestProjectFileVersion);
     clsCSV csv;
-    Reader reader(csv, GetFileFolder(AbsolutePath(path)), assets, importInto);
+    Reader reader(csv, FolderOfFile(path), assets, importInto);
     try {
         Notices told;
         if (!ReadHead(bytes, csv, told)) return Damaged({});

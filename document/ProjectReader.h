@@ -8,6 +8,9 @@
 
 namespace tamber {
 
+/// Font where even the default one is not available.
+inline constexpr StringView LastFont = u"ＭＳ ゴシック";
+
 /// What reads the files that a project refers to.
 class ProjectAssets {
 public:
@@ -17,8 +20,10 @@ public:
     /// nothing of it. False when it cannot be read. What there is to tell goes into `told`.
     virtual bool LoadFile(clsSymbolData& symbol, Notices& told) const = 0;
     virtual bool FontAvailable(StringView name) const = 0;
-    /// Font for texts whose own is not available.
+    /// Font for texts whose own is not available; it need not be available itself.
     virtual String DefaultFont() const = 0;
+    /// Texts of a font that is not available are drawn with a face that is meant for that.
+    virtual bool SubstituteAvailable() const = 0;
     /// Works out the box of a text whose record is complete.
     virtual void SetTextSize(clsSymbolData& symbol) const = 0;
 };

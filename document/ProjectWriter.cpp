@@ -81,14 +81,15 @@ void SaveProjectCells(clsCSV& csv, const Project& project, StringView baseDir) {
 
 bool SaveProject(StringView path, const Project& project, RuntimeError* why) {
     try {
-        const String folder = GetFileFolder(AbsolutePath(path));
+        const String folder = FolderOfFile(path);
         clsCSV csv;
         SaveProjectCells(csv, project, folder);
         const Bytes bytes = EncodeProjectText(csv, EqualsNoCase(GetFileExt(path), u"kvfz"));
-        if ((!folder.empty() && !FolderExists(folder) && !MakeFolders(folder)) ||
-            !WriteFileBytes(bytes, path))
-            throw RuntimeError(ErrorPathFileAccess, u"SaveProject", String(path));
-        return true;
+        const bool hasFolder = folder.empty() || FolderExists(folder) || MakeFolders(folder);
+        if (hasFolder && WriteFileBytes(bytes, path)) return true;
+        throw RuntimeError(
+            ErrorPathFileAccess, u"SaveProject",
+            String(path) + u"\r\n" + (hasFolder ? WriteFault() : u"フォルダを作成できません。"));
     } catch (const RuntimeError& error) {
         if (why != nullptr) *why = error;
     } catch (const std::bad_alloc&) {

@@ -22,8 +22,6 @@ namespace tamber {
 
 namespace {
 
-constexpr StringView SubstituteFont = u"ＭＳ ゴシック";
-
 /// Which of so many rows are chosen.
 std::vector<bool> ChosenOf(const std::optional<std::vector<Long>>& choice, Long count) {
     std::vector<bool> chosen(static_cast<std::size_t>(count) + 1, !choice);
@@ -96,13 +94,13 @@ void ProjectImport::ReplaceFonts() const {
     std::set<String> told;
     for (const auto& symbol : symbols_) {
         auto* text = symbol->Property<clsPropertyText>();
-        if (text == nullptr || text->FontName.starts_with(u'_') ||
-            text->FontName == SubstituteFont || assets_.FontAvailable(text->FontName))
+        if (text == nullptr || text->FontName.starts_with(u'_') || text->FontName == LastFont ||
+            assets_.FontAvailable(text->FontName))
             continue;
         if (told.insert(text->FontName).second)
-            ShowMessage(u"「" + text->FontName + u"」が見つかりません。\r\n「" +
-                        String(SubstituteFont) + u"」へ変更します。");
-        text->FontName = SubstituteFont;
+            ShowMessage(u"「" + text->FontName + u"」が見つかりません。\r\n「" + String(LastFont) +
+                        u"」へ変更します。");
+        text->FontName = LastFont;
         assets_.SetTextSize(*symbol);
     }
 }

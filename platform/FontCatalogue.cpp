@@ -139,6 +139,10 @@ bool FontCatalogue::Has(StringView family) const {
     return families_.contains(FoldCase(family));
 }
 
+bool FontCatalogue::HasSubstitute() const {
+    return std::ranges::any_of(Substitutes, [this](StringView name) { return Has(name); });
+}
+
 std::vector<FaceChoice> FontCatalogue::Choices(const LogFont& font) const {
     std::vector<FaceChoice> choices;
     const auto addFamily = [&](StringView name) {

@@ -43,6 +43,8 @@ public:
     bool Refresh();
 
     bool Has(StringView family) const;
+    /// A face of one of the substitutes is there.
+    bool HasSubstitute() const;
     /// Faces for a font, the best first: of the family, of each substitute, then any other.
     std::vector<FaceChoice> Choices(const LogFont& font) const;
     std::vector<String> ShownFamilies(bool japaneseOnly) const;

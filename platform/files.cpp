@@ -1,14 +1,17 @@
 #include "platform/files.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 #include "platform/codepage.h"
 #include "platform/paths.h"
@@ -103,8 +106,96 @@ bool IsProtected(const std::string& target) {
 }
 
 /// Pattern of a temporary name; short, since the target's own may be as long as names can be.
-std::string TemporaryBeside(const std::string& target) {
-    return (std::filesystem::path(target).parent_path() / ".tamber-XXXXXX").string();
+constexpr std::string_view TemporaryName = ".tamber-XXXXXX";
+constexpr std::size_t TemporaryDigits = 6;
+
+bool IsTemporaryName(std::string_view name) {
+    const std::string_view head = TemporaryName.substr(0, TemporaryName.size() - TemporaryDigits);
+    return name.size() == TemporaryName.size() && name.starts_with(head);
+}
+
+/// Creates the file that shall take the place of `target` and locks it, so that it counts as
+/// nobody's leftover. `path` gets its name.
+int CreateBeside(const std::string& target, std::string& path) {
+    for (;;) {
+        path = (std::filesystem::path(target).parent_path() / TemporaryName).string();
+        const int descriptor = mkostemp(path.data(), O_CLOEXEC);
+        struct stat info {};
+        if (descriptor < 0 || flock(descriptor, LOCK_EX) != 0 || fstat(descriptor, &info) != 0 ||
+            info.st_nlink > 0)
+            return descriptor;
+        // Taken for a leftover before it was locked.
+        close(descriptor);
+    }
+}
+
+/// Removes what saves that were killed left in the folder of `target`. Files of saves under way are
+/// locked.
+void RemoveLeftovers(const std::string& target) {
+    const std::filesystem::path folder = std::filesystem::path(target).parent_path();
+    std::error_code error;
+    std::filesystem::directory_iterator entry(folder.empty() ? "." : folder, error);
+    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+        const std::filesystem::path& path = entry->path();
+        if (!IsTemporaryName(path.filename().native())) continue;
+        const FileHandle file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
+        if (file.Ok() && flock(file.Descriptor(), LOCK_EX | LOCK_NB) == 0)
+            (void)unlink(path.c_str());
+    }
+}
+
+/// What the user reads for an error of the system.
+StringView CauseOf(int error) {
+    switch (error) {
+        case ENOSPC:
+        case EDQUOT:
+            return u"ディスクの空き容量が足りません。";
+        case EACCES:
+        case EPERM:
+        case EROFS:
+            return u"書き込みが許可されていません。";
+        case ENOENT:
+        case ENOTDIR:
+            return u"フォルダが見つかりません。";
+        case EISDIR:
+            return u"同じ名前のフォルダがあります。";
+        case ENAMETOOLONG:
+            return u"名前が長すぎます。";
+        case EFBIG:
+            return u"ファイルが大きすぎます。";
+        case EEXIST:
+            return u"同じ名前のファイルがあります。";
+        default:
+            return u"書き込み中にエラーが発生しました。";
+    }
+}
+
+String& LastFault() {
+    thread_local String fault;
+    return fault;
+}
+
+/// False with `errno`, which the caller has set to 0, when it does not succeed.
+bool WriteWhole(ByteView bytes, const std::string& target) {
+    if (IsDevice(target)) return WriteThrough(bytes, target);
+    if (IsProtected(target)) return false;
+    errno = 0;
+    std::string beside;
+    if (!StepAllowed()) return false;
+    FileHandle file(CreateBeside(target, beside));
+    if (!file.Ok()) return false;
+    const bool written = FillFile(file.Descriptor(), bytes, target) && StepAllowed() &&
+                         file.Close() && StepAllowed() &&
+                         std::rename(beside.c_str(), target.c_str()) == 0;
+    if (!written) {
+        const int error = errno;
+        (void)unlink(beside.c_str());
+        errno = error;
+        return false;
+    }
+    FlushFolder(target);
+    RemoveLeftovers(target);
+    return true;
 }
 
 }  // namespace
@@ -154,23 +245,15 @@ std::size_t ReadFileHead(std::span<Byte> bytes, StringView path) {
 }
 
 bool WriteFileBytes(ByteView bytes, StringView path, bool replace) {
-    if (path.empty() || (!replace && FileExists(path))) return false;
     const std::string target = FollowLinks(ToNarrow(path));
-    if (IsDevice(target)) return WriteThrough(bytes, target);
-    if (IsProtected(target)) return false;
-    std::string beside = TemporaryBeside(target);
-    if (!StepAllowed()) return false;
-    FileHandle file(mkostemp(beside.data(), O_CLOEXEC));
-    if (!file.Ok()) return false;
-    const bool written = FillFile(file.Descriptor(), bytes, target) && StepAllowed() &&
-                         file.Close() && StepAllowed() &&
-                         std::rename(beside.c_str(), target.c_str()) == 0;
-    if (!written) {
-        (void)unlink(beside.c_str());
-        return false;
-    }
-    FlushFolder(target);
-    return true;
+    errno = path.empty() ? ENOENT : !replace && FileExists(path) ? EEXIST : 0;
+    const bool written = errno == 0 && WriteWhole(bytes, target);
+    LastFault() = written ? StringView() : CauseOf(errno);
+    return written;
+}
+
+String WriteFault() {
+    return LastFault();
 }
 
 bool DeleteFile(StringView path) {

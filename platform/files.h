@@ -20,8 +20,11 @@ std::size_t ReadFileHead(std::span<Byte> bytes, StringView path);
 /// Puts a whole new file at `path`: the bytes go into a file beside it, are flushed, and take the
 /// name in one step. False leaves an earlier file as it was and nothing beside it. With `replace`
 /// false an existing file is left and the result is false. A link is followed; a device or pipe is
-/// written to as it stands; a file without permission to write stays.
+/// written to as it stands; a file without permission to write stays. What a write that was killed
+/// left in the folder is removed.
 bool WriteFileBytes(ByteView bytes, StringView path, bool replace = true);
+/// Why the last write of this thread failed, in words for the user; empty when it did not.
+String WriteFault();
 
 /// Removes a file. False when it is not there or stays.
 bool DeleteFile(StringView path);

@@ -130,6 +130,10 @@ bool FontInstalled(StringView name) {
     return LockedLibrary()->Catalogue().Has(name);
 }
 
+bool SubstituteInstalled() {
+    return LockedLibrary()->Catalogue().HasSubstitute();
+}
+
 std::vector<String> InstalledFonts(bool japaneseOnly) {
     return LockedLibrary()->Catalogue().ShownFamilies(japaneseOnly);
 }

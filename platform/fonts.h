@@ -72,6 +72,9 @@ bool GetCharOutline(GlyphOutlineRecord& record, char16_t character, const LogFon
 /// A face of exactly this name, in any of its languages and letter case, is installed.
 bool FontInstalled(StringView name);
 
+/// A face that is taken before all others for fonts that are not installed is.
+bool SubstituteInstalled();
+
 /// Names of the installed faces, each once and sorted: that in Japanese where a face has one. With
 /// `japaneseOnly` only of faces that hold Japanese text. Never empty.
 std::vector<String> InstalledFonts(bool japaneseOnly);

@@ -1,5 +1,6 @@
 #include "platform/paths.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <string_view>
@@ -34,6 +35,61 @@ std::vector<StringView> Segments(StringView path) {
         path.remove_prefix(end + 1);
     }
     return segments;
+}
+
+bool IsLink(StringView path) {
+    std::error_code error;
+    return fs::is_symlink(Native(path), error);
+}
+
+/// `path` with each link followed; as it is when it leads nowhere.
+String Canonical(StringView path) {
+    std::error_code error;
+    const fs::path target = fs::canonical(Native(path), error);
+    return error ? String(path) : FromNarrow(target.string());
+}
+
+/// `path` one level up, which for a link is where the link leads.
+void Climb(String& path) {
+    if (IsLink(path)) path = Canonical(path);
+    const std::size_t last = path.rfind(PathSeparator);
+    path.resize(last == String::npos ? 0 : std::max<std::size_t>(last, path[0] == PathSeparator));
+}
+
+/// `path` without "." and "..".
+String Resolved(StringView path) {
+    const bool rooted = path.starts_with(PathSeparator);
+    String result = rooted ? String(1, PathSeparator) : String();
+    for (const StringView segment : Segments(path)) {
+        if (segment == u".") continue;
+        if (segment == u".." && (rooted || (!result.empty() && GetFileName(result) != u"..")))
+            Climb(result);
+        else
+            result = JoinPath(result, segment);
+    }
+    return result;
+}
+
+/// How many folders of `base` lead to `path`, too.
+std::size_t CommonSegments(StringView base, StringView path) {
+    const std::vector<StringView> from = Segments(base);
+    const std::vector<StringView> to = Segments(path);
+    std::size_t common = 0;
+    while (common < from.size() && common + 1 < to.size() && from[common] == to[common]) ++common;
+    return common;
+}
+
+/// One of the folders of `path` behind the first `passed` is a link.
+bool HasLink(StringView path, std::size_t passed) {
+    String folder(1, PathSeparator);
+    for (const StringView segment : Segments(path)) {
+        folder = JoinPath(folder, segment);
+        if (passed > 0)
+            --passed;
+        else if (IsLink(folder))
+            return true;
+    }
+    return false;
 }
 
 std::string_view Environment(const char* name) {
@@ -104,12 +160,15 @@ String MakeRelativePath(StringView base, StringView path) {
     const bool rooted = !base.empty() && !path.empty() && base.front() == PathSeparator &&
                         path.front() == PathSeparator;
     if (!rooted) return String(path);
-    const std::vector<StringView> from = Segments(base);
+    const std::size_t common = CommonSegments(base, path);
+    String from(base);
+    if (HasLink(from, common)) {
+        const String real = Canonical(from);
+        return real == from ? String(path) : MakeRelativePath(real, path);
+    }
     const std::vector<StringView> to = Segments(path);
-    std::size_t common = 0;
-    while (common < from.size() && common + 1 < to.size() && from[common] == to[common]) ++common;
     String relative;
-    for (std::size_t i = common; i < from.size(); ++i)
+    for (std::size_t i = common; i < Segments(base).size(); ++i)
         relative.append(u"..").append(1, PathSeparator);
     for (std::size_t i = common; i < to.size(); ++i) {
         if (i > common) relative += PathSeparator;
@@ -123,28 +182,20 @@ String NormalizePath(StringView path) {
     const String here = String(1, PathSeparator) + u"." + PathSeparator;
     if (path.find(up) == StringView::npos && path.find(here) == StringView::npos)
         return String(path);
-    const bool rooted = path.front() == PathSeparator;
-    std::vector<StringView> kept;
-    for (const StringView segment : Segments(path)) {
-        if (segment == u".") continue;
-        const bool climbs = segment == u"..";
-        if (climbs && !kept.empty() && kept.back() != u"..")
-            kept.pop_back();
-        else if (!climbs || !rooted)
-            kept.push_back(segment);
-    }
-    String result = rooted ? String(1, PathSeparator) : String();
-    for (std::size_t i = 0; i < kept.size(); ++i) {
-        if (i > 0) result += PathSeparator;
-        result.append(kept[i]);
-    }
-    return result;
+    return Resolved(path);
 }
 
 String AbsolutePath(StringView path) {
     std::error_code error;
     const fs::path absolute = fs::absolute(Native(path), error);
-    return error ? String(path) : FromNarrow(absolute.lexically_normal().string());
+    if (error) return String(path);
+    const String resolved = Resolved(FromNarrow(absolute.string()));
+    return path.ends_with(PathSeparator) ? JoinPath(resolved, u"") : resolved;
+}
+
+String FolderOfFile(StringView path) {
+    const String file = AbsolutePath(path);
+    return GetFileFolder(IsLink(file) ? Canonical(file) : file);
 }
 
 String PathToCell(StringView path) {

@@ -30,13 +30,17 @@ String JoinPath(StringView folder, StringView name);
 
 /// Creates each missing level of a folder path. False when one cannot be made.
 bool MakeFolders(StringView path);
-/// Path of `path` as seen from the folder `base`; `path` as it stands when there is no relative
-/// one.
+/// Path of `path` as seen from the folder `base`, its ".." climbing from where links lead; `path`
+/// as it stands when there is no relative one.
 String MakeRelativePath(StringView base, StringView path);
-/// Resolves "." and ".." segments, only when the path holds any; letter case stays.
+/// Resolves "." and ".." segments, only when the path holds any; letter case stays. Behind a link
+/// ".." means the folder above the one the link leads to.
 String NormalizePath(StringView path);
-/// `path` made absolute against the working folder.
+/// `path` made absolute against the working folder, its "." and ".." resolved. One that ends in a
+/// separator, which no file does, still does.
 String AbsolutePath(StringView path);
+/// Folder of a file; of a link to a file, that of the file.
+String FolderOfFile(StringView path);
 
 /// A path as files hold it ("\" as separator), from the platform's form, and back. A drive path
 /// ("c:\...") stays as it stands on platforms without drives.

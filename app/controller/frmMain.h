@@ -80,7 +80,8 @@ public:
     /// Names of the classes that the script editor offers.
     const std::vector<String>& ClassNames() const { return classNames_; }
     void ClassNames(std::vector<String> names) { classNames_ = std::move(names); }
-    /// Opened and saved projects enter the list of recent files.
+    /// Opened and saved projects enter the list of recent files, and page settings that came with
+    /// one the settings file.
     void blRecentFiles(bool on) { session_.blRecentFiles = on; }
     /// Title of the window: program, version, and the open project's file name.
     String Caption() const;

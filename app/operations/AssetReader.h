@@ -19,6 +19,7 @@ public:
     bool LoadFile(clsSymbolData& symbol, Notices& told) const override;
     bool FontAvailable(StringView name) const override { return FontInstalled(name); }
     String DefaultFont() const override;
+    bool SubstituteAvailable() const override { return SubstituteInstalled(); }
     void SetTextSize(clsSymbolData& symbol) const override;
 
 private:

@@ -44,6 +44,39 @@ HtmlSettings HtmlSection() {
     return html;
 }
 
+void HtmlSection(const HtmlSettings& html, bool kept) {
+    namespace settings = mdlPrivateProfile;
+    const auto set = [kept](const auto& key, const auto& value, StringView text) {
+        if (kept)
+            key(value);
+        else
+            settings::SettingsOverride(String(key.Section) + u"." + String(key.Key) + u"=" +
+                                       String(text));
+    };
+    const auto setText = [&set](const settings::TextKey& key, const String& value) {
+        set(key, value, value);
+    };
+    const auto setFlag = [&set](const settings::FlagKey& key, bool value) {
+        set(key, value, value ? u"1" : u"0");
+    };
+    const auto setNumber = [&set](const settings::NumberKey& key, const String& text) {
+        const Long value = LeadingNumber(text);
+        set(key, value, ToText(value));
+    };
+    setText(settings::HTML_SizeUnit, html.SizeUnit);
+    setNumber(settings::HTML_WIDTH, html.WIDTH);
+    setNumber(settings::HTML_HEIGHT, html.HEIGHT);
+    setText(settings::HTML_align, html.align);
+    setText(settings::HTML_salign, html.salign);
+    setFlag(settings::HTML_play, html.play);
+    setFlag(settings::HTML_loop, html.loop);
+    setFlag(settings::HTML_menu, html.menu);
+    setText(settings::HTML_quality, html.quality);
+    setText(settings::HTML_wmode, html.wmode);
+    setText(settings::HTML_scale, html.scale);
+    setFlag(settings::HTML_NamedAnchors, html.NamedAnchors);
+}
+
 bool WriteMoviePage(StringView moviePath, MoviePage page) {
     Bytes bytes;
     if (!ReadFileBytes(JoinPath(ProgramFolder(), u"template.txt"), bytes)) {
@@ -58,8 +91,8 @@ bool WriteMoviePage(StringView moviePath, MoviePage page) {
     const String folder = GetFileFolder(moviePath);
     const String path = JoinPath(folder, GetFileBase(moviePath) + u".html");
     if (!WriteFileBytes(EncodeAnsi(text), path)) {
-        ShowMessage(path + u"\r\n\r\nファイルに書き込めませんでした。", ProgramTitle,
-                    MessageIcon::Error);
+        ShowMessage(path + u"\r\n\r\nファイルに書き込めませんでした。\r\n" + WriteFault(),
+                    ProgramTitle, MessageIcon::Error);
         return false;
     }
     if (page.blPlayer) ProvidePlayer(folder);

@@ -110,7 +110,6 @@ bool ProjectOperations::New() {
     session_.ProjectFileName.clear();
     session_.ProjectDir.clear();
     CloseProject();
-    session_.inProject.Html.reset();
     Begin();
     return true;
 }
@@ -121,6 +120,7 @@ bool ProjectOperations::Open(StringView path) {
     if (chosen.empty()) return false;
     Project opened = session_.inProject;
     if (!ShowLoad(LoadProject(chosen, opened, session_.Assets()))) return false;
+    TakePageSettings(opened);
     CloseProject();
     session_.inProject = std::move(opened);
     session_.ProjectFileName = chosen;
@@ -161,17 +161,18 @@ bool ProjectOperations::SaveCopy(StringView path) {
         TellInUse(path);
         return false;
     }
-    // Settings of the page that the file brought along go before those of the program.
     Project saved = session_.inProject;
-    if (!mdlPrivateProfile::flgHTMLtoProject())
-        saved.Html.reset();
-    else if (!saved.Html)
-        saved.Html = HtmlSection();
+    if (mdlPrivateProfile::flgHTMLtoProject()) saved.Html = HtmlSection();
     RuntimeError why(0, u"", u"");
     if (SaveProject(path, saved, &why)) return true;
     ShowMessage(u"保存できませんでした。\r\n\r\n「Number： " + ToText(why.Number) + u"\r\n" +
                 why.Description + u"」");
     return false;
+}
+
+void ProjectOperations::TakePageSettings(Project& read) const {
+    if (read.Html) HtmlSection(*read.Html, session_.blRecentFiles);
+    read.Html.reset();
 }
 
 void ProjectOperations::AddRecentFile(StringView path) const {
@@ -190,6 +191,7 @@ bool ProjectOperations::Import(StringView path, const ChooseImport& choose) {
     Project& project = session_.inProject;
     if (!ShowLoad(LoadProject(chosen, incoming, session_.Assets(), project.SWFVersion)))
         return false;
+    TakePageSettings(incoming);
     if (!choose(incoming, options)) return false;
     Collection<clsLayer> rows =
         ProjectImport(project, std::move(incoming), std::move(options), session_.Assets()).Run();
@@ -280,7 +282,7 @@ bool ProjectOperations::Author(StringView path) {
     request.Layers = project.colMainLayer.get();
     request.Fonts = RefreshFontAdmin(*project.colSymbol, project.SWFVersion);
     request.Path = path;
-    request.ProjectFolder = GetFileFolder(session_.ProjectFileName);
+    request.ProjectFolder = FolderOfFile(session_.ProjectFileName);
     request.blProgress = true;
     request.blCompress = mdlPrivateProfile::flgSWFCompress();
     request.blTopToBottom = mdlPrivateProfile::flgTopToBottom();
@@ -304,7 +306,7 @@ void ProjectOperations::WritePage(StringView moviePath, StringView anchors) cons
     page.Width = project.MainWidth;
     page.Height = project.MainHeight;
     page.Version = project.SWFVersion;
-    page.Settings = project.Html ? *project.Html : HtmlSection();
+    page.Settings = HtmlSection();
     while (!anchors.empty()) {
         anchors.remove_prefix(1);
         const std::size_t end = std::min(anchors.find(u'\t'), anchors.size());

@@ -54,6 +54,8 @@ private:
     void ShowProject();
     bool IsTimeline(Long index) const;
     bool IsSource(StringView path) const;
+    /// Those that came with a file become the program's own.
+    void TakePageSettings(Project& read) const;
     void AddRecentFile(StringView path) const;
     void WritePage(StringView moviePath, StringView anchors) const;
 

@@ -34,7 +34,8 @@ public:
     /// Work since the last save that counts of steps do not tell: changes of the library and of the
     /// stage, and a step in place of undone ones among which the saved state was.
     bool blUncountedWork = false;
-    /// Opened and saved projects enter the list of recent files.
+    /// Opened and saved projects enter the list of recent files, and page settings that came with
+    /// one the settings file.
     bool blRecentFiles = false;
 
     explicit Session(std::unique_ptr<ProjectAssets> assets) : assets_(std::move(assets)) {}

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/files.h"
 #include "platform/text.h"
 #include "swf/authoring/Authoring.h"
 #include "swf/authoring/MovieLimits.h"
@@ -79,7 +80,8 @@ MovieOutcome BuildMovie(const MovieRequest& request) {
         Refuse(outcome, u"シンボル数が多すぎます。\r\nSWFファイルは" + ToText(MaxIdentifiers) +
                             u"までです。");
     else if (!(outcome.Written = admin.Save(request.Path, outcome.Told)))
-        Refuse(outcome, request.Path + u"\r\n\r\nファイルに書き込めませんでした。");
+        Refuse(outcome,
+               request.Path + u"\r\n\r\nファイルに書き込めませんでした。\r\n" + WriteFault());
     return outcome;
 }
 

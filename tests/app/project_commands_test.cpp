@@ -1,5 +1,6 @@
 #include "app/settings/mdlPrivateProfile.h"
 #include "document/elements/clsObjBackGround.h"
+#include "platform/codepage.h"
 #include "platform/files.h"
 #include "tests/support/ControllerTest.h"
 
@@ -231,6 +232,25 @@ TEST_F(ProjectCommands, a_step_in_another_timeline_leaves_the_buttons_of_the_sho
     main_.ChangeSprite(outer);
     EXPECT_TRUE(main_.colEditLayer()->Empty());
     EXPECT_TRUE(main_.CanUndo());
+}
+
+TEST_F(ProjectCommands, page_settings_of_a_file_become_those_of_the_program) {
+    namespace settings = mdlPrivateProfile;
+    const auto write = [this](StringView width) {
+        const String text = u"KVF,0,9,0\r\n1,1,1,8\r\nHTML,pixel," + String(width) +
+                            u",0,,,False,True,False,high,,,True\r\n0\r\n0\r\n";
+        ASSERT_TRUE(WriteFileBytes(EncodeAnsi(text), Path(u"a.kvf")));
+        ASSERT_TRUE(main_.OpenProject(Path(u"a.kvf")));
+    };
+    write(u"7");
+    EXPECT_EQ(settings::HTML_WIDTH(), 7);
+    EXPECT_FALSE(settings::HTML_play());
+    EXPECT_FALSE(FileExists(Path(u"app.ini")));
+    main_.blRecentFiles(true);
+    write(u"8");
+    Bytes kept;
+    EXPECT_TRUE(ReadFileBytes(Path(u"app.ini"), kept));
+    EXPECT_NE(DecodeAnsi(kept).find(u"WIDTH=8"), String::npos);
 }
 
 TEST_F(ProjectCommands, recent_files_move_to_the_front_without_case) {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 
 #include "document/ProjectReader.h"
@@ -52,7 +53,8 @@ public:
 class FakeAssets : public ProjectAssets {
 public:
     bool Readable = true;
-    bool HasFonts = true;
+    std::vector<String> Missing;
+    bool HasSubstitute = false;
 
     bool LoadFile(clsSymbolData& symbol, Notices&) const override {
         if (auto* picture = symbol.Property<clsPropertyBmp>()) {
@@ -61,8 +63,11 @@ public:
         }
         return Readable;
     }
-    bool FontAvailable(StringView) const override { return HasFonts; }
-    String DefaultFont() const override { return u"ＭＳ ゴシック"; }
+    bool FontAvailable(StringView name) const override {
+        return std::find(Missing.begin(), Missing.end(), name) == Missing.end();
+    }
+    String DefaultFont() const override { return u"Default"; }
+    bool SubstituteAvailable() const override { return HasSubstitute; }
     void SetTextSize(clsSymbolData&) const override {}
 };
 
@@ -325,8 +330,9 @@ TEST_F(ProjectFile, TakesTheMinorVersionAsTwoHexadecimalDigits) {
 String ProjectOfTexts(std::initializer_list<StringView> texts) {
     String symbols;
     String references;
+    Long id = 0;
     for (const StringView text : texts) {
-        symbols += u"1,,ﾃｷｽﾄ,,,," + String(text) +
+        symbols += ToText(++id) + u",,ﾃｷｽﾄ,,,," + String(text) +
                    u",,Font,1,2,3,0,0,False,True,1,2,3,0,True,False,False,0,0,1,1,True,False,False,"
                    u"1\r\n";
         references += u"0\r\n";
@@ -438,6 +444,26 @@ TEST_F(ProjectFile, FindsFilesByNamesOfAnotherForm) {
               JoinPath(folder_, u"s.MP3") + u"\r\n\r\nファイルが見つかりません。");
 }
 
+TEST_F(ProjectFile, RowsOfANumberHeldTwiceShowTheSymbolOfTheirKind) {
+    const String sprite = u"3,,ｽﾌﾟﾗｲﾄ,,,,A,0,0,0,0,False,0,0,0,0\r\n";
+    const String button = u"3,,ﾎﾞﾀﾝ,,,,B,True\r\n";
+    const String spriteCells = plainPlacement + u",True,loop,False,5,Random,False,12,spin,";
+    Project project;
+    ASSERT_TRUE(Load(u"KVF,0,9,0\r\n1,1,1,8\r\n4\r\n1,,空動画,,,,E,3,4\r\n" + sprite + button +
+                         sprite + u"0,0,0,0\r\n0\r\n0\r\n2\r\n" +
+                         LayerRows(u"3", plainPlacement, u"rollout,") +
+                         LayerRows(u"3", spriteCells),
+                     project));
+    ASSERT_EQ(ui_.Messages.size(), 1U);
+    EXPECT_EQ(ui_.Messages[0].first, u"重複しているIDを、\r\n空いているIDへ変更します。");
+    const auto& symbols = *project.colSymbol;
+    EXPECT_EQ(symbols(2)->ID, 3);
+    EXPECT_EQ(symbols(3)->ID, 2);
+    EXPECT_EQ(symbols(4)->ID, 4);
+    EXPECT_EQ((*project.colMainLayer)(1)->SymbolData(), symbols(3));
+    EXPECT_EQ((*project.colMainLayer)(2)->SymbolData(), symbols(2));
+}
+
 TEST_F(ProjectFile, AsksForAMissingFile) {
     const String text =
         u"KVF,0,9,0\r\n1,1,1,8\r\n1\r\n"
@@ -461,15 +487,49 @@ TEST_F(ProjectFile, AsksForAMissingFile) {
     EXPECT_EQ(ui_.Messages[1].second, u"読み込みエラー");
 }
 
-TEST_F(ProjectFile, ReplacesAFontThatIsNotAvailable) {
-    assets_.HasFonts = false;
-    Project project;
-    ASSERT_TRUE(Load(WholeProject(), project));
-    ASSERT_EQ(ui_.Messages.size(), 1U);
-    EXPECT_EQ(ui_.Messages[0].first,
-              u"「Font」が見つかりません。\r\n「ＭＳ ゴシック」へ変更します。");
-    EXPECT_EQ((*project.colSymbol)(2)->Property<clsPropertyText>()->FontName, u"ＭＳ ゴシック");
-    EXPECT_EQ((*project.colSymbol)(3)->Property<clsPropertyText>()->FontName, u"_sans");
+TEST_F(ProjectFile, TellsOfEachFontThatIsNotAvailableOnce) {
+    const String gothic = u"ＭＳ ゴシック";
+    String text = ProjectOfTexts({u"a", u"b", u"c", u"d"});
+    const std::size_t third = text.find(u"c,,Font") + 3;
+    text.replace(third, 4, gothic);
+    text.replace(text.find(u"d,,Font") + 3, 4, u"_sans");
+    const auto message = [](StringView font, StringView other) {
+        return u"「" + String(font) + u"」が見つかりません。\r\n「" + String(other) +
+               u"」へ変更します。";
+    };
+    const struct {
+        std::vector<String> Missing;
+        bool HasSubstitute;
+        std::vector<String> Fonts;
+        std::vector<String> Told;
+    } cases[] = {
+        {{}, false, {u"Font", u"Font", gothic, u"_sans"}, {}},
+        {{u"Font"},
+         false,
+         {u"Default", u"Default", gothic, u"_sans"},
+         {message(u"Font", u"Default")}},
+        {{u"Font", u"Default", gothic},
+         false,
+         {gothic, gothic, gothic, u"_sans"},
+         {message(u"Font", gothic), message(gothic, gothic)}},
+        {{u"Font", u"Default", gothic},
+         true,
+         {gothic, gothic, gothic, u"_sans"},
+         {message(u"Font", gothic)}},
+    };
+    for (const auto& c : cases) {
+        assets_.Missing = c.Missing;
+        assets_.HasSubstitute = c.HasSubstitute;
+        Project project;
+        ASSERT_TRUE(Load(text, project));
+        std::vector<String> fonts;
+        for (const auto& symbol : *project.colSymbol)
+            fonts.push_back(symbol->Property<clsPropertyText>()->FontName);
+        EXPECT_EQ(fonts, c.Fonts);
+        std::vector<String> told;
+        for (const auto& shown : ui_.Messages) told.push_back(shown.first);
+        EXPECT_EQ(told, c.Told);
+    }
 }
 
 TEST_F(ProjectFile, RefusesDamagedFiles) {
@@ -587,7 +647,8 @@ TEST_F(ProjectFile, CutAtAnyByteLoadsOrSaysWhyNot) {
 TEST_F(ProjectFile, FailedSaveTellsWhy) {
     RuntimeError why(0, u"", u"");
     EXPECT_FALSE(SaveProject(JoinPath(JoinPath(folder_, u"s.mp3"), u"a.kvf"), Project(), &why));
-    EXPECT_NE(why.Number, 0);
+    EXPECT_EQ(why.Number, 75);
+    EXPECT_TRUE(why.Description.ends_with(u"\r\nフォルダを作成できません。"));
 }
 
 TEST_F(ProjectFile, LeavesTheFileVersionAsItWas) {

@@ -23,6 +23,7 @@ public:
     bool LoadFile(clsSymbolData&, Notices&) const override { return true; }
     bool FontAvailable(StringView) const override { return true; }
     String DefaultFont() const override { return u"_sans"; }
+    bool SubstituteAvailable() const override { return true; }
     void SetTextSize(clsSymbolData&) const override {}
 };
 

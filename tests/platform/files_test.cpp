@@ -6,9 +6,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <filesystem>
 
 #include "platform/codepage.h"
+#include "platform/paths.h"
 
 namespace tamber {
 namespace {
@@ -83,8 +85,45 @@ TEST_F(FilesTest, a_save_killed_at_any_step_leaves_the_old_file_or_the_new_one) 
         }
         EXPECT_EQ(WEXITSTATUS(status), 1);
         EXPECT_EQ(Content(), oldBytes) << steps;
+        // The next save clears away what the killed one left.
+        ASSERT_TRUE(WriteFileBytes(oldBytes, path));
+        EXPECT_EQ(FilesInFolder(), 1u) << steps;
     }
     FAIL() << "no save went through";
+}
+
+TEST_F(FilesTest, a_save_under_way_is_no_leftover) {
+    const String other = FromNarrow((folder / "other").string());
+    ASSERT_TRUE(WriteFileBytes(oldBytes, path));
+    StopAfter(3, [this, &other] {
+        BeforeWriteStep() = nullptr;
+        return WriteFileBytes(oldBytes, other);
+    });
+    EXPECT_TRUE(WriteFileBytes(newBytes, path));
+    EXPECT_EQ(Content(), newBytes);
+}
+
+TEST_F(FilesTest, a_failed_write_has_a_cause_in_words) {
+    const std::pair<int, StringView> causes[] = {
+        {ENOSPC, u"ディスクの空き容量が足りません。"},
+        {EROFS, u"書き込みが許可されていません。"},
+        {EIO, u"書き込み中にエラーが発生しました。"},
+    };
+    for (const auto& [error, cause] : causes) {
+        StopAfter(2, [code = error] {
+            errno = code;
+            return false;
+        });
+        EXPECT_FALSE(WriteFileBytes(newBytes, path));
+        EXPECT_EQ(WriteFault(), cause);
+    }
+    BeforeWriteStep() = nullptr;
+    EXPECT_FALSE(WriteFileBytes(oldBytes, FromNarrow(folder.string())));
+    EXPECT_EQ(WriteFault(), u"同じ名前のフォルダがあります。");
+    EXPECT_FALSE(WriteFileBytes(oldBytes, u"/dev/full"));
+    EXPECT_EQ(WriteFault(), causes[0].second);
+    EXPECT_TRUE(WriteFileBytes(oldBytes, path));
+    EXPECT_EQ(WriteFault(), u"");
 }
 
 TEST_F(FilesTest, a_save_keeps_permissions_and_follows_links) {
@@ -97,6 +136,23 @@ TEST_F(FilesTest, a_save_keeps_permissions_and_follows_links) {
     EXPECT_TRUE(fs::is_symlink(link));
     EXPECT_EQ(fs::file_size(file), newBytes.size());
     EXPECT_EQ(fs::status(file).permissions(), fs::perms(0640));
+}
+
+TEST_F(FilesTest, paths_that_climb_start_where_links_lead) {
+    const String real = FromNarrow((fs::canonical(folder) / "real" / "deep").string());
+    const String root = GetFileFolder(GetFileFolder(real));
+    const String link = JoinPath(root, u"link");
+    fs::create_directories(ToNarrow(real));
+    fs::create_symlink("real/deep", ToNarrow(link));
+    EXPECT_EQ(NormalizePath(JoinPath(link, u"../a.png")), JoinPath(root, u"real/a.png"));
+    EXPECT_EQ(AbsolutePath(JoinPath(link, u"./x/../../a.png")), JoinPath(root, u"real/a.png"));
+    EXPECT_EQ(MakeRelativePath(link, JoinPath(root, u"a.png")), u"../../a.png");
+    EXPECT_EQ(MakeRelativePath(link, JoinPath(link, u"a.png")), u"a.png");
+    const String project = JoinPath(real, u"a.kvf");
+    ASSERT_TRUE(WriteFileBytes(oldBytes, project));
+    fs::create_symlink(ToNarrow(project), folder / "b.kvf");
+    EXPECT_EQ(FolderOfFile(JoinPath(root, u"b.kvf")), real);
+    EXPECT_EQ(FolderOfFile(JoinPath(link, u"a.kvf")), link);
 }
 
 TEST_F(FilesTest, a_pipe_is_written_to_and_stays_a_pipe) {
