@@ -47,7 +47,6 @@ public:
             Field(u"ShadingNum", &T::ShadingNum),
             Field(u"blJpegComp", &T::blJpegComp),
             Field(u"JpegQuality", &T::JpegQuality),
-
         };
     }
 };

@@ -25,7 +25,6 @@ public:
             Field(u"StartFrame", &T::StartFrame),
             Field(u"blSound", &T::blSound),
             Field(u"blSmoothing", &T::blSmoothing),
-
         };
     }
 };

@@ -23,7 +23,6 @@ public:
             Field(u"MovieName", &T::MovieName),
             Field(u"Width", &T::Width),
             Field(u"height", &T::height),
-
         };
     }
 };

@@ -43,7 +43,11 @@ public:
     virtual void AddRows(Long) {}
     virtual void Load(clsCSV& csv) = 0;
     virtual void Save(clsCSV& csv) const = 0;
-    /// Copies into a record of the same class; any other raises.
+    /// A record of its own with the same values and references. What a record holds by reference
+    /// (artwork, timeline, other symbols) the two share.
+    virtual std::shared_ptr<clsPropertyData> Copy() const = 0;
+    /// Makes a record of the same class one for another symbol, with a timeline of its own; any
+    /// other raises.
     virtual void CopyTo(clsPropertyData& target) const = 0;
     /// Tells the options by name, as `SetField` takes them.
     virtual void TellFields(const FieldSink& sink) const = 0;
