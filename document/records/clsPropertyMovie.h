@@ -15,7 +15,6 @@ public:
     Long height = 0;
 
     Long eType() const override { return KindMovie; }
-    bool HasInstanceName() const override { return true; }
     Long PixelWidth() const override { return Width; }
     Long PixelHeight() const override { return height; }
 

@@ -13,7 +13,6 @@ public:
 
     Long eType() const override { return KindMovieEmp; }
     std::optional<String> Name() const override { return MovieName; }
-    bool HasInstanceName() const override { return true; }
     Long PixelWidth() const override { return Width; }
     Long PixelHeight() const override { return height; }
 

@@ -30,7 +30,7 @@ public:
     /// The symbol can be exported when the user wants it to.
     virtual bool CanExport() const { return true; }
     /// Layers that show the symbol can have an instance name.
-    virtual bool HasInstanceName() const { return false; }
+    virtual bool HasInstanceName() const { return KindOf(eType()).blInstance; }
     /// Key frames that show the symbol can take an effect.
     virtual bool TakesEffects() const { return false; }
     /// Depths of a placement as shapes of their own; 1 for one that stays whole.

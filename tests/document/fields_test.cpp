@@ -219,6 +219,8 @@ TEST_F(EachField, of_a_record_is_read_written_compared_copied_and_set) {
     Check<clsButtonMatrix>(cells::Matrix);
     Check<clsPropertyBmp>(cells::BitmapRecord);
     Check<clsPropertyText>(cells::TextRecord);
+    // A static text has no field for what only a dynamic one has.
+    EXPECT_FALSE(clsPropertyText().SetField(u"blWordWrap", u"True"));
     Check<clsPropertySound>(u"False");
     Check<clsPropertyVector>(cells::VectorRecord);
     Check<clsPropertySprite>(cells::SpriteRecord);
