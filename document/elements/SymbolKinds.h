@@ -54,6 +54,8 @@ struct SymbolKind {
     bool blLayer = true;
     /// Its rows have depths of the movie, whether it is generated or not.
     bool blTakesDepths = false;
+    /// Its rows can have an instance name; of texts and links each says so itself.
+    bool blInstance = false;
     /// A timeline places it as a character of the movie.
     bool blPlaced = false;
     /// A button or a koma can show it.

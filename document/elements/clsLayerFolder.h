@@ -26,7 +26,6 @@ public:
             Field(u"LayerCount", &T::LayerCount, Follows),
             Field(u"Expand", &T::Expand),
             Field(u"Comment", &T::Comment),
-
         };
     }
 };

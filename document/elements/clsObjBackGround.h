@@ -25,7 +25,6 @@ public:
             Field(u"BackColorBlue", &T::BackColorBlue),
             Field(u"BackColorGreen", &T::BackColorGreen),
             Field(u"BackColorRed", &T::BackColorRed),
-
         };
     }
 };

@@ -48,7 +48,6 @@ public:
             Field(u"ShadingNum", &T::ShadingNum),
             Field(u"blJpegComp", &T::blJpegComp),
             Field(u"JpegQuality", &T::JpegQuality),
-
         };
     }
 };

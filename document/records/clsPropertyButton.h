@@ -44,7 +44,6 @@ public:
     Long PixelHeight() const override;
     Long eType() const override { return KindButton; }
     std::optional<String> Name() const override { return ButtonName; }
-    bool HasInstanceName() const override { return true; }
 
     static constexpr auto Fields() {
         using T = clsPropertyButton;

@@ -30,6 +30,12 @@ void clsPropertyLinkSymbol::eSymbolType(Long kind) {
     objPropertyData = MakePropertyData(kind);
 }
 
+std::shared_ptr<clsPropertyData> clsPropertyLinkSymbol::Copy() const {
+    auto copy = std::make_shared<clsPropertyLinkSymbol>(*this);
+    if (objPropertyData) copy->objPropertyData = objPropertyData->Copy();
+    return copy;
+}
+
 void clsPropertyLinkSymbol::CopyTo(clsPropertyData& target) const {
     CopyRecord(*this, target);
     if (!objPropertyData) return;

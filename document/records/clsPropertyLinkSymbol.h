@@ -34,6 +34,8 @@ public:
     Long PixelHeight() const override { return height; }
     void Load(clsCSV& csv) override;
     void Save(clsCSV& csv) const override;
+    /// The target's record is the copy's own.
+    std::shared_ptr<clsPropertyData> Copy() const override;
     void CopyTo(clsPropertyData& target) const override;
     /// The target's options are called "target." and their names.
     void TellFields(const FieldSink& sink) const override;

@@ -15,7 +15,6 @@ public:
     Long height = 0;
 
     Long eType() const override { return KindMovie; }
-    bool HasInstanceName() const override { return true; }
     Long PixelWidth() const override { return Width; }
     Long PixelHeight() const override { return height; }
 
@@ -25,7 +24,6 @@ public:
             Field(u"StartFrame", &T::StartFrame),
             Field(u"blSound", &T::blSound),
             Field(u"blSmoothing", &T::blSmoothing),
-
         };
     }
 };

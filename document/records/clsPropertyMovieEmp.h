@@ -13,7 +13,6 @@ public:
 
     Long eType() const override { return KindMovieEmp; }
     std::optional<String> Name() const override { return MovieName; }
-    bool HasInstanceName() const override { return true; }
     Long PixelWidth() const override { return Width; }
     Long PixelHeight() const override { return height; }
 
@@ -23,7 +22,6 @@ public:
             Field(u"MovieName", &T::MovieName),
             Field(u"Width", &T::Width),
             Field(u"height", &T::height),
-
         };
     }
 };

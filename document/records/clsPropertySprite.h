@@ -34,7 +34,6 @@ public:
 
     Long eType() const override { return KindSprite; }
     std::optional<String> Name() const override { return SpriteName; }
-    bool HasInstanceName() const override { return true; }
     Long PixelWidth() const override { return Width; }
     Long PixelHeight() const override { return height; }
     void CopyTo(clsPropertyData& target) const override;

@@ -27,7 +27,6 @@ public:
             Field(u"FolderName", &T::FolderName),
             Field(u"LayerCount", &T::LayerCount, Follows),
             Field(u"Expand", &T::Expand),
-
         };
     }
 };

@@ -30,7 +30,7 @@ public:
     /// The symbol can be exported when the user wants it to.
     virtual bool CanExport() const { return true; }
     /// Layers that show the symbol can have an instance name.
-    virtual bool HasInstanceName() const { return false; }
+    virtual bool HasInstanceName() const { return KindOf(eType()).blInstance; }
     /// Key frames that show the symbol can take an effect.
     virtual bool TakesEffects() const { return false; }
     /// Depths of a placement as shapes of their own; 1 for one that stays whole.
@@ -43,9 +43,11 @@ public:
     virtual void AddRows(Long) {}
     virtual void Load(clsCSV& csv) = 0;
     virtual void Save(clsCSV& csv) const = 0;
-    /// A record of the same class with the same values; what it refers to is shared.
+    /// A record of its own with the same values and references. What a record holds by reference
+    /// (artwork, timeline, other symbols) the two share.
     virtual std::shared_ptr<clsPropertyData> Copy() const = 0;
-    /// Copies into a record of the same class; any other raises.
+    /// Makes a record of the same class one for another symbol, with a timeline of its own; any
+    /// other raises.
     virtual void CopyTo(clsPropertyData& target) const = 0;
     /// Tells the options by name, as `SetField` takes them.
     virtual void TellFields(const FieldSink& sink) const = 0;

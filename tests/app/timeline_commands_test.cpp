@@ -210,18 +210,10 @@ TEST_F(TimelineCommands, fields_set_what_the_key_frame_shows) {
         bool Done;
     };
     const Case cases[]{
-        {KindSprite, u"ScaleX", u"0.5", true},
-        {KindSprite, u"blEffect", u"True", true},
         {KindSprite, u"blFreeTrans", u"True", false},
-        {KindVector, u"blFreeTrans", u"True", true},
         {KindVector, u"FreeTransPoint8", u"-20", true},
         {KindVector, u"FreeTransPoint9", u"1", false},
-        {KindText, u"EffectInterval", u"3", true},
-        {KindBitmap, u"blDropShadow", u"True", true},
         {KindBitmap, u"eBlend", u"15", false},
-        {KindSound, u"Loops", u"4", true},
-        {KindBackGround, u"BackColorRed", u"7", true},
-        {KindFrameAction, u"Script", u"stop();", true},
         {KindLayerFolder, u"LayerCount", u"4", false},
         {KindLayerFolder, u"blVisible", u"False", true},
     };

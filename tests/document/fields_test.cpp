@@ -1,267 +1,308 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <map>
+#include <set>
 
-#include "document/cells/ProjectFileVersion.h"
-#include "document/elements/clsElement.h"
+#include "document/elements/clsLayerFolder.h"
+#include "document/elements/clsObjBackGround.h"
+#include "document/elements/clsObjFrameAction.h"
+#include "document/elements/clsObjFrameLabel.h"
+#include "document/elements/clsObjSound.h"
+#include "document/elements/clsObjSprite.h"
+#include "document/elements/clsObjText.h"
+#include "document/elements/clsObjVector.h"
+#include "document/records/clsPropertyBmp.h"
+#include "document/records/clsPropertyButton.h"
+#include "document/records/clsPropertyClass.h"
+#include "document/records/clsPropertyKoma.h"
+#include "document/records/clsPropertyLinkSymbol.h"
+#include "document/records/clsPropertyMovie.h"
+#include "document/records/clsPropertyMovieEmp.h"
+#include "document/records/clsPropertySound.h"
+#include "document/records/clsPropertySprite.h"
+#include "document/records/clsPropertySymbolFolder.h"
+#include "document/records/clsPropertyText.h"
+#include "document/records/clsPropertyVector.h"
 #include "document/symbols/clsLayer.h"
 #include "document/symbols/clsSymbolData.h"
-#include "effects/filters/clsFilterData.h"
-#include "platform/RuntimeError.h"
 #include "platform/codepage.h"
-#include "platform/text.h"
+#include "tests/support/FilledCells.h"
 
 namespace tamber {
 namespace {
 
-using Told = std::map<String, String>;
-
-constexpr StringView Placement =
-    u"X,Y,OffsetX,OffsetY,chkFixedRatio,ScaleX,ScaleY,Bright,Toumei,Angle,SkewX,SkewY,Edging,"
-    u"EdgingAllMode,blCustomEdging,eBlend";
-constexpr StringView Effect =
-    u"blEffect,EffectType,EffectInterval,EfIntervalType,blAllStop,EffectFrames,EffectName";
-constexpr StringView Filters =
-    u"blEditColor,MultR,MultG,MultB,MultA,AddR,AddG,AddB,AddA,"
-    u"blDropShadow,DropShadow.Blue,DropShadow.Green,DropShadow.Red,DropShadow.ColorA,"
-    u"DropShadow.BlurX,DropShadow.BlurY,DropShadow.Angle,DropShadow.Distance,DropShadow.Strength,"
-    u"DropShadow.blInner,DropShadow.blKnockout,DropShadow.blCompositeSource,DropShadow.Passes,"
-    u"blBlur,Blur.BlurX,Blur.BlurY,Blur.Passes,"
-    u"blGlow,Glow.Blue,Glow.Green,Glow.Red,Glow.ColorA,Glow.BlurX,Glow.BlurY,Glow.Strength,"
-    u"Glow.blInner,Glow.blKnockout,Glow.blCompositeSource,Glow.Passes,"
-    u"blBevel,Bevel.ShadowBlue,Bevel.ShadowGreen,Bevel.ShadowRed,Bevel.ShadowColorA,"
-    u"Bevel.HighlightBlue,Bevel.HighlightGreen,Bevel.HighlightRed,Bevel.HighlightColorA,"
-    u"Bevel.BlurX,Bevel.BlurY,Bevel.Angle,Bevel.Distance,Bevel.Strength,Bevel.blInner,"
-    u"Bevel.blKnockout,Bevel.blCompositeSource,Bevel.blOnTop,Bevel.Passes,"
-    u"blConvolution,MatrixX,MatrixY,Divisor,Bias,"
-    u"m1,m2,m3,m4,m5,m6,m7,m8,m9,m10,m11,m12,m13,m14,m15,m16,m17,m18,m19,m20,m21,m22,m23,m24,m25,"
-    u"Default.Blue,Default.Green,Default.Red,Default.ColorA,blClamp,blPreserveAlpha,"
-    u"blColorMatrix,c1,c2,c3,c4,c5,c6,c7,c8,c9,c10,c11,c12,c13,c14,c15,c16,c17,c18,c19,c20";
-constexpr StringView Script = u"Script,eScriptMode,nPrm1,nPrm2,strPrm1,strPrm2";
-
-/// The names in lists separated by commas.
-std::vector<String> NamesOf(std::initializer_list<StringView> lists) {
-    std::vector<String> names;
-    for (StringView list : lists)
-        while (!list.empty()) {
-            const std::size_t end = std::min(list.find(u','), list.size());
-            names.emplace_back(list.substr(0, end));
-            list.remove_prefix(std::min(end + 1, list.size()));
-        }
-    return names;
-}
-
-template <class Record>
-Told ToldBy(const Record& record) {
-    Told told;
-    record.TellFields([&told](StringView name, const String& value) { told.emplace(name, value); });
-    return told;
-}
-
-/// Gives a field another value than it has. False where it takes none.
-template <class Record>
-bool Change(Record& record, const String& name) {
-    const Told before = ToldBy(record);
-    const auto found = before.find(name);
-    if (found == before.end()) return false;
-    for (const StringView value :
-         {u"True", u"False", u"2", u"3", u"7", u"press", u"out", u"BL", u"Edge", u"other"}) {
-        try {
-            if (record.SetField(name, value) && ToldBy(record)[name] != found->second) return true;
-        } catch (const RuntimeError&) {
-            // No value for this field.
-        }
-    }
-    return false;
-}
-
-/// What `from` writes, read by `to`.
-template <class Record>
-void Reload(const Record& from, Record& to) {
+template <class Save>
+String Written(Save save) {
     clsCSV csv;
-    from.Save(csv);
-    csv.SetPosition(0, 0);
-    const ProjectFileVersionScope newest(NewestProjectFileVersion);
-    to.Load(csv);
+    save(csv);
+    String text = csv.Text();
+    while (text.ends_with(u"\r\n")) text.resize(text.size() - 2);
+    return text;
 }
 
-struct KindFields {
-    Long Kind;
-    std::vector<String> Names;
-};
-
-std::string NameOfKind(const testing::TestParamInfo<KindFields>& info) {
-    return "Kind" + std::to_string(info.param.Kind);
+template <class Load>
+void Read(const String& cells, Load load) {
+    clsCSV csv;
+    csv.Text(cells + u"\r\n");
+    load(csv);
 }
 
-class ElementFields : public testing::TestWithParam<KindFields> {};
+/// A row and a symbol have more in front of their fields.
+template <class Record>
+concept IsWhole = requires(const Record& record, clsCSV& csv) {
+    record.Save(csv);
+}
+&&!std::same_as<Record, clsLayer>;
 
-TEST_P(ElementFields, are_told_copied_compared_and_saved) {
-    auto changed = MakeElement(GetParam().Kind);
-    for (const String& name : GetParam().Names) {
-        const auto before = changed->Copy();
-        ASSERT_TRUE(Change(*changed, name)) << ToNarrow(name);
-        EXPECT_FALSE(changed->Compare(*before)) << ToNarrow(name);
-        EXPECT_FALSE(before->Compare(*changed)) << ToNarrow(name);
-        EXPECT_TRUE(changed->Compare(*changed->Copy())) << ToNarrow(name);
-        const auto loaded = MakeElement(GetParam().Kind);
-        Reload(*changed, *loaded);
-        EXPECT_EQ(ToldBy(*loaded), ToldBy(*changed)) << ToNarrow(name);
-        before->CopyTo(*loaded, true);
-        EXPECT_TRUE(loaded->Compare(*before)) << ToNarrow(name);
+template <class Record>
+String RecordCells(const Record& record) {
+    return Written([&](clsCSV& csv) {
+        if constexpr (IsWhole<Record>)
+            record.Save(csv);
+        else
+            SaveFields(record, csv);
+    });
+}
+
+template <class Field, class Record>
+String FieldCells(const Field& field, const Record& record) {
+    return Written([&](clsCSV& csv) { field.Save(record, csv); });
+}
+
+template <class Record, class Make>
+std::shared_ptr<Record> CopyOf(const Record& record, Make make) {
+    if constexpr (std::derived_from<Record, clsPropertyData>)
+        return std::dynamic_pointer_cast<Record>(record.Copy());
+    const std::shared_ptr<Record> copy = make();
+    if constexpr (requires { record.CopyTo(*copy, true); })
+        record.CopyTo(*copy, true);
+    else if constexpr (requires { record.CopyTo(*copy); })
+        record.CopyTo(*copy);
+    else
+        *copy = record;
+    return copy;
+}
+
+template <class Record>
+bool Same(const Record& a, const Record& b) {
+    if constexpr (requires { a.CompareHead(b); })
+        return a.CompareHead(b);
+    else if constexpr (requires { a.Compare(b); })
+        return a.Compare(b);
+    else if constexpr (requires { a == b; })
+        return a == b;
+    else
+        return SameFields(a, b);
+}
+
+template <class Record>
+bool SetByName(Record& record, StringView name, StringView value) {
+    if constexpr (requires { record.SetField(name, value); })
+        return record.SetField(name, value);
+    else
+        return SetField(record, name, value);
+}
+
+/// The field, or those within a group.
+template <class Field, class Visit>
+void ForEachWithin(const Field& field, const Visit& visit) {
+    if constexpr (requires { field.Fields; }) {
+        std::apply([&](const auto&... inner) { (ForEachWithin(inner, visit), ...); }, field.Fields);
+    } else if constexpr (requires { field.Switch; }) {
+        visit(field.Switch);
+        visit(field.Filter);
+    } else {
+        visit(field);
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Kinds, ElementFields,
-    testing::Values(
-        KindFields{KindBackGround, NamesOf({u"BackColorBlue,BackColorGreen,BackColorRed"})},
-        KindFields{KindFrameLabel, NamesOf({u"LabelName,blAnchor"})},
-        KindFields{KindSound, NamesOf({u"eEvent,Loops,VolumeL,VolumeR,StartTime,StopTime,"
-                                       u"FadeInTime,FadeOutTime"})},
-        KindFields{KindFrameAction, NamesOf({u"Comment", Script})},
-        KindFields{KindLayerFolder, NamesOf({u"FolderName,Expand,Comment"})},
-        KindFields{KindBitmap, NamesOf({Placement, Filters})},
-        KindFields{KindText, NamesOf({Placement, Effect, u"blApplyOne"})},
-        KindFields{KindSprite, NamesOf({Placement, Effect})},
-        KindFields{KindVector, NamesOf({Placement,
-                                        u"blFreeTrans,FreeTransPoint1,FreeTransPoint2,"
-                                        u"FreeTransPoint3,FreeTransPoint4,FreeTransPoint5,"
-                                        u"FreeTransPoint6,FreeTransPoint7,FreeTransPoint8,"
-                                        u"blDivide"})},
-        KindFields{KindMovie, NamesOf({Placement})}, KindFields{KindButton, NamesOf({Placement})},
-        KindFields{KindKoma, NamesOf({Placement})}),
-    NameOfKind);
-
-class RecordFields : public testing::TestWithParam<KindFields> {};
-
-TEST_P(RecordFields, are_told_copied_and_saved) {
-    auto changed = MakePropertyData(GetParam().Kind);
-    for (const String& name : GetParam().Names) {
-        ASSERT_TRUE(Change(*changed, name)) << ToNarrow(name);
-        EXPECT_EQ(ToldBy(*changed->Copy()), ToldBy(*changed)) << ToNarrow(name);
-        const auto copied = MakePropertyData(GetParam().Kind);
-        changed->CopyTo(*copied);
-        EXPECT_EQ(ToldBy(*copied)[name], ToldBy(*changed)[name]) << ToNarrow(name);
-        const auto loaded = MakePropertyData(GetParam().Kind);
-        Reload(*changed, *loaded);
-        EXPECT_EQ(ToldBy(*loaded), ToldBy(*changed)) << ToNarrow(name);
-    }
-}
-
-constexpr StringView NineSlice = u"bl9Scale,GridLeft,GridRight,GridTop,GridBottom";
-
-INSTANTIATE_TEST_SUITE_P(
-    Kinds, RecordFields,
-    testing::Values(
-        KindFields{KindBitmap, NamesOf({u"blToumei,ToumeiColorRed,ToumeiColorGreen,"
-                                        u"ToumeiColorBlue,blShading,ShadingType,ShadingNum,"
-                                        u"blJpegComp,JpegQuality"})},
-        KindFields{KindText, NamesOf({u"InitialText,DefineText,FontName,Width,height,FontSize,"
-                                      u"FontLeading,FontCharSpace,FontBold,FontItalic,"
-                                      u"FontColorRed,FontColorGreen,FontColorBlue,Alignment,"
-                                      u"blAutoSize,blDynamic,blWordWrap,blInput,blSelect,"
-                                      u"blMultiLine,blBorder,blPassword,blHtml,VariableName,"
-                                      u"blFlashType,Thickness,Sharpness,FitShapeScaleX,"
-                                      u"FitShapeScaleY,blFitAngle,blFitEven,blFitOpposite,"
-                                      u"eBasePos"})},
-        KindFields{KindSound, NamesOf({u"blWavRead"})},
-        KindFields{KindVector, NamesOf({u"blDivide,blFreeTrans,FreeTransPoint1,FreeTransPoint8,"
-                                        u"blLineOption,blNoLineScale,blPixelHinting,CapStyle,"
-                                        u"JoinStyle,MiterLimit"})},
-        KindFields{KindSprite, NamesOf({u"SpriteName,Width,height,baseX,baseY", NineSlice})},
-        KindFields{KindMovie, NamesOf({u"StartFrame,blSound,blSmoothing"})},
-        KindFields{KindMovieEmp, NamesOf({u"MovieName,Width,height"})},
-        KindFields{KindButton, NamesOf({u"ButtonName,blAutoHitTest", NineSlice})},
-        KindFields{KindKoma, NamesOf({u"KomaName,DispCount"})},
-        KindFields{KindSymbolFolder, NamesOf({u"FolderName,Expand"})},
-        KindFields{KindClass, NamesOf({u"Extends"})},
-        KindFields{KindLink, NamesOf({u"SymbolName,URL,Width,height"})}),
-    NameOfKind);
-
-/// A row as a record.
-struct Row {
-    std::shared_ptr<clsLayer> Layer = std::make_shared<clsLayer>();
-
-    explicit Row(Long kind) { Layer->SymbolData(std::make_shared<clsSymbolData>(kind)); }
-    void TellFields(const FieldSink& sink) const { tamber::TellFields(*Layer, sink); }
-    bool SetField(StringView name, StringView value) {
-        return tamber::SetField(*Layer, name, value);
-    }
-    void Save(clsCSV& csv) const { SaveFields(*Layer, csv); }
-    void Load(clsCSV& csv) { LoadFields(*Layer, csv); }
-};
-
-TEST(RowFields, are_told_copied_compared_and_saved) {
-    Row changed(KindButton);
-    for (const String& name :
-         NamesOf({u"LayerName,ClippingDepth,OnEvent", Script, u"Visible,ExpText"})) {
-        const auto before = changed.Layer->CopyHead();
-        ASSERT_TRUE(Change(changed, name)) << ToNarrow(name);
-        EXPECT_FALSE(changed.Layer->CompareHead(*before)) << ToNarrow(name);
-        Row copy(KindButton);
-        copy.Layer = changed.Layer->CopyHead();
-        EXPECT_TRUE(changed.Layer->CompareHead(*copy.Layer)) << ToNarrow(name);
-        EXPECT_EQ(ToldBy(copy), ToldBy(changed)) << ToNarrow(name);
-        // A remark is for the session it was written in.
-        if (name == u"ExpText") continue;
-        Row loaded(KindButton);
-        Reload(changed, loaded);
-        EXPECT_EQ(ToldBy(loaded), ToldBy(changed)) << ToNarrow(name);
-    }
-}
-
-TEST(SymbolFields, are_told_and_saved) {
-    clsSymbolData changed(KindSprite);
-    for (const String& name : NamesOf({u"ObjectName,LinkClassName,blExport,blExportTop"})) {
-        const auto told = [](const clsSymbolData& symbol) {
-            Told all;
-            TellFields(symbol, [&all](StringView field, const String& value) {
-                all.emplace(field, value);
-            });
-            return all;
+/// All that is done field by field, with a record whose values are all away from those of a new
+/// one that `make` makes.
+template <class Record, class Make>
+void CheckEachField(const Record& full, Make make) {
+    const auto grown = make();
+    const auto check = [&](const auto& field) {
+        const auto plain = make();
+        const auto agrees = [&](const Record& other) {
+            return FieldCells(field, other) == FieldCells(field, full) && field.Same(other, full);
         };
-        const Told before = told(changed);
-        ASSERT_TRUE(SetField(changed, name, before.at(name) == u"True" ? u"False" : u"True"));
-        EXPECT_NE(told(changed), before) << ToNarrow(name);
-        clsCSV csv;
-        SaveFields(changed, csv);
-        csv.SetPosition(0, 0);
-        clsSymbolData loaded(KindSprite);
-        const ProjectFileVersionScope newest(NewestProjectFileVersion);
-        LoadFields(loaded, csv);
-        EXPECT_EQ(told(loaded), told(changed)) << ToNarrow(name);
+        bool apart = false;
+        bool follows = false;
+        if constexpr (requires { field.Use; }) {
+            apart = field.Use.blApart;
+            follows = field.Use.blFollows;
+        } else {
+            // A motion path, which is no value of the placement.
+            apart = !requires {
+                field.Prefix;
+            }
+            &&field.Same(*plain, full);
+        }
+        const auto carry = [&](Record& to) {
+            field.Copy(full, to);
+            if (!agrees(to))
+                Read(FieldCells(field, full), [&](clsCSV& csv) { field.Load(to, csv); });
+        };
+        EXPECT_FALSE(agrees(*plain)) << "no other value";
+        carry(*plain);
+        EXPECT_TRUE(agrees(*plain)) << "not carried";
+        EXPECT_EQ(Same(*make(), *plain), apart) << "compared";
+        EXPECT_TRUE(agrees(*CopyOf(*plain, make))) << "not copied";
+        bool told = false;
+        bool nameless = false;
+        const auto set = [&](StringView name, const String& value) {
+            told = true;
+            nameless |= name.empty();
+            const bool done = !name.empty() && SetByName(*grown, name, value);
+            EXPECT_EQ(done, !name.empty() && !follows) << ToNarrow(name);
+        };
+        field.Tell(full, set, {});
+        if (!told || nameless || follows) carry(*grown);
+        EXPECT_TRUE(agrees(*grown)) << "not set by name";
+    };
+    int number = 0;
+    ForEachField<Record>([&](const auto& field) {
+        ForEachWithin(field, [&](const auto& inner) {
+            std::string name = std::to_string(++number);
+            if constexpr (requires { inner.Name; }) name += " " + ToNarrow(inner.Name);
+            SCOPED_TRACE(name);
+            check(inner);
+        });
+    });
+    const auto cells = [](const Record& record) {
+        return Written([&](clsCSV& csv) { SaveFields(record, csv); });
+    };
+    EXPECT_EQ(cells(*grown), cells(full));
+}
+
+template <class Record>
+void LoadRecord(Record& record, const String& cells) {
+    Read(cells, [&](clsCSV& csv) {
+        if constexpr (IsWhole<Record>)
+            record.Load(csv);
+        else
+            LoadFields(record, csv);
+    });
+    EXPECT_EQ(ToNarrow(RecordCells(record)), ToNarrow(cells));
+}
+
+class EachField : public testing::Test {
+protected:
+    /// `finish` sets what has no cell.
+    template <class Record, class Make, class Finish>
+    void Check(const String& cells, Make make, Finish finish) {
+        SCOPED_TRACE(ToNarrow(cells));
+        const std::shared_ptr<Record> full = make();
+        LoadRecord(*full, cells);
+        finish(*full);
+        CheckEachField(*full, make);
+        if constexpr (requires { full->eType(); }) checked_.insert(full->eType());
+    }
+    template <class Record>
+    void Check(const String& cells) {
+        Check<Record>(
+            cells, [] { return std::make_shared<Record>(); }, [](const Record&) {});
+    }
+    template <class Filter>
+    void CheckFilter(const String& cells, const String& halfWay) {
+        Check<Filter>(cells);
+        Filter full;
+        LoadRecord(full, cells);
+        EXPECT_EQ(ToNarrow(RecordCells(Filter().Morphing(full, 0.5, 0.5))), ToNarrow(halfWay));
+    }
+    bool IsChecked(Long kind) const { return checked_.contains(kind); }
+
+private:
+    std::set<Long> checked_;
+};
+
+TEST_F(EachField, of_a_record_is_read_written_compared_copied_and_set) {
+    Check<clsButtonMatrix>(cells::Matrix);
+    Check<clsPropertyBmp>(cells::BitmapRecord);
+    Check<clsPropertyText>(cells::TextRecord);
+    // A static text has no field for what only a dynamic one has.
+    EXPECT_FALSE(clsPropertyText().SetField(u"blWordWrap", u"True"));
+    Check<clsPropertySound>(u"False");
+    Check<clsPropertyVector>(cells::VectorRecord);
+    Check<clsPropertySprite>(cells::SpriteRecord);
+    Check<clsPropertyMovie>(cells::MovieRecord);
+    Check<clsPropertyMovieEmp>(cells::MovieEmpRecord);
+    Check<clsPropertyButton>(cells::ButtonRecord);
+    Check<clsPropertyKoma>(cells::KomaRecord);
+    Check<clsPropertySymbolFolder>(cells::FolderRecord);
+    Check<clsPropertyClass>(cells::ClassRecord);
+    Check<clsPropertyLinkSymbol>(cells::LinkRecord);
+    clsPropertyLinkSymbol link;
+    LoadRecord(link, cells::LinkRecord);
+    EXPECT_NE(CopyOf(link, [] { return nullptr; })->objPropertyData, link.objPropertyData);
+    for (Long kind = 1; kind <= KindLink; ++kind)
+        EXPECT_EQ(IsChecked(kind), MakePropertyData(kind) != nullptr) << kind;
+}
+
+TEST_F(EachField, of_an_element_is_read_written_compared_copied_and_set) {
+    Check<clsScriptData>(cells::Script);
+    const auto ofText = [] {
+        auto effect = std::make_shared<clsEffectElement>();
+        effect->ApplyOneEnable = true;
+        return effect;
+    };
+    Check<clsEffectElement>(cells::TextEffect, ofText, [](const auto&) {});
+    Check<clsTweenPointData>(u"Off,3,4");
+    Check<clsLayerObjElement>(cells::Placement);
+    Check<clsObjText>(cells::Placement + u"," + cells::TextEffect);
+    Check<clsObjSprite>(cells::Placement + u"," + cells::SpriteEffect);
+    Check<clsObjVector>(cells::Placement + u"," + cells::FreeTransform);
+    Check<clsObjBackGround>(u"10,20,30");
+    Check<clsObjFrameLabel>(u"label,True");
+    Check<clsObjSound>(cells::Sound);
+    Check<clsObjFrameAction>(cells::FrameAction);
+    Check<clsLayerFolder>(cells::LayerFolder);
+    for (Long kind = 1; kind <= KindLink; ++kind) {
+        const auto element = MakeElement(kind);
+        // An element without fields of its own is its placement.
+        const bool more = element && RecordCells(*element) != RecordCells(clsLayerObjElement());
+        EXPECT_EQ(IsChecked(kind), more) << kind;
     }
 }
 
-/// A filter set as a record.
-struct FilterSet : clsFilterData {
-    void TellFields(const FieldSink& sink) const { tamber::TellFields(*this, sink); }
-    bool SetField(StringView name, StringView value) {
-        return tamber::SetField(*this, name, value);
+TEST_F(EachField, of_a_row_and_a_symbol_is_read_written_compared_copied_and_set) {
+    Check<clsLayerObject>(u"3,4,True,True,False");
+    Check<clsSymbolData>(u"pic,Class,Export");
+    const auto button = std::make_shared<clsSymbolData>(KindButton);
+    const auto row = [&button] {
+        auto layer = std::make_shared<clsLayer>();
+        layer->SymbolData(button);
+        return layer;
+    };
+    Check<clsLayer>(u"層,inst,2,,rollout," + cells::Script + u",False", row, [](clsLayer& layer) {
+        layer.ExpText(u"memo");
+        layer.SelectIndex = 2;
+        layer.FirstFrame = 3;
+        layer.FrameWidth = 4;
+    });
+    for (const auto member :
+         {&clsLayer::SelectIndex, &clsLayer::FirstFrame, &clsLayer::FrameWidth}) {
+        const auto layer = row();
+        (*layer).*member += 1;
+        EXPECT_FALSE(layer->CompareHead(*row()));
     }
-};
+}
 
-TEST(FilterFields, mix_in_a_tween_but_for_switches_counts_and_passes) {
-    FilterSet start;
-    for (const StringView name : {u"blDropShadow", u"blBlur", u"blGlow", u"blBevel",
-                                  u"blConvolution", u"blColorMatrix", u"blEditColor"})
-        start.SetField(name, u"True");
-    for (const String& name : NamesOf({Filters})) {
-        const std::size_t dot = name.find(u'.');
-        const StringView word = StringView(name).substr(dot == String::npos ? 0 : dot + 1);
-        FilterSet end = start;
-        ASSERT_TRUE(Change(end, name)) << ToNarrow(name);
-        FilterSet mixed;
-        start.Morphing(end, 0, 1)->CopyTo(mixed);
-        const bool keeps = word.starts_with(u"bl") || word == u"Passes" || word == u"MatrixX" ||
-                           word == u"MatrixY";
-        EXPECT_EQ(ToldBy(mixed)[name], ToldBy(keeps ? start : end)[name]) << ToNarrow(name);
-        // Colours are edited outside the filters.
-        const bool edits = word.starts_with(u"Mult") || word.starts_with(u"Add");
-        EXPECT_EQ(start.CkMorphing(end), word == u"Passes" || !(edits || keeps)) << ToNarrow(name);
-    }
+// Half-way values that end in .5 go to the even number where they are whole.
+TEST_F(EachField, of_a_filter_is_read_written_compared_copied_set_and_mixed) {
+    CheckFilter<clsFilterEditColor>(cells::EditColor, u"95,90,85,80,0,1,2,2");
+    CheckFilter<clsFilterDropShadow>(cells::DropShadow,
+                                     u"0,1,2,75,3,3.5,37.5,5.5,1.75,False,False,True,2");
+    CheckFilter<clsFilterBlur>(cells::Blur, u"5.5,6,2");
+    CheckFilter<clsFilterGlow>(cells::Glow, u"132,132,4,70,6.5,7,1.25,False,False,True,2");
+    CheckFilter<clsFilterBevel>(
+        cells::Bevel, u"0,1,2,55,130,130,130,60,4.5,5,52.5,7,1.5,False,False,True,False,2");
+    CheckFilter<clsFilterConvolution>(
+        cells::Convolution,
+        u"5,5,1.5,0.5,0.5,1,1.5,2,2.5,3,3.5,4,4.5,5,5.5,6,7,7,7.5,8,8.5,9,9.5,10,10.5,11,11.5,12,"
+        u"12.5,2,3,4,15,False,False");
+    CheckFilter<clsFilterColorMatrix>(cells::ColorMatrix,
+                                      u"11,1,1.5,2,2.5,3,4,4,4.5,5,5.5,6,7,7,7.5,8,8.5,9,10,10");
+    Check<clsFilterData>(cells::Filters);
 }
 
 }  // namespace

@@ -22,6 +22,7 @@
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/text.h"
+#include "tests/support/FilledCells.h"
 
 namespace tamber {
 namespace {
@@ -71,30 +72,15 @@ public:
     void SetTextSize(clsSymbolData&) const override {}
 };
 
-/// All values away from their defaults.
-const String filterCells =
-    u"True,90,80,70,60,1,2,3,4,"
-    u"True,1,2,3,50,4,5,30,6,2.5,True,True,False,3,"
-    u"True,7,8,1,"
-    u"True,9,8,7,40,3,4,1.5,True,False,False,2,"
-    u"True,1,2,3,10,4,5,6,20,7,8,60,9,2,True,False,False,True,1,"
-    u"True,3,3,2,1,1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19,20,21,22,23,24,25,"
-    u"5,6,7,30,True,True,"
-    u"True,1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19,20";
-
-const String placementHead = u"12.5,-3.2,1,2,False,15000,-20000,-10,90,450000,10000,-20000,128,";
-/// Two curves, then the filters, then a path of two points: the tail goes on behind them.
-const String placement = placementHead + u"NON,True,2\r\n0,0,0.5,0.25,1\r\n0,0\r\n8," +
-                         filterCells + u",2\r\nOn,1.5,2,Off,3,4";
 /// Straight curves and no path: the tail goes on in the same row.
 const String plainPlacement =
-    placementHead + u"PRM,False,1\r\n0,0,1\r\n0,0\r\n8," + filterCells + u",0";
+    cells::PlacementHead + u"PRM,False,1\r\n0,0,1\r\n0,0\r\n8," + cells::Filters + u",0";
 
 /// A layer's first row and its one key frame.
 String LayerRows(StringView id, StringView element, StringView event = u"") {
-    return String(id) + u",層,inst,2,," + String(event) +
-           u"\"trace(\"\"1\"\");\",-1,1,0,p1,p2,_root,False,1\r\n3,4,True,True,False" +
-           (element.empty() ? u"" : u",") + String(element) + u"\r\n";
+    return String(id) + u",層,inst,2,," + String(event) + cells::Script +
+           u",False,1\r\n3,4,True,True,False" + (element.empty() ? u"" : u",") + String(element) +
+           u"\r\n";
 }
 
 /// A project with each kind of symbol and of element.
@@ -103,34 +89,55 @@ String WholeProject() {
            u"320,240,12.5,8\r\n"
            u"HTML,pixels,320,240,l,t,True,False,True,high,window,showall,True\r\n"
            u"14\r\n"
-           u"1,絵\\表.bmp,画像,pic,,Export,True,1,2,3,True,BL,50,True,80\r\n"
-           u"2,,ﾃｷｽﾄ,,,ExportTop,初め,def,Font,100,20,12,1.5,2,True,False,10,20,30,1,False,True,"
-           u"True,False,True,False,True,False,True,var,True,3,4,2,3,False,True,True,2\r\n"
+           u"1,絵\\表.bmp,画像,pic,,Export," +
+           cells::BitmapRecord +
+           u"\r\n"
+           u"2,,ﾃｷｽﾄ,,,ExportTop," +
+           cells::TextRecord +
+           u"\r\n"
            u"3,,ﾃｷｽﾄ,,,,a,b,_sans,1,2,3,0,0,False,True,1,2,3,0,True,False,False,0,0,1,1,True,"
            u"False,False,1\r\n"
            u"4,s.mp3,ｻｳﾝﾄﾞ,,,,False\r\n"
-           u"5,v.svg,ﾍﾞｸﾀ,,,,True,True,1,2,3,4,5,6,7,8,True,True,True,1,2,512\r\n"
+           u"5,v.svg,ﾍﾞｸﾀ,,,," +
+           cells::VectorRecord +
+           u"\r\n"
            u"6,v.svg,ﾍﾞｸﾀ,,,,False,False,0,0,0,0,0,0,0,0,False,False,False,0,0,1024\r\n"
-           u"7,,ｽﾌﾟﾗｲﾄ,obj,MyClass,Export,スプライト1,10,20,1,2,True,1,3,2,4\r\n"
-           u"8,m.flv,動画,,,,2,False,True\r\n"
-           u"9,,空動画,,,,空1,30,40\r\n"
-           u"10,,ﾎﾞﾀﾝ,,,,ボタン1,True,True,1,3,2,4,True,5,6,90,80,70,60,1,2,3,4,False\r\n"
-           u"11,,ｺﾏ動画,,,,コマ1,3\r\n"
-           u"-1,,Sﾌｫﾙﾀﾞ,,,,フォルダ1,1,False\r\n"
-           u"-5,,ｸﾗｽ,,,,MyClass,Base,2\r\nc1,x=1;\r\nc2,\"a(\"\"b\"\");\"\r\n"
-           u"14,,ﾘﾝｸ,,,,lib,other.swf,10,20,画像,True,1,2,3,True,BL,50,True,80\r\n"
+           u"7,,ｽﾌﾟﾗｲﾄ,obj,MyClass,Export," +
+           cells::SpriteRecord +
+           u"\r\n"
+           u"8,m.flv,動画,,,," +
+           cells::MovieRecord +
+           u"\r\n"
+           u"9,,空動画,,,," +
+           cells::MovieEmpRecord +
+           u"\r\n"
+           u"10,,ﾎﾞﾀﾝ,,,," +
+           cells::ButtonRecord +
+           u"\r\n"
+           u"11,,ｺﾏ動画,,,," +
+           cells::KomaRecord +
+           u"\r\n"
+           u"-1,,Sﾌｫﾙﾀﾞ,,,," +
+           cells::FolderRecord +
+           u"\r\n"
+           u"-5,,ｸﾗｽ,,,," +
+           cells::ClassRecord +
+           u"\r\n"
+           u"14,,ﾘﾝｸ,,,," +
+           cells::LinkRecord +
+           u"\r\n"
            u"5\r\n0\r\n6\r\n0\r\n1,0,1,1\r\n1,1\r\n"
            u"1\r\n" +
-           LayerRows(u"1", placement) + u"14\r\n" + LayerRows(u"-1", u"10,20,30") +
+           LayerRows(u"1", cells::Placement) + u"14\r\n" + LayerRows(u"-1", u"10,20,30") +
            LayerRows(u"-2", u"label,True") + LayerRows(u"1", plainPlacement) +
-           LayerRows(u"2", placement + u",True,out,True,5,Right,True,30,fade,speed,3,") +
-           LayerRows(u"4", u"2,3,50,60,100,200,10,20") +
-           LayerRows(u"5", placement + u",True,1,2,3,4,5,6,7,8,True") +
-           LayerRows(u"7", plainPlacement + u",True,loop,False,5,Random,False,12,spin,") +
-           LayerRows(u"8", placement) + LayerRows(u"9", placement) +
-           LayerRows(u"-3", u"note,stop();,2,1,1,end,w,_parent") +
-           LayerRows(u"10", placement, u"rollout,") + LayerRows(u"11", plainPlacement) +
-           LayerRows(u"-4", u"棚,1,1,False,memo") + LayerRows(u"14", placement);
+           LayerRows(u"2", cells::Placement + u"," + cells::TextEffect) +
+           LayerRows(u"4", cells::Sound) +
+           LayerRows(u"5", cells::Placement + u"," + cells::FreeTransform) +
+           LayerRows(u"7", plainPlacement + u"," + cells::SpriteEffect) +
+           LayerRows(u"8", cells::Placement) + LayerRows(u"9", cells::Placement) +
+           LayerRows(u"-3", cells::FrameAction) + LayerRows(u"10", cells::Placement, u"rollout,") +
+           LayerRows(u"11", plainPlacement) + LayerRows(u"-4", cells::LayerFolder) +
+           LayerRows(u"14", cells::Placement);
 }
 
 class ProjectFile : public testing::Test {
@@ -548,7 +555,7 @@ TEST_F(ProjectFile, RefusesDamagedFiles) {
         {"key frame count too high", head + u"0\r\n1\r\n-1" + row + u"2147483647\r\n"},
         {"layers of a class", head + u"1\r\n-5,,ｸﾗｽ,,,,C,,2147483647\r\n0\r\n"},
         {"curve", head + u"1\r\n9,,空動画,,,,e,1,1\r\n1\r\n9" + row +
-                      u"1\r\n1,1,False,False,True," + placementHead +
+                      u"1\r\n1,1,False,False,True," + cells::PlacementHead +
                       u"XY,False,2147483647\r\n0\r\n"},
         {"a frame before the first",
          head + u"0\r\n1\r\n-1" + row + u"1\r\n0,1,False,False,True,0,0,0\r\n"},
