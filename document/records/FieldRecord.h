@@ -10,9 +10,7 @@ class FieldRecord : public clsPropertyData {
 public:
     void Load(clsCSV& csv) override { LoadFields(Own(), csv); }
     void Save(clsCSV& csv) const override { SaveFields(Own(), csv); }
-    std::shared_ptr<clsPropertyData> Copy() const override {
-        return std::make_shared<Self>(Own());
-    }
+    std::shared_ptr<clsPropertyData> Copy() const override { return std::make_shared<Self>(Own()); }
     void CopyTo(clsPropertyData& target) const override { CopyRecord(Own(), target); }
     void TellFields(const FieldSink& sink) const override { tamber::TellFields(Own(), sink); }
     bool SetField(StringView name, StringView value) override {

@@ -183,16 +183,10 @@ private:
     std::filesystem::path root_;
 };
 
-TEST_F(ProjectFile, ComesBackCellForCellWithEachKind) {
-    Project project;
-    ASSERT_TRUE(Load(WholeProject(), project));
-    EXPECT_TRUE(ui_.Messages.empty());
-    EXPECT_EQ(Cells(project), WholeProject());
-}
-
 TEST_F(ProjectFile, FillsTheRecords) {
     Project project;
     ASSERT_TRUE(Load(WholeProject(), project));
+    EXPECT_TRUE(ui_.Messages.empty());
     const auto& symbols = *project.colSymbol;
     EXPECT_EQ(symbols(1)->FilePathName, JoinPath(JoinPath(folder_, u"絵"), u"表.bmp"));
     EXPECT_TRUE(symbols(1)->blExport);
