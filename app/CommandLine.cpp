@@ -39,33 +39,38 @@ constexpr const char* Usage =
     "Tamber disassemble FILE.swf           tags and actions of a movie\n"
     "Tamber --version | --help\n"
     "\n"
-    "--home DIR   the program's folder, with its settings and data\n"
-    "--yes        answers questions with yes\n";
+    "--home DIR     the program's folder, with its settings and data\n"
+    "--yes          answers questions with yes\n"
+    "--assets DIR   looks there for files that are missing, by their names\n"
+    "--skip-broken  opens a project without the files that are missing or cannot be read\n";
 
 /// The arguments, sorted into options and the rest.
 struct Options {
     std::vector<std::string> Words;
     std::string Output;
     std::string Home;
+    std::string Assets;
     std::vector<std::string> Settings;
     bool Strict = false;
     bool Html = false;
     bool List = false;
     bool Json = false;
     bool Yes = false;
+    bool SkipBroken = false;
     bool Help = false;
     bool Version = false;
     std::string Error;
 };
 
 bool TakesValue(const std::string& name) {
-    return name == "-o" || name == "--set" || name == "--home";
+    return name == "-o" || name == "--set" || name == "--home" || name == "--assets";
 }
 
 void TakeValue(Options& options, const std::string& name, const std::string& value) {
     if (name == "-o") options.Output = value;
     if (name == "--set") options.Settings.push_back(value);
     if (name == "--home") options.Home = value;
+    if (name == "--assets") options.Assets = value;
 }
 
 bool TakeFlag(Options& options, const std::string& name) {
@@ -74,6 +79,7 @@ bool TakeFlag(Options& options, const std::string& name) {
     if (name == "--html") return options.Html = true;
     if (name == "--json") return options.Json = true;
     if (name == "--yes") return options.Yes = true;
+    if (name == "--skip-broken") return options.SkipBroken = true;
     if (name == "--help" || name == "-h") return options.Help = true;
     if (name == "--version") return options.Version = true;
     return false;
@@ -113,6 +119,11 @@ int Print(const std::string& text) {
 
 String PathOf(const std::string& word) {
     return AbsolutePath(FromNarrow(word));
+}
+
+ConsoleAnswers AnswersOf(const Options& options) {
+    return {options.Yes, options.SkipBroken,
+            options.Assets.empty() ? String() : PathOf(options.Assets)};
 }
 
 bool LoadFor(frmMain& controller, const std::string& word) {
@@ -176,7 +187,7 @@ int Batch(const Options& options) {
         ShowMessage(PathOf(options.Words[1]) + u"\r\n\r\nファイルが見つかりません。");
         return CouldNot;
     }
-    BatchUserInterface interface(options.Yes);
+    BatchUserInterface interface(AnswersOf(options));
     const UserInterfaceScope scope(interface);
     frmMain controller;
     controller.Form_Load();
@@ -185,6 +196,7 @@ int Batch(const Options& options) {
         printed = Print(text) == Done && printed;
     };
     const bool done = BatchRunner({controller, &interface, print}).Run(*script);
+    if (controller.HasUnsavedWork()) interface.Status(u"プロジェクトの変更は保存されていません。");
     return done && printed ? Done : CouldNot;
 }
 
@@ -222,7 +234,7 @@ int RunCommandLine(const std::vector<std::string>& arguments, const std::string&
     if (!options.Error.empty()) return RefuseUsage(options.Error);
     if (options.Help) return Print(Usage);
     if (options.Version) return Print("Tamber " + ToNarrow(VersionText()) + "\n");
-    ConsoleUserInterface console(options.Yes);
+    ConsoleUserInterface console(AnswersOf(options));
     const UserInterfaceScope scope(console);
     ProgramFolder(options.Home.empty() ? GetFileFolder(PathOf(programPath)) : PathOf(options.Home));
     for (const std::string& setting : options.Settings)

@@ -11,6 +11,7 @@ namespace {
 class NoAssets : public ProjectAssets {
 public:
     bool LoadFile(clsSymbolData&, Notices&) const override { return true; }
+    void SetPlaceholder(clsSymbolData&) const override {}
     bool FontAvailable(StringView) const override { return true; }
     String DefaultFont() const override { return u"_sans"; }
     bool SubstituteAvailable() const override { return true; }

@@ -88,7 +88,7 @@ private:
     void FitFont(clsSymbolData& symbol);
     String FontInstead() const;
     void LoadAsset(clsSymbolData& symbol);
-    void ChooseFile(clsSymbolData& symbol);
+    String ChooseFile(const clsSymbolData& symbol);
     void ReadReferences();
     std::shared_ptr<clsSymbolData> TakeReference();
     void SeparateIds();
@@ -109,6 +109,8 @@ private:
     Notices told_;
     /// Words of unknown kinds that were told.
     std::set<String> unknownWords_;
+    /// Files that the user would go without.
+    std::set<String> withoutFile_;
     /// Fonts that were looked for, and what stands for those that are not available.
     std::unordered_map<String, String> fontsFor_;
     /// By the numbers of the file, of which rows tell. The first of a kind only.
@@ -256,26 +258,34 @@ void Reader::FitFont(clsSymbolData& symbol) {
     name = known->second;
 }
 
-void Reader::ChooseFile(clsSymbolData& symbol) {
+/// The file to take in place of one that is missing; empty when the user knows none.
+String Reader::ChooseFile(const clsSymbolData& symbol) {
     told_.push_back({symbol.FilePathName + u"\r\n\r\nファイルが見つかりません。"});
     ShowTold();
     FileDialog dialog;
     dialog.Title = u"ファイル選択";
     dialog.Filters.push_back(SymbolFileFilter(symbol.eType()));
-    const String chosen = CurrentUserInterface().OpenFileDialog(dialog);
-    if (chosen.empty()) throw LoadStopped();
-    symbol.FilePathName = chosen;
+    dialog.FileName = GetFileName(symbol.FilePathName);
+    return CurrentUserInterface().OpenFileDialog(dialog);
 }
 
 void Reader::LoadAsset(clsSymbolData& symbol) {
-    const String file = FindFile(symbol.FilePathName);
-    if (file.empty())
-        ChooseFile(symbol);
-    else
-        symbol.FilePathName = file;
-    if (assets_.LoadFile(symbol, told_)) return;
-    told_.push_back({u"ファイルの読み込みに失敗しました。", u"読み込みエラー", MessageIcon::Error});
-    throw LoadStopped();
+    const String stored = symbol.FilePathName;
+    if (withoutFile_.contains(stored)) return assets_.SetPlaceholder(symbol);
+    const String found = FindFile(stored);
+    symbol.FilePathName = found.empty() ? ChooseFile(symbol) : found;
+    if (!symbol.FilePathName.empty()) {
+        if (FileExists(symbol.FilePathName) && assets_.LoadFile(symbol, told_)) return;
+        told_.push_back({u"ファイルの読み込みに失敗しました。\r\n\r\n" + symbol.FilePathName,
+                         u"読み込みエラー", MessageIcon::Error});
+        ShowTold();
+    }
+    symbol.FilePathName = stored;
+    if (!CurrentUserInterface().AskToSkip(u"このファイルなしでプロジェクトを開きますか？\r\n\r\n" +
+                                          stored))
+        throw LoadStopped();
+    withoutFile_.insert(stored);
+    assets_.SetPlaceholder(symbol);
 }
 
 /// The symbol whose position stands in the cell, null for 0.

@@ -19,6 +19,8 @@ public:
     /// Fills the record of a symbol, whose file exists, from that file; true for kinds that keep
     /// nothing of it. False when it cannot be read. What there is to tell goes into `told`.
     virtual bool LoadFile(clsSymbolData& symbol, Notices& told) const = 0;
+    /// Fills the record with something to see in place of a file that cannot be had.
+    virtual void SetPlaceholder(clsSymbolData& symbol) const = 0;
     virtual bool FontAvailable(StringView name) const = 0;
     /// Font for texts whose own is not available; it need not be available itself.
     virtual String DefaultFont() const = 0;
@@ -38,7 +40,8 @@ struct ProjectLoad {
 
 /// Reads a project file, plain or compressed. On failure `out` is as before. With `importInto`, the
 /// version of a project that shall take the contents, another version is asked about, and texts
-/// keep their fonts and boxes. What comes before a question is shown when it is asked.
+/// keep their fonts and boxes. What comes before a question is shown when it is asked: files that
+/// are missing or cannot be read are asked about, and symbols that go without theirs keep its path.
 ProjectLoad LoadProject(StringView path, Project& out, const ProjectAssets& assets,
                         std::optional<Long> importInto = std::nullopt);
 

@@ -4,7 +4,9 @@
 
 #include <cstdio>
 
+#include "platform/FindFile.h"
 #include "platform/codepage.h"
+#include "platform/paths.h"
 #include "platform/text.h"
 
 namespace tamber {
@@ -24,12 +26,19 @@ void ConsoleUserInterface::Message(StringView text, StringView title, MessageIco
 
 Answer ConsoleUserInterface::Ask(StringView text, StringView title, Choices choices) {
     PrintLine(ToNarrow(String(title) + u": " + ReplaceAll(text, vbCrLf, u"\n")));
-    if (assumeYes_) return Answer::Yes;
+    if (answers_.AssumeYes) return Answer::Yes;
     return choices == Choices::YesNoCancel ? Answer::Cancel : Answer::No;
 }
 
-String ConsoleUserInterface::OpenFileDialog(const FileDialog&) {
-    return {};
+bool ConsoleUserInterface::AskToSkip(StringView text) {
+    if (!answers_.SkipBroken) return UserInterface::AskToSkip(text);
+    PrintLine(ToNarrow(String(ProgramTitle) + u": " + ReplaceAll(text, vbCrLf, u"\n")));
+    return true;
+}
+
+String ConsoleUserInterface::OpenFileDialog(const FileDialog& dialog) {
+    if (answers_.AssetFolder.empty() || dialog.FileName.empty()) return {};
+    return FindFile(JoinPath(answers_.AssetFolder, dialog.FileName));
 }
 String ConsoleUserInterface::SaveFileDialog(const FileDialog&) {
     return {};

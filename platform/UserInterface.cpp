@@ -8,6 +8,10 @@ namespace {
 thread_local UserInterface* current = nullptr;
 }
 
+bool UserInterface::AskToSkip(StringView text) {
+    return Ask(text, ProgramTitle, Choices::YesNo) == Answer::Yes;
+}
+
 UserInterface& CurrentUserInterface() {
     static ConsoleUserInterface console;
     return current != nullptr ? *current : console;
@@ -17,6 +21,8 @@ UserInterfaceScope::UserInterfaceScope(UserInterface& interface) : previous_(cur
     current = &interface;
 }
 
-UserInterfaceScope::~UserInterfaceScope() { current = previous_; }
+UserInterfaceScope::~UserInterfaceScope() {
+    current = previous_;
+}
 
 }  // namespace tamber

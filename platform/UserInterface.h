@@ -33,6 +33,8 @@ public:
     virtual void Message(StringView text, StringView title, MessageIcon icon) = 0;
     /// Asks. Without a person the safe answer comes back: Cancel where there is one, else No.
     virtual Answer Ask(StringView text, StringView title, Choices choices) = 0;
+    /// Asks whether to go on without something that cannot be had; not to is the safe answer.
+    virtual bool AskToSkip(StringView text);
     /// Path to open or to write, empty when cancelled.
     virtual String OpenFileDialog(const FileDialog& dialog) = 0;
     virtual String SaveFileDialog(const FileDialog& dialog) = 0;

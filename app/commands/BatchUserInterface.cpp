@@ -9,4 +9,18 @@ Answer BatchUserInterface::Ask(StringView text, StringView title, Choices choice
     return answer;
 }
 
+String BatchUserInterface::OpenFileDialog(const FileDialog& dialog) {
+    return Paths.empty() ? ConsoleUserInterface::OpenFileDialog(dialog) : NextPath();
+}
+
+String BatchUserInterface::SaveFileDialog(const FileDialog& dialog) {
+    return Paths.empty() ? ConsoleUserInterface::SaveFileDialog(dialog) : NextPath();
+}
+
+String BatchUserInterface::NextPath() {
+    String path = Paths.front();
+    Paths.pop_front();
+    return path;
+}
+
 }  // namespace tamber

@@ -115,10 +115,16 @@ bool ShowFrame(CommandContext& context, const CommandArguments& arguments) {
 }
 
 bool AnswerNext(CommandContext& context, const CommandArguments& arguments) {
+    const bool isFile = FoldCase(arguments[0]) == u"file";
+    if (context.Interface == nullptr || isFile != (arguments.size() == 2)) return false;
+    if (isFile) {
+        context.Interface->Paths.push_back(AbsolutePath(arguments[1]));
+        return true;
+    }
     const std::map<StringView, Answer> answers{
         {u"yes", Answer::Yes}, {u"no", Answer::No}, {u"cancel", Answer::Cancel}};
     const auto answer = answers.find(FoldCase(arguments[0]));
-    if (context.Interface == nullptr || answer == answers.end()) return false;
+    if (answer == answers.end()) return false;
     context.Interface->Answers.push_back(answer->second);
     return true;
 }
@@ -178,7 +184,7 @@ constexpr Command Commands[]{
      {{{u"元に戻す", u"Ctrl+Z", u"0", CanUndo}, {u"やり直し", u"Ctrl+Y", u"1", CanRedo}}}},
     {u"mnuAuthoring", u"PATH", 1, 1, Authoring, {{{u"SWFファイル生成", u"Ctrl+E"}}}},
     {u"ShowEditSWFBitmap", u"[FRAME]", 0, 1, ShowFrame},
-    {u"Answer", u"yes|no|cancel", 1, 1, AnswerNext},
+    {u"Answer", u"yes|no|cancel|file [PATH]", 1, 2, AnswerNext},
     {u"Print", u"", 0, 0, Print},
 };
 

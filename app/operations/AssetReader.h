@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/operations/Placeholder.h"
 #include "document/ProjectReader.h"
 #include "platform/fonts.h"
 #include "swf/authoring/TextMeasure.h"
@@ -17,6 +18,7 @@ public:
     AssetReader& operator=(const AssetReader&) = delete;
 
     bool LoadFile(clsSymbolData& symbol, Notices& told) const override;
+    void SetPlaceholder(clsSymbolData& symbol) const override { tamber::SetPlaceholder(symbol); }
     bool FontAvailable(StringView name) const override { return FontInstalled(name); }
     String DefaultFont() const override;
     bool SubstituteAvailable() const override { return SubstituteInstalled(); }

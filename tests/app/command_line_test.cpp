@@ -294,6 +294,28 @@ TEST_F(CommandLineTest, holds_on_to_sense_in_settings_and_output) {
               std::string::npos);
 }
 
+TEST_F(CommandLineTest, goes_on_without_files_or_finds_them_elsewhere_when_told_to) {
+    const fs::path example = fs::path(TAMBER_SOURCE_DIR) / "examples/hello";
+    fs::copy(example / "hello.kvf", folder / "lost.kvf");
+    EXPECT_EQ(Tamber("generate lost.kvf").Code, 1);
+    EXPECT_EQ(Tamber("generate lost.kvf --skip-broken").Code, 0);
+    EXPECT_EQ(Tamber("generate lost.kvf --assets '" + example.string() + "'").Code, 0);
+    std::ofstream(folder / "夜空.jpg") << "no picture";
+    const Outcome run = Tamber("generate lost.kvf --assets '" + example.string() + "'");
+    EXPECT_EQ(run.Code, 1);
+    EXPECT_NE(run.Errors.find("失敗しました。\n\n" + (folder / "夜空.jpg").string()),
+              std::string::npos)
+        << run.Errors;
+    std::ofstream batch(folder / "batch.txt");
+    for (const char* name : {"月.png", "星.gif", "丘.bmp"})
+        batch << "Answer file \"" << (example / name).string() << "\"\n";
+    batch << "Answer yes\nOpenProject lost.kvf\nmnuPrjProperty 100 100 12 8\n";
+    batch.close();
+    const Outcome edited = Tamber("batch batch.txt");
+    EXPECT_EQ(edited.Code, 0) << edited.Errors;
+    EXPECT_NE(edited.Errors.find("変更は保存されていません"), std::string::npos);
+}
+
 TEST_F(CommandLineTest, without_a_command_starts_and_stops_and_has_no_window) {
     const Outcome run = Tamber("");
     EXPECT_EQ(run.Code, 0);

@@ -1,7 +1,10 @@
 #include "app/settings/mdlPrivateProfile.h"
 #include "document/elements/clsObjBackGround.h"
+#include "document/records/clsPropertyBmp.h"
+#include "document/records/clsPropertyVector.h"
 #include "platform/codepage.h"
 #include "platform/files.h"
+#include "swf/mdlZlib.h"
 #include "tests/support/ControllerTest.h"
 
 namespace tamber {
@@ -251,6 +254,25 @@ TEST_F(ProjectCommands, page_settings_of_a_file_become_those_of_the_program) {
     Bytes kept;
     EXPECT_TRUE(ReadFileBytes(Path(u"app.ini"), kept));
     EXPECT_NE(DecodeAnsi(kept).find(u"WIDTH=8"), String::npos);
+}
+
+TEST_F(ProjectCommands, a_frame_stands_for_a_file_that_cannot_be_had) {
+    const String text =
+        u"KVF,0,9,0\r\n1,1,1,8\r\n2\r\n1,gone.bmp,画像,,,,True,1,2,3,True,BL,50,True,80\r\n"
+        u"2,gone.svg,ﾍﾞｸﾀ,,,,False\r\n0\r\n0\r\n";
+    ASSERT_TRUE(WriteFileBytes(EncodeAnsi(text), Path(u"a.kvf")));
+    interface_.Answers = {Answer::Yes, Answer::Yes};
+    ASSERT_TRUE(main_.OpenProject(Path(u"a.kvf")));
+    const auto& picture = *(*main_.colSymbol())(1)->Property<clsPropertyBmp>();
+    EXPECT_EQ(picture.Width, 32);
+    const Bytes pixels = mdlZlib::ZlibUncompress(picture.bufBmp, 32 * 32 * 4).value_or(Bytes());
+    ASSERT_EQ(pixels.size(), 32u * 32 * 4);
+    // Alpha, red, green, blue: the corner and what it frames.
+    EXPECT_EQ(Bytes(pixels.begin(), pixels.begin() + 4), (Bytes{255, 128, 128, 128}));
+    EXPECT_EQ(pixels[33 * 4], 0);
+    const auto& drawing = *(*main_.colSymbol())(2)->Property<clsPropertyVector>();
+    EXPECT_EQ(drawing.height, 32);
+    EXPECT_EQ(drawing.ShapeCount(), 1);
 }
 
 TEST_F(ProjectCommands, recent_files_move_to_the_front_without_case) {

@@ -34,13 +34,18 @@ constexpr StringView damagedText =
 class Listener : public UserInterface {
 public:
     std::vector<std::pair<String, String>> Messages;
+    std::vector<String> Questions;
+    Answer Consent = Answer::Cancel;
     String Choice;
     String DialogTitle;
 
     void Message(StringView text, StringView title, MessageIcon) override {
         Messages.emplace_back(text, title);
     }
-    Answer Ask(StringView, StringView, Choices) override { return Answer::Cancel; }
+    Answer Ask(StringView text, StringView, Choices) override {
+        Questions.emplace_back(text);
+        return Consent;
+    }
     String OpenFileDialog(const FileDialog& dialog) override {
         DialogTitle = dialog.Title;
         return Choice;
@@ -54,6 +59,7 @@ public:
 class FakeAssets : public ProjectAssets {
 public:
     bool Readable = true;
+    mutable std::vector<String> Placeholders;
     std::vector<String> Missing;
     bool HasSubstitute = false;
 
@@ -63,6 +69,9 @@ public:
             picture->height = 20;
         }
         return Readable;
+    }
+    void SetPlaceholder(clsSymbolData& symbol) const override {
+        Placeholders.push_back(symbol.FilePathName);
     }
     bool FontAvailable(StringView name) const override {
         return std::find(Missing.begin(), Missing.end(), name) == Missing.end();
@@ -484,8 +493,30 @@ TEST_F(ProjectFile, AsksForAMissingFile) {
     assets_.Readable = false;
     EXPECT_FALSE(Load(text, project));
     ASSERT_EQ(ui_.Messages.size(), 3U);
-    EXPECT_EQ(ui_.Messages[1].first, u"ファイルの読み込みに失敗しました。");
+    EXPECT_EQ(ui_.Messages[1].first, u"ファイルの読み込みに失敗しました。\r\n\r\n" + ui_.Choice);
     EXPECT_EQ(ui_.Messages[1].second, u"読み込みエラー");
+}
+
+TEST_F(ProjectFile, OpensWithoutAFileOnRequestAndKeepsItsRow) {
+    const String text =
+        u"KVF,0,9,0\r\n1,1,1,8\r\n3\r\n"
+        u"1,gone.bmp,画像,,,,True,1,2,3,True,BL,50,True,80\r\n"
+        u"2,絵\\表.bmp,画像,,,,False,0,0,0,False,CR,100,False,70\r\n"
+        u"3,gone.bmp,画像,,,,False,0,0,0,False,CR,100,False,70\r\n0\r\n";
+    assets_.Readable = false;
+    Project project;
+    EXPECT_FALSE(Load(text, project));
+    EXPECT_EQ(ui_.Messages.back().first, u"プロジェクトを開けませんでした。");
+    ui_.Consent = Answer::Yes;
+    ui_.Questions.clear();
+    ASSERT_TRUE(Load(text, project));
+    const String gone = JoinPath(folder_, u"gone.bmp");
+    const String damaged = JoinPath(JoinPath(folder_, u"絵"), u"表.bmp");
+    const String question = u"このファイルなしでプロジェクトを開きますか？\r\n\r\n";
+    // One file is asked about once.
+    EXPECT_EQ(ui_.Questions, (std::vector<String>{question + gone, question + damaged}));
+    EXPECT_EQ(assets_.Placeholders, (std::vector<String>{gone, damaged, gone}));
+    EXPECT_EQ(Cells(project), text);
 }
 
 TEST_F(ProjectFile, TellsOfEachFontThatIsNotAvailableOnce) {

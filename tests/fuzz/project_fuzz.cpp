@@ -21,6 +21,7 @@ public:
 class AnyAssets : public ProjectAssets {
 public:
     bool LoadFile(clsSymbolData&, Notices&) const override { return true; }
+    void SetPlaceholder(clsSymbolData&) const override {}
     bool FontAvailable(StringView) const override { return true; }
     String DefaultFont() const override { return u"_sans"; }
     bool SubstituteAvailable() const override { return true; }
