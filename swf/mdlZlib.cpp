@@ -69,7 +69,7 @@ std::optional<Bytes> ZlibUncompress(ByteView source, std::size_t limit) {
         zip.next_out = result.data() + done;
         zip.avail_out = static_cast<uInt>(result.size() - done);
         status = inflate(&zip, Z_NO_FLUSH);
-        result.resize(result.size() - zip.avail_out);
+        result.erase(result.end() - static_cast<std::ptrdiff_t>(zip.avail_out), result.end());
         if (status == Z_OK && zip.avail_out != 0) break;
     }
     inflateEnd(&zip);

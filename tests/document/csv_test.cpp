@@ -18,7 +18,7 @@ std::vector<Row> Table(const clsCSV& csv) {
     return rows;
 }
 
-TEST(CellStream, CutsTextIntoCells) {
+TEST(CellStream, cuts_text_into_cells) {
     const struct {
         StringView Text;
         std::vector<Row> Cells;
@@ -52,7 +52,7 @@ TEST(CellStream, CutsTextIntoCells) {
     }
 }
 
-TEST(CellStream, KeepsTheQuoteBeforeAStrayCharacterByWholePiecesOf256) {
+TEST(CellStream, keeps_the_quote_before_a_stray_character_by_whole_pieces_of_256) {
     clsCSV csv;
     csv.Text(u"\"" + String(256, u'a') + u"\"b\"");
     EXPECT_EQ(csv.Value(), String(256, u'a') + u"b");
@@ -60,7 +60,7 @@ TEST(CellStream, KeepsTheQuoteBeforeAStrayCharacterByWholePiecesOf256) {
     EXPECT_EQ(csv.Value(), String(257, u'a') + u"\"b");
 }
 
-TEST(CellStream, WritesCellsAsText) {
+TEST(CellStream, writes_cells_as_text) {
     clsCSV csv;
     csv.Put(u"plain");
     csv.Put(u"a,b");
@@ -75,7 +75,7 @@ TEST(CellStream, WritesCellsAsText) {
     EXPECT_EQ(csv.colS(), 6);
 }
 
-TEST(CellStream, GrowsARowByTheGivenNumberOfCells) {
+TEST(CellStream, grows_a_row_by_the_given_number_of_cells) {
     clsCSV csv;
     csv.DefColSize(4);
     csv.SetValue(u"x", 1, 0);
@@ -87,7 +87,7 @@ TEST(CellStream, GrowsARowByTheGivenNumberOfCells) {
     EXPECT_EQ(csv.RowLength(0), 9);
 }
 
-TEST(CellStream, ReadingOutsideTheTableChangesNothing) {
+TEST(CellStream, reading_outside_the_table_changes_nothing) {
     clsCSV csv;
     csv.Text(u"a\r\n");
     EXPECT_EQ(csv.GetValue(5, 0), u"");
@@ -96,7 +96,7 @@ TEST(CellStream, ReadingOutsideTheTableChangesNothing) {
     EXPECT_FALSE(csv.SetValue(u"x", -2, 0));
 }
 
-TEST(CellStream, MovesItsCursorWithinBounds) {
+TEST(CellStream, moves_its_cursor_within_bounds) {
     clsCSV csv;
     csv.Left();
     csv.Up();
@@ -119,7 +119,7 @@ TEST(CellStream, MovesItsCursorWithinBounds) {
     EXPECT_THROW(csv.DefColSize(0), RuntimeError);
 }
 
-TEST(CellStream, KeepsRowsApartWhenAnEarlierOneGrows) {
+TEST(CellStream, keeps_rows_apart_when_an_earlier_one_grows) {
     clsCSV csv;
     csv.Text(u"a,b\r\nc,d\r\n");
     for (Long col = 2; col < 40; ++col) csv.SetValue(u"1", col, 0);
@@ -130,7 +130,7 @@ TEST(CellStream, KeepsRowsApartWhenAnEarlierOneGrows) {
     EXPECT_EQ(csv.GetSelText(0, 1, -1, 1), u"c,d,e\r\n");
 }
 
-TEST(CellStream, InsertsAndDeletesRowsAndColumns) {
+TEST(CellStream, inserts_and_deletes_rows_and_columns) {
     clsCSV csv;
     csv.Text(u"a,b,c\r\nd\r\ne,f,g\r\n");
     csv.SetPosition(2, 1);
@@ -148,7 +148,7 @@ TEST(CellStream, InsertsAndDeletesRowsAndColumns) {
     EXPECT_EQ(csv.colS(), 1);
 }
 
-TEST(CellStream, SeeksAndSums) {
+TEST(CellStream, seeks_and_sums) {
     clsCSV csv;
     csv.Text(u"k1,3\r\nk2,x,9\r\nj,4.5\r\n");
     EXPECT_EQ(csv.SeekColumn(u"k*", 0, 0, false), 0);
@@ -161,7 +161,7 @@ TEST(CellStream, SeeksAndSums) {
     EXPECT_EQ(csv.Count(2, 0, 2, 2, u""), 2);
 }
 
-TEST(CellStream, WritesAListFromTheCursorAndStaysThere) {
+TEST(CellStream, writes_a_list_from_the_cursor_and_stays_there) {
     clsCSV csv;
     csv.X(1);
     const std::vector<String> values{u"a", u"b"};
@@ -170,14 +170,14 @@ TEST(CellStream, WritesAListFromTheCursorAndStaysThere) {
     EXPECT_EQ(csv.X(), 1);
 }
 
-TEST(CellStream, CutsACommandLineAtBlanks) {
+TEST(CellStream, cuts_a_command_line_at_blanks) {
     clsCSV csv;
     csv.SeparateCode(32);
     csv.Text(u"run \"C:\\My Files\\a.kvf\" -x");
     EXPECT_EQ(Table(csv), (std::vector<Row>{{u"run", u"C:\\My Files\\a.kvf", u"-x"}}));
 }
 
-TEST(CellStream, ReadsMillionsOfEmptyRowsWithoutMakingTheirCells) {
+TEST(CellStream, reads_millions_of_empty_rows_without_making_their_cells) {
     clsCSV csv;
     csv.DefColSize(128);
     csv.Text(String(2'000'000, u'\n'));
@@ -185,7 +185,7 @@ TEST(CellStream, ReadsMillionsOfEmptyRowsWithoutMakingTheirCells) {
     EXPECT_EQ(csv.colS(), 1);
 }
 
-TEST(CellStream, TellsItsProgressAtEachRow) {
+TEST(CellStream, tells_its_progress_at_each_row) {
     clsCSV csv;
     std::vector<std::size_t> seen;
     csv.Progress = [&seen](std::size_t position, std::size_t) { seen.push_back(position); };

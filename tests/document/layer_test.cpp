@@ -44,7 +44,7 @@ std::vector<Span> Spans(const clsLayer& layer) {
     return spans;
 }
 
-TEST(Layer, AddsKeyFramesInOrderAndRefusesATakenFrame) {
+TEST(Layer, adds_key_frames_in_order_and_refuses_a_taken_frame) {
     auto layer = MakeLayer({{5, 2}});
     Long index = 0;
     layer->Add(5, nullptr, index);
@@ -56,7 +56,7 @@ TEST(Layer, AddsKeyFramesInOrderAndRefusesATakenFrame) {
     EXPECT_EQ(Spans(*layer), (std::vector<Span>{{1, 1}, {5, 2}, {7, 1}}));
 }
 
-TEST(Layer, KeepsItsLastKeyFrame) {
+TEST(Layer, keeps_its_last_key_frame) {
     auto layer = MakeLayer({{1, 1}, {2, 1}});
     layer->SelectIndex = 2;
     layer->Remove(1);
@@ -71,7 +71,7 @@ TEST(Layer, KeepsItsLastKeyFrame) {
     EXPECT_EQ(layer->ObjectCount(), 0);
 }
 
-TEST(Layer, ShiftsSpansRightAndLeft) {
+TEST(Layer, shifts_spans_right_and_left) {
     const struct {
         const char* Name;
         bool Right;
@@ -121,7 +121,7 @@ TEST(Layer, ShiftsSpansRightAndLeft) {
     }
 }
 
-TEST(Layer, FitsTheSpansAroundAMovedKeyFrame) {
+TEST(Layer, fits_the_spans_around_a_moved_key_frame) {
     const struct {
         const char* Name;
         std::vector<Span> Before;
@@ -147,7 +147,7 @@ TEST(Layer, FitsTheSpansAroundAMovedKeyFrame) {
     }
 }
 
-TEST(Layer, FindsTheEndsOfTweensAndBlocks) {
+TEST(Layer, finds_the_ends_of_tweens_and_blocks) {
     auto layer = MakeLayer({{1, 2}, {3, 2, false, true}, {5, 2, false, true}, {7, 2}, {10, 1}});
     EXPECT_EQ(layer->tweenStartFrame(4), 3);
     EXPECT_EQ(layer->tweenEndFrame(2), 7);
@@ -159,7 +159,7 @@ TEST(Layer, FindsTheEndsOfTweensAndBlocks) {
     EXPECT_EQ(layer->blockEndFrame(1), 2);
 }
 
-TEST(Layer, RefusesFramesOutOfRange) {
+TEST(Layer, refuses_frames_out_of_range) {
     clsLayerObject object;
     try {
         object.StartFrame(0);
@@ -176,7 +176,7 @@ TEST(Layer, RefusesFramesOutOfRange) {
     EXPECT_EQ(object.DispCount(), 3);
 }
 
-TEST(Layer, FoldersNestAndHideTheirRows) {
+TEST(Layer, folders_nest_and_hide_their_rows) {
     Collection<clsLayer> layers;
     for (const Long kind : {KindLayerFolder, KindLayerFolder, KindBitmap, KindBitmap})
         layers.Add(MakeLayer({{1, 1}}, kind));
@@ -198,7 +198,7 @@ TEST(Layer, FoldersNestAndHideTheirRows) {
     EXPECT_EQ(layers(2)->Folder()->LayerCount, 4);
 }
 
-TEST(Layer, AnotherKindOfSymbolKeepsPlacementAndFrames) {
+TEST(Layer, another_kind_of_symbol_keeps_placement_and_frames) {
     auto layer = MakeLayer({{2, 3, true}}, KindBitmap);
     layer->Object(1)->Placement()->X(12.5F);
     layer->SymbolData(std::make_shared<clsSymbolData>(KindVector));
@@ -207,7 +207,7 @@ TEST(Layer, AnotherKindOfSymbolKeepsPlacementAndFrames) {
     EXPECT_EQ(Spans(*layer), (std::vector<Span>{{2, 3, true}}));
 }
 
-TEST(Layer, CopiesStandAlone) {
+TEST(Layer, copies_stand_alone) {
     auto layer = MakeLayer({{1, 1}});
     layer->Object(1)->Placement()->Addtp(std::make_shared<clsTweenPointData>());
     auto copy = layer->Copy();
@@ -218,7 +218,7 @@ TEST(Layer, CopiesStandAlone) {
     EXPECT_EQ(layer->Object(1)->StartFrame(), 1);
 }
 
-TEST(Layer, WrapsASimpleActionInItsEvent) {
+TEST(Layer, wraps_a_simple_action_in_its_event) {
     clsLayer layer;
     EXPECT_EQ(layer.Script(8), u"");
     layer.inScript.eScriptMode(clsScriptData::ModeStop);
@@ -231,7 +231,7 @@ TEST(Layer, WrapsASimpleActionInItsEvent) {
     EXPECT_EQ(layer.OnEventName(), u"press");
 }
 
-TEST(Layer, CountsItsDepths) {
+TEST(Layer, counts_its_depths) {
     auto layer = MakeLayer({{1, 1, false, true}, {2, 1}, {3, 1}}, KindVector);
     auto& drawing = *layer->SymbolData()->Property<clsPropertyVector>();
     auto artwork = std::make_shared<clsVectorData>();
@@ -257,7 +257,7 @@ TEST(Layer, CountsItsDepths) {
     EXPECT_EQ(hidden->DepthCnt(false), 0);
 }
 
-TEST(Placement, RoundsAndClampsWhatIsSet) {
+TEST(Placement, rounds_and_clamps_what_is_set) {
     clsLayerObjElement element;
     element.X(1.26F);
     EXPECT_EQ(element.X(), 1.3F);
@@ -275,7 +275,7 @@ TEST(Placement, RoundsAndClampsWhatIsSet) {
     EXPECT_EQ(element.Angle(), 720.0F);
 }
 
-TEST(Placement, ChoosesTheCurveInUse) {
+TEST(Placement, chooses_the_curve_in_use) {
     clsLayerObjElement element;
     EXPECT_EQ(&element.EdgingTbl(true), &element.EdgingTblXY);
     element.EdgingAllMode = 2;
@@ -285,7 +285,7 @@ TEST(Placement, ChoosesTheCurveInUse) {
     EXPECT_EQ(&element.EdgingTbl(true), &element.EdgingTblPrm);
 }
 
-TEST(Placement, CopiesThePathOnlyWhenAsked) {
+TEST(Placement, copies_the_path_only_when_asked) {
     clsLayerObjElement from;
     from.Addtp(std::make_shared<clsTweenPointData>());
     clsLayerObjElement to;
@@ -299,7 +299,7 @@ TEST(Placement, CopiesThePathOnlyWhenAsked) {
     EXPECT_FALSE(from.Compare(to));
 }
 
-TEST(Script, ComposesSimpleActions) {
+TEST(Script, composes_simple_actions) {
     const struct {
         Long Mode, Prm1, Prm2;
         StringView Str1, Str2, Target, Script, Comment;
@@ -331,7 +331,7 @@ TEST(Script, ComposesSimpleActions) {
     }
 }
 
-TEST(Script, JumpModeDropsParametersOfOtherModes) {
+TEST(Script, jump_mode_drops_parameters_of_other_modes) {
     clsScriptData script;
     script.nPrm1 = 7;
     script.nPrm2 = 1;
@@ -340,14 +340,14 @@ TEST(Script, JumpModeDropsParametersOfOtherModes) {
     EXPECT_EQ(script.nPrm2, 1);
 }
 
-TEST(Script, IsCutForAToolTip) {
+TEST(Script, is_cut_for_a_tool_tip) {
     clsScriptData script;
     script.ScriptText = u"a\t&bc";
     EXPECT_EQ(script.PrevScript(5, 8), u"a    &&bc");
     EXPECT_EQ(script.PrevScript(3, 8), u"a    &&...");
 }
 
-TEST(EdgingTable, IsEditedBetweenItsFixedEnds) {
+TEST(EdgingTable, is_edited_between_its_fixed_ends) {
     clsEdgingTable table;
     EXPECT_EQ(table.InsertPoint({0.5f, 2}), 1u);
     EXPECT_EQ(table.InsertPoint({0.25f, 0.5f}), 1u);

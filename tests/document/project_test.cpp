@@ -192,7 +192,7 @@ private:
     std::filesystem::path root_;
 };
 
-TEST_F(ProjectFile, FillsTheRecords) {
+TEST_F(ProjectFile, fills_the_records) {
     Project project;
     ASSERT_TRUE(Load(WholeProject(), project));
     EXPECT_TRUE(ui_.Messages.empty());
@@ -234,7 +234,7 @@ TEST_F(ProjectFile, FillsTheRecords) {
     EXPECT_EQ(project.Html->quality, u"high");
 }
 
-TEST_F(ProjectFile, SavesPlainAndCompressedAndReadsByContent) {
+TEST_F(ProjectFile, saves_plain_and_compressed_and_reads_by_content) {
     Project project;
     ASSERT_TRUE(Load(WholeProject(), project));
     ASSERT_TRUE(SaveProject(path_, project, nullptr));
@@ -260,7 +260,7 @@ TEST_F(ProjectFile, SavesPlainAndCompressedAndReadsByContent) {
     EXPECT_EQ(again.colSymbol->Count(), 14);
 }
 
-TEST_F(ProjectFile, ReadsAnEmptyProject) {
+TEST_F(ProjectFile, reads_an_empty_project) {
     const String text = u"KVF,0,9,0\r\n550,400,12,7\r\n0\r\n0\r\n";
     Project project;
     ASSERT_TRUE(Load(text, project));
@@ -268,7 +268,7 @@ TEST_F(ProjectFile, ReadsAnEmptyProject) {
     EXPECT_EQ(Cells(project), text);
 }
 
-TEST_F(ProjectFile, RemarksAndButtonLinkageDoNotSurvive) {
+TEST_F(ProjectFile, remarks_and_button_linkage_do_not_survive) {
     const String button =
         u"1,,ﾎﾞﾀﾝ,name,cls,Export,B,False,False,0,0,0,0,False,False\r\n0,0,0,0\r\n";
     const String text = u"KVF,0,9,0\r\n1,1,1,8\r\n1\r\n" + button +
@@ -282,7 +282,7 @@ TEST_F(ProjectFile, RemarksAndButtonLinkageDoNotSurvive) {
     EXPECT_NE(Cells(project).find(u"ﾎﾞﾀﾝ,name,"), String::npos);
 }
 
-TEST_F(ProjectFile, ReadsOlderLayouts) {
+TEST_F(ProjectFile, reads_older_layouts) {
     // Version 0.5.5: no class, event, target, visibility or skew cells, no curves, no matrices.
     const String filters =
         u"False,100,100,100,100,0,0,0,0,False,0,0,0,100,2,2,45,5,1,False,False,True,2,False,4,4,2,"
@@ -315,7 +315,7 @@ TEST_F(ProjectFile, ReadsOlderLayouts) {
     EXPECT_TRUE(symbols(2)->blExport);
 }
 
-TEST_F(ProjectFile, AButtonMayEndBeforeItsGrid) {
+TEST_F(ProjectFile, a_button_may_end_before_its_grid) {
     Project project;
     ASSERT_TRUE(
         Load(u"KVF,0,9,0\r\n1,1,1,8\r\n1\r\n1,,ﾎﾞﾀﾝ,,,,B,True\r\n0,0,0,0\r\n0\r\n", project));
@@ -323,13 +323,13 @@ TEST_F(ProjectFile, AButtonMayEndBeforeItsGrid) {
     EXPECT_FALSE((*project.colSymbol)(1)->Property<clsPropertyButton>()->bl9Scale);
 }
 
-TEST_F(ProjectFile, KindsWithAFixedNumberKeepIt) {
+TEST_F(ProjectFile, kinds_with_a_fixed_number_keep_it) {
     Project project;
     ASSERT_TRUE(Load(u"KVF,0,9,0\r\n1,1,1,8\r\n1\r\n7,,―,,,\r\n0\r\n", project));
     EXPECT_EQ((*project.colSymbol)(1)->ID, -1);
 }
 
-TEST_F(ProjectFile, TakesTheMinorVersionAsTwoHexadecimalDigits) {
+TEST_F(ProjectFile, takes_the_minor_version_as_two_hexadecimal_digits) {
     String text = WholeProject();
     Project project;
     ASSERT_TRUE(Load(text.replace(0, 9, u"KVF,0,10,0"), project));
@@ -351,7 +351,7 @@ String ProjectOfTexts(std::initializer_list<StringView> texts) {
            symbols + references + u"0\r\n";
 }
 
-TEST_F(ProjectFile, KeepsCharactersThatTheCodePageLacksInRowsBehindTheTable) {
+TEST_F(ProjectFile, keeps_characters_that_the_code_page_lacks_in_rows_behind_the_table) {
     Project project;
     ASSERT_TRUE(Load(ProjectOfTexts({u"\"a\r\nb\"", u"", u"plain"}), project));
     const auto textOf = [](const Project& from, Long index) -> String& {
@@ -386,7 +386,7 @@ TEST_F(ProjectFile, KeepsCharactersThatTheCodePageLacksInRowsBehindTheTable) {
     EXPECT_EQ((*other.colSymbol)(3)->ObjectName, u"\uD55C");
 }
 
-TEST_F(ProjectFile, PassesOverRowsThatTellOfNoCell) {
+TEST_F(ProjectFile, passes_over_rows_that_tell_of_no_cell) {
     const String text = ProjectOfTexts({u"?"});
     for (const StringView row :
          {u"UNICODE", u"UNICODE,x,6,\\uD55C", u"UNICODE,3,6,\\uD55", u"UNICODE,3,6,\\n",
@@ -398,7 +398,7 @@ TEST_F(ProjectFile, PassesOverRowsThatTellOfNoCell) {
     }
 }
 
-TEST_F(ProjectFile, ReadsATextThatAnEditorTurnedIntoUtf8) {
+TEST_F(ProjectFile, reads_a_text_that_an_editor_turned_into_utf_8) {
     Bytes bytes = EncodeUtf8(WholeProject());
     for (const bool marked : {false, true}) {
         if (marked) bytes.insert(bytes.begin(), {0xEF, 0xBB, 0xBF});
@@ -417,7 +417,7 @@ TEST_F(ProjectFile, ReadsATextThatAnEditorTurnedIntoUtf8) {
     EXPECT_EQ((*project.colMainLayer)(1)->LayerName, u"ﾃｷ");
 }
 
-TEST_F(ProjectFile, KeepsTheRowOfAnUnknownKind) {
+TEST_F(ProjectFile, keeps_the_row_of_an_unknown_kind) {
     const String row = u"1,絵\\表.bmp,新種,a,b,c,1,\"x,y\",,\r\n2,,新種,,,,\r\n";
     const String text = u"KVF,0,9,0\r\n1,1,1,8\r\n2\r\n" + row + u"0\r\n";
     Project project;
@@ -433,7 +433,7 @@ TEST_F(ProjectFile, KeepsTheRowOfAnUnknownKind) {
     EXPECT_EQ(moved.GetSelText(0, 3, 3, 3), u"7,表.bmp,新種,a\r\n");
 }
 
-TEST_F(ProjectFile, FindsFilesByNamesOfAnotherForm) {
+TEST_F(ProjectFile, finds_files_by_names_of_another_form) {
     const String composed = JoinPath(folder_, u"ガÉ.png");
     ASSERT_TRUE(WriteFileBytes(Bytes{1}, composed));
     const String row = u",画像,,,,False,0,0,0,False,CR,100,False,70\r\n";
@@ -454,7 +454,7 @@ TEST_F(ProjectFile, FindsFilesByNamesOfAnotherForm) {
               JoinPath(folder_, u"s.MP3") + u"\r\n\r\nファイルが見つかりません。");
 }
 
-TEST_F(ProjectFile, RowsOfANumberHeldTwiceShowTheSymbolOfTheirKind) {
+TEST_F(ProjectFile, rows_of_a_number_held_twice_show_the_symbol_of_their_kind) {
     const String sprite = u"3,,ｽﾌﾟﾗｲﾄ,,,,A,0,0,0,0,False,0,0,0,0\r\n";
     const String button = u"3,,ﾎﾞﾀﾝ,,,,B,True\r\n";
     const String spriteCells = plainPlacement + u",True,loop,False,5,Random,False,12,spin,";
@@ -474,7 +474,7 @@ TEST_F(ProjectFile, RowsOfANumberHeldTwiceShowTheSymbolOfTheirKind) {
     EXPECT_EQ((*project.colMainLayer)(2)->SymbolData(), symbols(2));
 }
 
-TEST_F(ProjectFile, AsksForAMissingFile) {
+TEST_F(ProjectFile, asks_for_a_missing_file) {
     const String text =
         u"KVF,0,9,0\r\n1,1,1,8\r\n1\r\n"
         u"1,gone.bmp,画像,,,,False,0,0,0,False,CR,100,False,70\r\n0\r\n";
@@ -497,7 +497,7 @@ TEST_F(ProjectFile, AsksForAMissingFile) {
     EXPECT_EQ(ui_.Messages[1].second, u"読み込みエラー");
 }
 
-TEST_F(ProjectFile, OpensWithoutAFileOnRequestAndKeepsItsRow) {
+TEST_F(ProjectFile, opens_without_a_file_on_request_and_keeps_its_row) {
     const String text =
         u"KVF,0,9,0\r\n1,1,1,8\r\n3\r\n"
         u"1,gone.bmp,画像,,,,True,1,2,3,True,BL,50,True,80\r\n"
@@ -519,7 +519,7 @@ TEST_F(ProjectFile, OpensWithoutAFileOnRequestAndKeepsItsRow) {
     EXPECT_EQ(Cells(project), text);
 }
 
-TEST_F(ProjectFile, TellsOfEachFontThatIsNotAvailableOnce) {
+TEST_F(ProjectFile, tells_of_each_font_that_is_not_available_once) {
     const String gothic = u"ＭＳ ゴシック";
     String text = ProjectOfTexts({u"a", u"b", u"c", u"d"});
     const std::size_t third = text.find(u"c,,Font") + 3;
@@ -564,7 +564,7 @@ TEST_F(ProjectFile, TellsOfEachFontThatIsNotAvailableOnce) {
     }
 }
 
-TEST_F(ProjectFile, RefusesDamagedFiles) {
+TEST_F(ProjectFile, refuses_damaged_files) {
     const String head = u"KVF,0,9,0\r\n1,1,1,8\r\n";
     const String sprite = u"1,,ｽﾌﾟﾗｲﾄ,,,,A,0,0,0,0,False,0,0,0,0\r\n";
     const String row = u",,,0,,,2048,0,0,,,,True,";
@@ -596,7 +596,7 @@ TEST_F(ProjectFile, RefusesDamagedFiles) {
     for (const auto& c : cases) ExpectDamaged(c.Text, c.Name);
 }
 
-TEST_F(ProjectFile, RefusesBottomlessNesting) {
+TEST_F(ProjectFile, refuses_bottomless_nesting) {
     String text = u"KVF,0,9,0\r\n1,1,1,8\r\n600\r\n";
     for (Long i = 1; i <= 600; ++i) text += ToText(i) + u",,ｽﾌﾟﾗｲﾄ,,,,A,0,0,0,0,False,0,0,0,0\r\n";
     text += u"0\r\n";
@@ -604,13 +604,13 @@ TEST_F(ProjectFile, RefusesBottomlessNesting) {
     ExpectDamaged(text + u"0\r\n", "600 levels");
 }
 
-TEST_F(ProjectFile, TakesCountsBelowZeroAsNone) {
+TEST_F(ProjectFile, takes_counts_below_zero_as_none) {
     Project project;
     ASSERT_TRUE(Load(u"KVF,0,9,0\r\n1,1,1,8\r\n-3\r\n-2147483648\r\n", project));
     EXPECT_EQ(project.colSymbol->Count(), 0);
 }
 
-TEST_F(ProjectFile, FolderWithMoreRowsThanThereAreTakesTheRest) {
+TEST_F(ProjectFile, folder_with_more_rows_than_there_are_takes_the_rest) {
     Project project;
     ASSERT_TRUE(
         Load(u"KVF,0,9,0\r\n1,1,1,8\r\n2\r\n1,,Sﾌｫﾙﾀﾞ,,,,F,2147483647,True\r\n"
@@ -619,7 +619,7 @@ TEST_F(ProjectFile, FolderWithMoreRowsThanThereAreTakesTheRest) {
     EXPECT_EQ((*project.colSymbol)(2)->ParentFolder(), (*project.colSymbol)(1));
 }
 
-TEST_F(ProjectFile, CountsOfFoldersAreMadeTrue) {
+TEST_F(ProjectFile, counts_of_folders_are_made_true) {
     // An outer folder that claims too much, an inner one beyond it, one below 0.
     const auto folder = [](StringView count) {
         return u"-4,,,0,,,2048,0,0,,,,True,1\r\n1,1,False,False,True,F,0," + String(count) +
@@ -642,7 +642,7 @@ TEST_F(ProjectFile, CountsOfFoldersAreMadeTrue) {
     EXPECT_EQ((*project.colMainLayer)(1)->Folder()->LayerCount, 0);
 }
 
-TEST_F(ProjectFile, AKomaOfAKomaBehindItHasItsSize) {
+TEST_F(ProjectFile, a_koma_of_a_koma_behind_it_has_its_size) {
     Project project;
     ASSERT_TRUE(
         Load(u"KVF,0,9,0\r\n1,1,1,8\r\n3\r\n1,,ｺﾏ動画,,,,a,1\r\n2,,ｺﾏ動画,,,,b,1\r\n"
@@ -652,21 +652,21 @@ TEST_F(ProjectFile, AKomaOfAKomaBehindItHasItsSize) {
     EXPECT_EQ((*project.colSymbol)(1)->PixelHeight(), 20);
 }
 
-TEST_F(ProjectFile, ABuildHasMoreThanTwoDigits) {
+TEST_F(ProjectFile, a_build_has_more_than_two_digits) {
     Project project;
     EXPECT_TRUE(Load(u"KVF,0,9,0,70000\r\n1,1,1,8\r\n0\r\n0\r\n", project));
     ExpectDamaged(u"KVF,0,9,0,-1\r\n1,1,1,8\r\n0\r\n0\r\n", "below 0");
     ExpectDamaged(u"KVF,7F,255,255,2147483647\r\n1,1,1,8\r\n0\r\n0\r\n", "beyond a number");
 }
 
-TEST_F(ProjectFile, ATextBeyondTheLimitIsNotWritten) {
+TEST_F(ProjectFile, a_text_beyond_the_limit_is_not_written) {
     clsCSV csv;
     csv.Put(String(2 << 20, u'a'));
     EXPECT_THROW(EncodeProjectText(csv, true, 1 << 20), RuntimeError);
     EXPECT_FALSE(EncodeProjectText(csv, true, 4 << 20).empty());
 }
 
-TEST_F(ProjectFile, CutAtAnyByteLoadsOrSaysWhyNot) {
+TEST_F(ProjectFile, cut_at_any_byte_loads_or_says_why_not) {
     const Bytes whole = EncodeAnsi(WholeProject());
     for (std::size_t length = 0; length < whole.size(); ++length) {
         Project project;
@@ -676,20 +676,20 @@ TEST_F(ProjectFile, CutAtAnyByteLoadsOrSaysWhyNot) {
     }
 }
 
-TEST_F(ProjectFile, FailedSaveTellsWhy) {
+TEST_F(ProjectFile, failed_save_tells_why) {
     RuntimeError why(0, u"", u"");
     EXPECT_FALSE(SaveProject(JoinPath(JoinPath(folder_, u"s.mp3"), u"a.kvf"), Project(), &why));
     EXPECT_EQ(why.Number, 75);
     EXPECT_TRUE(why.Description.ends_with(u"\r\nフォルダを作成できません。"));
 }
 
-TEST_F(ProjectFile, LeavesTheFileVersionAsItWas) {
+TEST_F(ProjectFile, leaves_the_file_version_as_it_was) {
     Project project;
     ASSERT_TRUE(Load(u"KVF,0,5,5\r\n1,1,1,8\r\n0\r\n0\r\n", project));
     EXPECT_EQ(ProjectFileVersion, NewestProjectFileVersion);
 }
 
-TEST(Symbol, RefusesARecordOfAnotherKind) {
+TEST(Symbol, refuses_a_record_of_another_kind) {
     Listener ui;
     const UserInterfaceScope scope(ui);
     clsSymbolData symbol(KindBitmap);
@@ -700,7 +700,7 @@ TEST(Symbol, RefusesARecordOfAnotherKind) {
     EXPECT_EQ(ui.Messages[0].first, u"シンボルのタイプが違います。");
 }
 
-TEST(Symbol, ShowsATextInBrackets) {
+TEST(Symbol, shows_a_text_in_brackets) {
     clsSymbolData symbol(KindText);
     auto& text = *symbol.Property<clsPropertyText>();
     text.InitialText = u"a\r\nb\nc\rd";
@@ -713,7 +713,7 @@ TEST(Symbol, ShowsATextInBrackets) {
     EXPECT_EQ(symbol.OptionText(), u"$*");
 }
 
-TEST(Symbol, KeepsThreeIdentifiers) {
+TEST(Symbol, keeps_three_identifiers) {
     clsSymbolData symbol(KindBitmap);
     symbol.DefineNum = 7;
     symbol.DefineID(9);
@@ -723,7 +723,7 @@ TEST(Symbol, KeepsThreeIdentifiers) {
     EXPECT_EQ(symbol.DefineID(), 0);
 }
 
-TEST(Symbol, CopyOfASpriteHasItsOwnTimeline) {
+TEST(Symbol, copy_of_a_sprite_has_its_own_timeline) {
     clsSymbolData symbol(KindSprite);
     auto& sprite = *symbol.Property<clsPropertySprite>();
     auto layer = std::make_shared<clsLayer>();
@@ -737,7 +737,7 @@ TEST(Symbol, CopyOfASpriteHasItsOwnTimeline) {
     EXPECT_EQ(layer->LayerName, u"");
 }
 
-TEST(Symbol, LoopSearchEndsOnCyclicData) {
+TEST(Symbol, loop_search_ends_on_cyclic_data) {
     auto a = std::make_shared<clsSymbolData>(KindSprite);
     auto b = std::make_shared<clsSymbolData>(KindSprite);
     const auto show = [](clsSymbolData& in, const std::shared_ptr<clsSymbolData>& symbol) {

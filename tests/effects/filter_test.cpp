@@ -9,7 +9,7 @@
 namespace tamber {
 namespace {
 
-TEST(Filter, NumbersAreLimitedAndHeldToFourDecimals) {
+TEST(Filter, numbers_are_limited_and_held_to_four_decimals) {
     clsFilterBlur blur;
     const struct {
         Single Set, Read;
@@ -27,7 +27,7 @@ TEST(Filter, NumbersAreLimitedAndHeldToFourDecimals) {
     EXPECT_EQ(glow.Strength(), 0.0F);
 }
 
-TEST(Filter, ColoursAreOneLongWithRedLowest) {
+TEST(Filter, colours_are_one_long_with_red_lowest) {
     clsFilterGlow glow;
     EXPECT_EQ(glow.GlowColor(), 0xFFFF00);
     glow.GlowColor(0x030201);
@@ -36,13 +36,13 @@ TEST(Filter, ColoursAreOneLongWithRedLowest) {
     EXPECT_EQ(glow.GlowColorText(), u"#010203");
 }
 
-TEST(Filter, WeightsBeyond0To1LeaveAChannelInItsRange) {
+TEST(Filter, weights_beyond_0_to_1_leave_a_channel_in_its_range) {
     clsFilterDropShadow none;
     none.DropShadowColorA = 0;
     EXPECT_EQ(none.Morphing(clsFilterDropShadow(), 2, -1).DropShadowColorA, 0);
 }
 
-TEST(Filter, SwitchesAloneDoNotMorphButCountAsAChange) {
+TEST(Filter, switches_alone_do_not_morph_but_count_as_a_change) {
     clsFilterBevel a;
     clsFilterBevel b;
     b.blOnTop = true;
@@ -52,7 +52,7 @@ TEST(Filter, SwitchesAloneDoNotMorphButCountAsAChange) {
     EXPECT_TRUE(a.CkMorphing(b));
 }
 
-TEST(Filter, SetMorphsOnlyWhatIsSwitchedOn) {
+TEST(Filter, set_morphs_only_what_is_switched_on) {
     clsFilterData a;
     clsFilterData b;
     b.fltBlur.BlurX(8);
@@ -66,7 +66,7 @@ TEST(Filter, SetMorphsOnlyWhatIsSwitchedOn) {
     EXPECT_EQ(mixed->FilterCount(), 1);
 }
 
-TEST(Filter, AnEndWithoutTheFilterTakesItsShapeAtNoStrength) {
+TEST(Filter, an_end_without_the_filter_takes_its_shape_at_no_strength) {
     clsFilterData plain;
     clsFilterData full;
     full.blDropShadow = full.blGlow = full.blBlur = full.blBevel = full.blColorMatrix = true;
@@ -99,7 +99,7 @@ TEST(Filter, AnEndWithoutTheFilterTakesItsShapeAtNoStrength) {
     EXPECT_EQ(*full.AuthoringCopy(plain, true), full);
 }
 
-TEST(Filter, ConvolutionSuggestsDivisorAndBias) {
+TEST(Filter, convolution_suggests_divisor_and_bias) {
     const struct {
         Single Middle, Divisor, Bias;
     } cases[] = {{3, 3, 0}, {0, 1, 128}, {-2, -2, 255}};
@@ -115,7 +115,7 @@ TEST(Filter, ConvolutionSuggestsDivisorAndBias) {
     EXPECT_THROW(clsFilterConvolution().MatrixTbl(25), RuntimeError);
 }
 
-TEST(Filter, EditColourKnowsItsDefaults) {
+TEST(Filter, edit_colour_knows_its_defaults) {
     clsFilterEditColor color;
     EXPECT_TRUE(color.CkDefault());
     color.AddA = 1;
@@ -124,7 +124,7 @@ TEST(Filter, EditColourKnowsItsDefaults) {
     EXPECT_TRUE(color.CkDefault());
 }
 
-TEST(EffectElement, KeepsAStoredParameterThatIsEmpty) {
+TEST(EffectElement, keeps_a_stored_parameter_that_is_empty) {
     clsCSV csv;
     csv.Text(u"True,in,False,1,Left,False,20,fade,a,,b,2,");
     clsEffectElement element;

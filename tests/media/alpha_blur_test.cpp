@@ -36,14 +36,14 @@ clsDib WithPlane(const Bytes& plane, Long width, Long height) {
     return dib;
 }
 
-TEST(AlphaBlur, WeighsTheNeighboursOfASinglePixel) {
+TEST(AlphaBlur, weighs_the_neighbours_of_a_single_pixel) {
     // Weights 1 2 1, 2 4 2, 1 2 1, sum 16; a pixel of 240 among zeros.
     clsDib dib = WithPlane({0, 0, 0, 0, 240, 0, 0, 0, 0}, 3, 3);
     dib.BlendAlpha(1);
     EXPECT_EQ(dib.ADib, Bytes({15, 30, 15, 30, 60, 30, 15, 30, 15}));
 }
 
-TEST(AlphaBlur, RepeatsThePixelsOfTheEdge) {
+TEST(AlphaBlur, repeats_the_pixels_of_the_edge) {
     // In a row of 160 and 0 the first pixel sees 160 160 0 with weights 1 2 1: 480 / 4 = 120, in
     // every row the same.
     clsDib dib = WithPlane({160, 0}, 2, 1);
@@ -51,7 +51,7 @@ TEST(AlphaBlur, RepeatsThePixelsOfTheEdge) {
     EXPECT_EQ(dib.ADib, Bytes({120, 40}));
 }
 
-TEST(AlphaBlur, EqualsTheSumOfAllWeights) {
+TEST(AlphaBlur, equals_the_sum_of_all_weights) {
     std::mt19937 random(1);
     const Long sizes[][2] = {{1, 1}, {1, 9}, {9, 1}, {17, 13}, {40, 5}};
     for (const auto& [width, height] : sizes)
@@ -65,7 +65,7 @@ TEST(AlphaBlur, EqualsTheSumOfAllWeights) {
         }
 }
 
-TEST(AlphaBlur, HoldsItsReachWithinLimits) {
+TEST(AlphaBlur, holds_its_reach_within_limits) {
     const Bytes plane{255, 0, 255, 255, 9, 100};
     clsDib none = WithPlane(plane, 3, 2);
     none.BlendAlpha(-5);
@@ -78,7 +78,7 @@ TEST(AlphaBlur, HoldsItsReachWithinLimits) {
     EXPECT_EQ(opaque.ADib, Bytes(6, 255));
 }
 
-TEST(AlphaBlur, GivesTheWeightsOfAnAxis) {
+TEST(AlphaBlur, gives_the_weights_of_an_axis) {
     EXPECT_EQ(clsDib::GetAlphaTbl(2), std::vector<Long>({1, 2, 3, 2, 1}));
     EXPECT_EQ(clsDib::GetAlphaTbl(0), std::vector<Long>({1}));
 }

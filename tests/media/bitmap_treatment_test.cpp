@@ -43,7 +43,7 @@ Bytes AlphaOf(clsDib dib, const BitmapOptions& options) {
     return dib.ADib;
 }
 
-TEST(BitmapTreatment, AKeyColourHidesItsPixelsAlone) {
+TEST(BitmapTreatment, a_key_colour_hides_its_pixels_alone) {
     const clsDib dib = DibOf(2, {Rgba(10, 20, 30, 255), Rgba(10, 20, 31, 255),
                                  Rgba(30, 20, 10, 255), Rgba(10, 20, 30, 255)});
     EXPECT_EQ(
@@ -51,7 +51,7 @@ TEST(BitmapTreatment, AKeyColourHidesItsPixelsAlone) {
         Pixels({Rgba(0, 0, 0, 0), Rgba(10, 20, 31, 255), Rgba(30, 20, 10, 255), Rgba(0, 0, 0, 0)}));
 }
 
-TEST(BitmapTreatment, AColourRangeFadesWithTheDistance) {
+TEST(BitmapTreatment, a_colour_range_fades_with_the_distance) {
     // Range 10, divisor 101. Distances squared: 0, 1, 12, 100, 101.
     const clsDib dib =
         DibOf(5, {Rgba(100, 100, 100, 255), Rgba(101, 100, 100, 255), Rgba(102, 98, 102, 255),
@@ -65,14 +65,14 @@ TEST(BitmapTreatment, AColourRangeFadesWithTheDistance) {
     EXPECT_EQ(AlphaOf(dib, unknown), Bytes({0, 2, 30, 252, 255}));
 }
 
-TEST(BitmapTreatment, AColourRangeOfAnySizeIsTaken) {
+TEST(BitmapTreatment, a_colour_range_of_any_size_is_taken) {
     const clsDib dib = DibOf(3, {Rgba(0, 0, 0, 255), Rgba(1, 0, 0, 255), Rgba(255, 255, 255, 255)});
     EXPECT_EQ(AlphaOf(dib, Shaded(KeyColour(0, 0, 0), ShadingColorRange, 0)), Bytes({0, 255, 255}));
     EXPECT_EQ(AlphaOf(dib, Shaded(KeyColour(0, 0, 0), ShadingColorRange, 0x7FFFFFFF)),
               Bytes({0, 0, 0}));
 }
 
-TEST(BitmapTreatment, ABlurFadesTheEdgesOfTheKeyColour) {
+TEST(BitmapTreatment, a_blur_fades_the_edges_of_the_key_colour) {
     const clsDib dib =
         DibOf(3, {Rgba(9, 9, 9, 255), Rgba(100, 200, 50, 255), Rgba(100, 200, 50, 255)});
     // Alpha 0 255 255, weights 1 2 1 with the edges repeated: 255 / 4, 765 / 4, 255.
@@ -80,13 +80,13 @@ TEST(BitmapTreatment, ABlurFadesTheEdgesOfTheKeyColour) {
               Pixels({Rgba(2, 2, 2, 63), Rgba(74, 149, 37, 191), Rgba(100, 200, 50, 255)}));
 }
 
-TEST(BitmapTreatment, ShadingWithoutAKeyColourDoesNothing) {
+TEST(BitmapTreatment, shading_without_a_key_colour_does_nothing) {
     BitmapOptions options = Shaded({}, ShadingBlur, 5);
     const Pixels pixels{Rgba(0, 0, 0, 255), Rgba(9, 8, 7, 255)};
     EXPECT_EQ(Prepared(DibOf(2, pixels), options), pixels);
 }
 
-TEST(BitmapTreatment, TheFilesOwnAlphaIsNeverRaised) {
+TEST(BitmapTreatment, the_files_own_alpha_is_never_raised) {
     const clsDib dib = DibOf(
         4, {Rgba(5, 5, 5, 255), Rgba(200, 0, 0, 0), Rgba(200, 0, 0, 128), Rgba(200, 0, 0, 255)});
     EXPECT_EQ(AlphaOf(dib, {}), Bytes({255, 0, 128, 255}));
@@ -98,7 +98,7 @@ TEST(BitmapTreatment, TheFilesOwnAlphaIsNeverRaised) {
     EXPECT_EQ(AlphaOf(dib, Shaded(KeyColour(5, 5, 5), ShadingBlur, 1)), Bytes({0, 0, 127, 223}));
 }
 
-TEST(BitmapTreatment, APaletteStaysWhereItCanTellTheAlpha) {
+TEST(BitmapTreatment, a_palette_stays_where_it_can_tell_the_alpha) {
     clsDib dib;
     ASSERT_TRUE(dib.LoadFromFile(FixturePath("palette2.png")));
     const RgbQuad key = dib.dib.bmiColors[1];
@@ -112,7 +112,7 @@ TEST(BitmapTreatment, APaletteStaysWhereItCanTellTheAlpha) {
     EXPECT_EQ(Prepared(dib, blur, 32), Prepared(deep, blur, 32));
 }
 
-TEST(BitmapTreatment, FiveBitsAChannelStayWithoutTransparencyOnly) {
+TEST(BitmapTreatment, five_bits_a_channel_stay_without_transparency_only) {
     clsDib dib;
     ASSERT_TRUE(dib.LoadFromFile(FixturePath("rgb555.bmp")));
     clsDib deep = dib;
@@ -164,7 +164,7 @@ BitmapOptions KeyOfWhiteSquare() {
     return KeyColour(pixel.rgbRed, pixel.rgbGreen, pixel.rgbBlue);
 }
 
-TEST(BitmapTreatment, AKeyColourLeavesAJpegsStreamAndAddsAPlane) {
+TEST(BitmapTreatment, a_key_colour_leaves_a_jpegs_stream_and_adds_a_plane) {
     const BitmapBuffers buffers = PreparedJpeg("full-colour.jpg", KeyOfWhiteSquare());
     EXPECT_EQ(buffers.bufBmp, FixtureBytes("full-colour.jpg"));
     ASSERT_EQ(AlphaOf(buffers).size(), 48u * 32u);
@@ -174,13 +174,13 @@ TEST(BitmapTreatment, AKeyColourLeavesAJpegsStreamAndAddsAPlane) {
     EXPECT_NEAR(shown.Pixel(7, 7).rgbRed, 200, 6);
 }
 
-TEST(BitmapTreatment, AKeyColourThatAJpegLacksLeavesItAlone) {
+TEST(BitmapTreatment, a_key_colour_that_a_jpeg_lacks_leaves_it_alone) {
     const BitmapBuffers buffers = PreparedJpeg("full-colour.jpg", KeyColour(255, 0, 255));
     EXPECT_EQ(buffers.bufBmp, FixtureBytes("full-colour.jpg"));
     EXPECT_FALSE(buffers.HasAlphaTbl());
 }
 
-TEST(BitmapTreatment, AFadeMultipliesAJpegsColours) {
+TEST(BitmapTreatment, a_fade_multiplies_a_jpegs_colours) {
     const BitmapOptions options = Shaded(KeyOfWhiteSquare(), ShadingColorRange, 300);
     const BitmapBuffers buffers = PreparedJpeg("full-colour.jpg", options);
     EXPECT_NE(buffers.bufBmp, FixtureBytes("full-colour.jpg"));
@@ -194,7 +194,7 @@ TEST(BitmapTreatment, AFadeMultipliesAJpegsColours) {
     EXPECT_EQ(shown.Pixel(7, 23), Rgba(0, 0, 0, 0));
 }
 
-TEST(BitmapTreatment, CompressionMakesAJpegOfAnyPicture) {
+TEST(BitmapTreatment, compression_makes_a_jpeg_of_any_picture) {
     BitmapOptions options;
     options.blJpegComp = true;
     options.JpegQuality = 90;
@@ -214,7 +214,7 @@ TEST(BitmapTreatment, CompressionMakesAJpegOfAnyPicture) {
     EXPECT_NEAR(pixel.rgbBlue, 30, 3);
 }
 
-TEST(BitmapTreatment, CompressionFollowsTheQuality) {
+TEST(BitmapTreatment, compression_follows_the_quality) {
     std::size_t before = 0;
     for (const Long quality : {1, 50, 100}) {
         BitmapOptions options;
@@ -230,14 +230,14 @@ TEST(BitmapTreatment, CompressionFollowsTheQuality) {
     EXPECT_EQ(PreparedJpeg("table-refilled.gif", beyond).bufBmp.size(), before);
 }
 
-TEST(BitmapTreatment, CompressionAppliesToAJpegToo) {
+TEST(BitmapTreatment, compression_applies_to_a_jpeg_too) {
     BitmapOptions options;
     options.blJpegComp = true;
     options.JpegQuality = 5;
     EXPECT_NE(PreparedJpeg("full-colour.jpg", options).bufBmp, FixtureBytes("full-colour.jpg"));
 }
 
-TEST(BitmapTreatment, AFailureLeavesTheBuffers) {
+TEST(BitmapTreatment, a_failure_leaves_the_buffers) {
     BitmapBuffers buffers;
     buffers.bufBmp = {1, 2, 3};
     buffers.Width = 7;

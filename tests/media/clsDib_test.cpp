@@ -34,7 +34,7 @@ private:
     std::filesystem::path folder_;
 };
 
-TEST_F(PictureFolder, ReadsByExtensionInAnyLetterCase) {
+TEST_F(PictureFolder, reads_by_extension_in_any_letter_case) {
     struct Case {
         const char* Fixture;
         StringView Name;
@@ -54,7 +54,7 @@ TEST_F(PictureFolder, ReadsByExtensionInAnyLetterCase) {
     }
 }
 
-TEST_F(PictureFolder, ReadsAMisnamedPictureByItsContent) {
+TEST_F(PictureFolder, reads_a_misnamed_picture_by_its_content) {
     clsDib dib;
     EXPECT_TRUE(dib.LoadFromFile(Copy("rgb8.png", u"picture.jpg")));
     EXPECT_EQ(dib.eType, PictureKind::Png);
@@ -62,7 +62,7 @@ TEST_F(PictureFolder, ReadsAMisnamedPictureByItsContent) {
     EXPECT_EQ(dib.eType, PictureKind::Jpeg);
 }
 
-TEST_F(PictureFolder, RefusesOtherExtensionsAndMissingFiles) {
+TEST_F(PictureFolder, refuses_other_extensions_and_missing_files) {
     clsDib dib;
     ASSERT_TRUE(dib.LoadFromFile(FixturePath("rgb8.png")));
     for (const StringView name : {u"picture.tif", u"picture", u"png"}) {
@@ -73,7 +73,7 @@ TEST_F(PictureFolder, RefusesOtherExtensionsAndMissingFiles) {
     EXPECT_FALSE(dib.LoadFromFile(Path(u"none.png")));
 }
 
-TEST_F(PictureFolder, SavesAsJpeg) {
+TEST_F(PictureFolder, saves_as_jpeg) {
     clsDib dib;
     ASSERT_TRUE(dib.LoadFromFile(FixturePath("full-colour.jpg")));
     const String path = Path(u"出力.jpg");
@@ -96,7 +96,7 @@ clsDib ImageOf(Long width, Long height, Long bits, const Bytes& bytes) {
     return dib;
 }
 
-TEST(DibConversion, PadsRowsToWholeWords) {
+TEST(DibConversion, pads_rows_to_whole_words) {
     EXPECT_EQ(clsDib::StrideOf(1, 1), 4u);
     EXPECT_EQ(clsDib::StrideOf(32, 1), 4u);
     EXPECT_EQ(clsDib::StrideOf(33, 1), 8u);
@@ -105,34 +105,34 @@ TEST(DibConversion, PadsRowsToWholeWords) {
     EXPECT_EQ(clsDib::StrideOf(65500, 32), 262000u);
 }
 
-TEST(DibConversion, OneBitTakesTheHighestBitFirst) {
+TEST(DibConversion, one_bit_takes_the_highest_bit_first) {
     clsDib dib = ImageOf(10, 1, 1, {0b10110001, 0b01000000, 0, 0});
     dib.Change1to8();
     EXPECT_EQ(dib.BitCount(), 8);
     EXPECT_EQ(dib.Bits, Bytes({1, 0, 1, 1, 0, 0, 0, 1, 0, 1, 0, 0}));
 }
 
-TEST(DibConversion, FourBitsTakeTheUpperHalfFirst) {
+TEST(DibConversion, four_bits_take_the_upper_half_first) {
     clsDib dib = ImageOf(3, 1, 4, {0xA5, 0xF0, 0, 0});
     dib.Change4to8();
     EXPECT_EQ(dib.Bits, Bytes({10, 5, 15, 0}));
 }
 
-TEST(DibConversion, EightBitsTakeColourAndAlphaFromThePalette) {
+TEST(DibConversion, eight_bits_take_colour_and_alpha_from_the_palette) {
     clsDib dib = ImageOf(2, 1, 8, {3, 200, 0, 0});
     dib.dib.bmiColors[3] = RgbQuad{1, 2, 3, 77};
     dib.Change8to32();
     EXPECT_EQ(dib.Bits, Bytes({1, 2, 3, 77, 0, 0, 0, 255}));
 }
 
-TEST(DibConversion, SixteenBitsHaveFiveBitsAChannel) {
+TEST(DibConversion, sixteen_bits_have_five_bits_a_channel) {
     // 0x7FFF white; 0x7C00 red; 0x0010 blue 16: 16 * 255 / 31 = 131.6.
     clsDib dib = ImageOf(4, 1, 16, {0xFF, 0x7F, 0x00, 0x7C, 0x10, 0x00, 0x00, 0x80});
     dib.Change16to32();
     EXPECT_EQ(dib.Bits, Bytes({255, 255, 255, 255, 0, 0, 255, 255, 132, 0, 0, 255, 0, 0, 0, 255}));
 }
 
-TEST(DibConversion, MasksTellTheChannels) {
+TEST(DibConversion, masks_tell_the_channels) {
     clsDib dib = ImageOf(2, 1, 16, {0xE0, 0x07, 0x00, 0xF8});
     dib.dib.bmiHeader.biCompression = DibBitFields;
     dib.dib.bmiMasks = {0xF800, 0x07E0, 0x001F, 0};
@@ -150,13 +150,13 @@ TEST(DibConversion, MasksTellTheChannels) {
     EXPECT_EQ(wide.Bits, Bytes({0x33, 0x22, 0x11, 0x44})) << "done once only";
 }
 
-TEST(DibConversion, TwentyFourBitsBecomeOpaque) {
+TEST(DibConversion, twenty_four_bits_become_opaque) {
     clsDib dib = ImageOf(1, 2, 24, {1, 2, 3, 0, 4, 5, 6, 0});
     dib.Change24to32();
     EXPECT_EQ(dib.Bits, Bytes({1, 2, 3, 255, 4, 5, 6, 255}));
 }
 
-TEST(DibConversion, TurningRowsLeavesThePicture) {
+TEST(DibConversion, turning_rows_leaves_the_picture) {
     clsDib dib = DibOf(1, {Rgba(1, 0, 0, 255), Rgba(2, 0, 0, 255), Rgba(3, 0, 0, 255)});
     EXPECT_FALSE(dib.blBottomUp());
     const std::vector<RgbQuad> before = PixelsOf(dib);
@@ -167,7 +167,7 @@ TEST(DibConversion, TurningRowsLeavesThePicture) {
     EXPECT_EQ(PixelsOf(dib), before);
 }
 
-TEST(DibDisplay, LaysThePictureOverTheBackground) {
+TEST(DibDisplay, lays_the_picture_over_the_background) {
     clsDib dib = DibOf(3, {Rgba(200, 100, 50, 255), Rgba(200, 100, 50, 0), Rgba(200, 100, 50, 51)});
     dib.BlendColor = Rgba(10, 20, 30, 255);
     dib.MkAlphaTable();
@@ -180,7 +180,7 @@ TEST(DibDisplay, LaysThePictureOverTheBackground) {
                                                      Rgba(48, 36, 34, 255)}));
 }
 
-TEST(DibDisplay, FitsThePictureIntoTheBox) {
+TEST(DibDisplay, fits_the_picture_into_the_box) {
     struct Case {
         PictureBox Box;
         Long Width, Height;
@@ -202,7 +202,7 @@ TEST(DibDisplay, FitsThePictureIntoTheBox) {
     }
 }
 
-TEST(DibInfoText, TellsKindHeaderAndTransparency) {
+TEST(DibInfoText, tells_kind_header_and_transparency) {
     clsDib dib;
     ASSERT_TRUE(dib.LoadFromFile(FixturePath("indexed4-short.bmp")));
     EXPECT_EQ(ToNarrow(dib.InfoText()),
@@ -237,7 +237,7 @@ TEST(DibInfoText, TellsKindHeaderAndTransparency) {
     EXPECT_TRUE(ToNarrow(clsDib().InfoText()).starts_with("UnKnown\r\n"));
 }
 
-TEST(DibInfoText, TellsThePixelsAMetreOfAPng) {
+TEST(DibInfoText, tells_the_pixels_a_metre_of_a_png) {
     clsDib dib;
     ASSERT_TRUE(dib.LoadFromFile(FixturePath("single-pixel.png")));
     EXPECT_EQ(dib.dib.bmiHeader.biXPelsPerMeter, 3780);

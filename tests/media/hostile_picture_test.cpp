@@ -182,7 +182,7 @@ long PeakKilobytes() {
     return usage.ru_maxrss;
 }
 
-TEST(HostilePicture, IsRefusedAtOnceAndTakesNoMemory) {
+TEST(HostilePicture, is_refused_at_once_and_takes_no_memory) {
     for (const HostileCase& hostile : HostileCases()) {
         const long before = PeakKilobytes();
         const auto start = std::chrono::steady_clock::now();
@@ -196,7 +196,7 @@ TEST(HostilePicture, IsRefusedAtOnceAndTakesNoMemory) {
     }
 }
 
-TEST(HostilePicture, DiffersFromAReadableOneByItsFaultAlone) {
+TEST(HostilePicture, differs_from_a_readable_one_by_its_fault_alone) {
     const Bytes readable[] = {
         Bmp(54, 4, 4, 8, 1, 1).Low(2, 0x0200).Low(2, 0x0304).Low(2, 0x0100),
         Bmp(54, 1, 1, 8, 1, 1).Low(2, 0x0101).Low(2, 0),
@@ -212,7 +212,7 @@ TEST(HostilePicture, DiffersFromAReadableOneByItsFaultAlone) {
     }
 }
 
-TEST(HostilePicture, OfManyEmptyScansIsRefused) {
+TEST(HostilePicture, of_many_empty_scans_is_refused) {
     Bytes file = FixtureBytes("progressive.jpg");
     // The last scan of the file, from its SOS marker on, over and over.
     std::size_t scan = 0;

@@ -55,7 +55,7 @@ void ExpectBlocks(clsDib dib, const JpegCase& jpeg) {
     }
 }
 
-TEST(JpegFile, ShowsItsColours) {
+TEST(JpegFile, shows_its_colours) {
     for (const JpegCase& jpeg : Cases) {
         clsDib dib;
         ASSERT_TRUE(dib.LoadFromFile(FixturePath(jpeg.Name))) << jpeg.Name;
@@ -67,7 +67,7 @@ TEST(JpegFile, ShowsItsColours) {
     }
 }
 
-TEST(JpegFile, GoesIntoTheMovieUnchangedWhereAPlayerShowsIt) {
+TEST(JpegFile, goes_into_the_movie_unchanged_where_a_player_shows_it) {
     for (const JpegCase& jpeg : Cases) {
         const Bytes file = FixtureBytes(jpeg.Name);
         BitmapBuffers buffers;
@@ -84,7 +84,7 @@ TEST(JpegFile, GoesIntoTheMovieUnchangedWhereAPlayerShowsIt) {
     }
 }
 
-TEST(JpegFile, CutAnywhereIsRefused) {
+TEST(JpegFile, cut_anywhere_is_refused) {
     for (const JpegCase& jpeg : Cases) {
         const Bytes whole = FixtureBytes(jpeg.Name);
         ASSERT_GT(whole.size(), 100u) << jpeg.Name;
@@ -98,14 +98,14 @@ TEST(JpegFile, CutAnywhereIsRefused) {
     }
 }
 
-TEST(JpegFile, WithDataMissingInTheMiddleIsRefused) {
+TEST(JpegFile, with_data_missing_in_the_middle_is_refused) {
     Bytes file = FixtureBytes("full-colour.jpg");
     file.erase(file.end() - 40, file.end() - 2);
     clsDib dib;
     EXPECT_FALSE(dib.LoadFromMemory(file));
 }
 
-TEST(JpegFile, TellsItsDensity) {
+TEST(JpegFile, tells_its_density) {
     Bytes file = FixtureBytes("full-colour.jpg");
     // The JFIF segment: unit at byte 13, then both densities with the upper byte first.
     file[13] = 1;

@@ -23,7 +23,7 @@ RgbQuad Premultiplied(const RgbQuad& pixel) {
 
 class PictureFile : public testing::TestWithParam<PictureFixture> {};
 
-TEST_P(PictureFile, ShowsThePixelsItWasMadeOf) {
+TEST_P(PictureFile, shows_the_pixels_it_was_made_of) {
     clsDib dib;
     ASSERT_TRUE(dib.LoadFromFile(FixturePath(GetParam().Name)));
     EXPECT_EQ(dib.Width(), GetParam().Width);
@@ -32,7 +32,7 @@ TEST_P(PictureFile, ShowsThePixelsItWasMadeOf) {
     EXPECT_EQ(PixelsOf(dib), GetParam().Pixels);
 }
 
-TEST_P(PictureFile, GivesABufferOfTheSamePixels) {
+TEST_P(PictureFile, gives_a_buffer_of_the_same_pixels) {
     BitmapBuffers buffers;
     ASSERT_TRUE(SetBitmapData(FixturePath(GetParam().Name), {}, buffers));
     EXPECT_FALSE(buffers.blJpeg);
@@ -45,7 +45,7 @@ TEST_P(PictureFile, GivesABufferOfTheSamePixels) {
     EXPECT_EQ(PreparedPixels(buffers).Pixels(), expected);
 }
 
-TEST_P(PictureFile, CutBeforeItsPixelsEndIsRefused) {
+TEST_P(PictureFile, cut_before_its_pixels_end_is_refused) {
     const Bytes whole = FixtureBytes(GetParam().Name);
     // Behind the pixels stand at most the 12 bytes that end a PNG, the two of run-length code, or
     // what ends the blocks of a GIF and the pictures behind its first.

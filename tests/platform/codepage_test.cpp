@@ -22,16 +22,16 @@ class BothWays : public testing::TestWithParam<Pair> {};
 class DecodedOnly : public testing::TestWithParam<Pair> {};
 class EncodedOnly : public testing::TestWithParam<Pair> {};
 
-TEST_P(BothWays, TextAndCodeGiveEachOther) {
+TEST_P(BothWays, text_and_code_give_each_other) {
     EXPECT_EQ(EncodeAnsi(GetParam().Text), GetParam().Code);
     EXPECT_EQ(DecodeAnsi(GetParam().Code), GetParam().Text);
 }
 
-TEST_P(DecodedOnly, CodeGivesText) {
+TEST_P(DecodedOnly, code_gives_text) {
     EXPECT_EQ(DecodeAnsi(GetParam().Code), GetParam().Text);
 }
 
-TEST_P(EncodedOnly, TextGivesCode) {
+TEST_P(EncodedOnly, text_gives_code) {
     EXPECT_EQ(EncodeAnsi(GetParam().Text), GetParam().Code);
 }
 
@@ -107,7 +107,7 @@ INSTANTIATE_TEST_SUITE_P(
         Pair{"SurrogatePair", u"\U0001F600", {'?', '?'}}),
     NameOf);
 
-TEST(CodePage, EveryAssignedPairComesBackAsItsCharacter) {
+TEST(CodePage, every_assigned_pair_comes_back_as_its_character) {
     int characters = 0;
     for (int lead = 0x81; lead <= 0xFC; ++lead) {
         if (lead >= 0xA0 && lead <= 0xDF) continue;
@@ -124,7 +124,7 @@ TEST(CodePage, EveryAssignedPairComesBackAsItsCharacter) {
     EXPECT_EQ(characters, 9604);
 }
 
-TEST(Utf8, GivesAndTakesEveryLength) {
+TEST(Utf8, gives_and_takes_every_length) {
     const String text = u"a\u00E9\u3042\U0001F600";
     const Bytes code{0x61, 0xC3, 0xA9, 0xE3, 0x81, 0x82, 0xF0, 0x9F, 0x98, 0x80};
     EXPECT_EQ(EncodeUtf8(text), code);
@@ -133,13 +133,13 @@ TEST(Utf8, GivesAndTakesEveryLength) {
     EXPECT_EQ(FromNarrow("a\xC3\xA9\xE3\x81\x82\xF0\x9F\x98\x80"), text);
 }
 
-TEST(Utf8, ReachesTheEdgesOfEachLength) {
+TEST(Utf8, reaches_the_edges_of_each_length) {
     EXPECT_EQ(EncodeUtf8(u"\u007F\u0080\u07FF\u0800\uFFFF\U00010000\U0010FFFF"),
               (Bytes{0x7F, 0xC2, 0x80, 0xDF, 0xBF, 0xE0, 0xA0, 0x80, 0xEF, 0xBF, 0xBF, 0xF0, 0x90,
                      0x80, 0x80, 0xF4, 0x8F, 0xBF, 0xBF}));
 }
 
-TEST(Utf8, LoneSurrogatesAreReplaced) {
+TEST(Utf8, lone_surrogates_are_replaced) {
     const char16_t high[] = {0xD800, u'a', 0};
     const char16_t low[] = {0xDC00, 0xD800, 0};
     EXPECT_EQ(EncodeUtf8(high), (Bytes{0xEF, 0xBF, 0xBD, 0x61}));
@@ -158,7 +158,7 @@ void PrintTo(const Malformed& malformed, std::ostream* out) {
 
 class MalformedUtf8 : public testing::TestWithParam<Malformed> {};
 
-TEST_P(MalformedUtf8, IsReplacedAndTheRestKept) {
+TEST_P(MalformedUtf8, is_replaced_and_the_rest_kept) {
     EXPECT_EQ(DecodeUtf8(GetParam().Code), GetParam().Text);
 }
 

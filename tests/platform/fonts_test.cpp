@@ -77,7 +77,7 @@ class Outlines : public testing::TestWithParam<Expected> {};
 
 /// The points of the files by fontTools, scaled by 1024 / (usWinAscent + usWinDescent) as
 /// fractions: 1802 + 401 for IPA Gothic, 1901 + 483 for DejaVu Sans.
-TEST_P(Outlines, AreThePointsOfTheFaceInTheCell) {
+TEST_P(Outlines, are_the_points_of_the_face_in_the_cell) {
     const GlyphOutlineRecord record = Glyph(GetParam().Character, GetParam().Font);
     EXPECT_EQ(record.CellIncX, GetParam().Advance);
     EXPECT_EQ(record.Ascent, GetParam().Ascent);
@@ -124,7 +124,7 @@ INSTANTIATE_TEST_SUITE_P(
         Expected{"OtherHeight", GothicOfTwo, u'A', 476, 838, GothicA}),
     [](const auto& expected) { return std::string(expected.param.Name); });
 
-TEST(Fonts, AHeightOfOneOrLessDoesNothing) {
+TEST(Fonts, a_height_of_one_or_less_does_nothing) {
     const GlyphOutlineRecord before = Glyph(u'A', Gothic);
     GlyphOutlineRecord record = before;
     EXPECT_FALSE(GetCharOutline(record, u'i', {.FaceName = u"DejaVu Sans", .Height = 1}));
@@ -157,7 +157,7 @@ struct Box {
     }
 };
 
-TEST(Fonts, SyntheticBoldWidensStrokesAndAdvanceByAPartOfTheEm) {
+TEST(Fonts, synthetic_bold_widens_strokes_and_advance_by_a_part_of_the_em) {
     // 2048 / 24 font units, 39.7 of the cell; the advance (1024 + 85.3) * 1024 / 2203.
     constexpr Long Gain = 40;
     const LogFont bold{.FaceName = u"IPAGothic", .Bold = true};
@@ -184,7 +184,7 @@ TEST(Fonts, SyntheticBoldWidensStrokesAndAdvanceByAPartOfTheEm) {
                 1);
 }
 
-TEST(Fonts, ARecordFilledAgainHoldsOnlyTheNewOutline) {
+TEST(Fonts, a_record_filled_again_holds_only_the_new_outline) {
     GlyphOutlineRecord record;
     for (const char16_t character : {u'漢', u'A', u' ', u'龍', u'A'}) {
         ASSERT_TRUE(GetCharOutline(record, character, Gothic));
@@ -197,11 +197,11 @@ TEST(Fonts, ARecordFilledAgainHoldsOnlyTheNewOutline) {
     EXPECT_EQ(record.CellIncX, 476);
 }
 
-TEST(Fonts, AnchorsOfOnePointAreNoContours) {
+TEST(Fonts, anchors_of_one_point_are_no_contours) {
     EXPECT_EQ(Glyph(u'u', Sans).Outline.Contours.size(), 1u);
 }
 
-TEST(Fonts, OnlyAnExactNameIsInstalled) {
+TEST(Fonts, only_an_exact_name_is_installed) {
     for (const StringView name : {u"IPAGothic", u"ipagothic", u"IPAゴシック", u"ipaゴシック",
                                   u"IPA Pゴシック", u"DejaVu Sans", u"Junction"})
         EXPECT_TRUE(FontInstalled(name)) << ToNarrow(name);
@@ -210,7 +210,7 @@ TEST(Fonts, OnlyAnExactNameIsInstalled) {
         EXPECT_FALSE(FontInstalled(name)) << ToNarrow(name);
 }
 
-TEST(Fonts, TheListHoldsEachNameOnceAndInJapaneseWhereThereIsOne) {
+TEST(Fonts, the_list_holds_each_name_once_and_in_japanese_where_there_is_one) {
     const std::vector<String> all = InstalledFonts(false);
     const std::vector<String> japanese = InstalledFonts(true);
     EXPECT_EQ(std::ranges::adjacent_find(all, std::ranges::greater_equal{}), all.end());
@@ -224,7 +224,7 @@ TEST(Fonts, TheListHoldsEachNameOnceAndInJapaneseWhereThereIsOne) {
     EXPECT_FALSE(has(japanese, u"DejaVu Sans"));
 }
 
-TEST(Fonts, ThreadsAndMoreFontsThanStayOpenGiveTheSameOutlines) {
+TEST(Fonts, threads_and_more_fonts_than_stay_open_give_the_same_outlines) {
     const auto draw = [] {
         for (char16_t name = u'a'; name <= u'z'; ++name) {
             EXPECT_EQ(ToText(Glyph(u'A', {.FaceName = String(3, name)}).Outline), GothicA);
@@ -293,7 +293,7 @@ std::size_t TableOf(const Bytes& file, std::string_view tag) {
     return Number(file, EntryOf(file, tag) + 8);
 }
 
-TEST_F(OwnFonts, WithoutAnyThereIsNoOutlineAndOneName) {
+TEST_F(OwnFonts, without_any_there_is_no_outline_and_one_name) {
     GlyphOutlineRecord record;
     record.CellIncX = 5;
     record.Outline.Contours.resize(1);
@@ -305,7 +305,7 @@ TEST_F(OwnFonts, WithoutAnyThereIsNoOutlineAndOneName) {
     EXPECT_EQ(InstalledFonts(true), std::vector<String>{u"ＭＳ ゴシック"});
 }
 
-TEST_F(OwnFonts, AnyFaceStandsInAndOneWithJapaneseBeforeIt) {
+TEST_F(OwnFonts, any_face_stands_in_and_one_with_japanese_before_it) {
     Install(SansFile);
     EXPECT_EQ(Glyph(u'l', Gothic).CellIncX, 244);
     EXPECT_EQ(InstalledFonts(true), std::vector<String>{u"ＭＳ ゴシック"});
@@ -315,7 +315,7 @@ TEST_F(OwnFonts, AnyFaceStandsInAndOneWithJapaneseBeforeIt) {
     EXPECT_EQ(InstalledFonts(true), std::vector<String>{u"IPA Pゴシック"});
 }
 
-TEST_F(OwnFonts, AFamilysOwnItalicIsNotSlantedAndAMissingBoldIsAdded) {
+TEST_F(OwnFonts, a_familys_own_italic_is_not_slanted_and_a_missing_bold_is_added) {
     Bytes italic = Read(JunctionFile);
     // fsSelection of the OS/2 table: not regular, italic.
     const std::size_t selection = TableOf(italic, "OS/2") + 62;
@@ -334,7 +334,7 @@ TEST_F(OwnFonts, AFamilysOwnItalicIsNotSlantedAndAMissingBoldIsAdded) {
     EXPECT_EQ(both.CellIncX, 293);
 }
 
-TEST_F(OwnFonts, WithoutWindowsMetricsThoseOfTheHorizontalHeaderCount) {
+TEST_F(OwnFonts, without_windows_metrics_those_of_the_horizontal_header_count) {
     Bytes file = Read(JunctionFile);
     file[EntryOf(file, "OS/2")] = 'o';
     Install(file, "plain.otf");
@@ -344,7 +344,7 @@ TEST_F(OwnFonts, WithoutWindowsMetricsThoseOfTheHorizontalHeaderCount) {
     EXPECT_EQ(record.CellIncX, 266);
 }
 
-TEST_F(OwnFonts, AFileCutAnywhereGivesItsOwnOrTheNextFacesOutline) {
+TEST_F(OwnFonts, a_file_cut_anywhere_gives_its_own_or_the_next_faces_outline) {
     Install(SansFile);
     const std::string stem = ToText(Glyph(u'l', Sans).Outline);
     for (const std::string& source : {JunctionFile, PropGothicFile}) {
@@ -375,7 +375,7 @@ TEST_F(OwnFonts, AFileCutAnywhereGivesItsOwnOrTheNextFacesOutline) {
     }
 }
 
-TEST_F(OwnFonts, AFaceReadOnceOutlivesItsFile) {
+TEST_F(OwnFonts, a_face_read_once_outlives_its_file) {
     Install(Read(JunctionFile), "cut.otf");
     const std::string before = ToText(Glyph(u'l', Junction).Outline);
     fs::resize_file(folder / "cut.otf", 0);
@@ -383,7 +383,7 @@ TEST_F(OwnFonts, AFaceReadOnceOutlivesItsFile) {
     EXPECT_FALSE(Glyph(u'o', Junction).Outline.Contours.empty());
 }
 
-TEST_F(OwnFonts, ADamagedGlyphGivesAnEmptyOutline) {
+TEST_F(OwnFonts, a_damaged_glyph_gives_an_empty_outline) {
     Bytes file = Read(SansFile);
     const std::size_t glyphs = TableOf(file, "glyf");
     const std::size_t length = Number(file, EntryOf(file, "glyf") + 12);
@@ -422,7 +422,7 @@ double Distance(FinePoint a, FinePoint b) {
 
 constexpr int Samples = 50;
 
-TEST(CutCubic, StaysWithinTheToleranceWithFewPieces) {
+TEST(CutCubic, stays_within_the_tolerance_with_few_pieces) {
     const struct {
         Cubic Curve;
         std::size_t MostPieces;
@@ -454,7 +454,7 @@ TEST(CutCubic, StaysWithinTheToleranceWithFewPieces) {
     }
 }
 
-TEST(Fonts, CubicsOfAFaceBecomeQuadraticsThatFollowThem) {
+TEST(Fonts, cubics_of_a_face_become_quadratics_that_follow_them) {
     // The outer contour of "o" by fontTools, font units; cell of 841 + 275.
     constexpr double Scale = 1024.0 / 1116;
     const Cubic cubics[] = {{{54, 275}, {54, 58}, {173, -12}, {293, -12}},
@@ -527,7 +527,7 @@ void PrintTo(const Drawn& drawn, std::ostream* out) {
 
 class PointsOfAFace : public testing::TestWithParam<Drawn> {};
 
-TEST_P(PointsOfAFace, MakeAContour) {
+TEST_P(PointsOfAFace, make_a_contour) {
     Drawn drawn = GetParam();
     short end = static_cast<short>(drawn.Points.size() - 1);
     FT_Outline outline{};
@@ -580,7 +580,7 @@ INSTANTIATE_TEST_SUITE_P(
         Drawn{"QuadraticIntoCubic", {1, 0, 2, 2}, {{0, 0}, {20, 0}, {20, 20}, {0, 20}}, ""}),
     [](const auto& drawn) { return std::string(drawn.param.Name); });
 
-TEST(Fonts, ContoursBehindALongCubicHaveTheirRoom) {
+TEST(Fonts, contours_behind_a_long_cubic_have_their_room) {
     // A loop that takes many quadratics, then a square; then contours that overlap.
     std::vector<FT_Vector> points{{0, 0}, {6000, 2000}, {-4000, 2000}, {2000, 0},
                                   {0, 0}, {20, 0},      {20, 20},      {0, 20}};

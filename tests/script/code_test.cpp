@@ -38,7 +38,7 @@ void Check(std::initializer_list<CodeCase> cases) {
             << "version " << code.Version << ": " << code.Source;
 }
 
-TEST(Code, OfVersion4HasTextsForAllValuesAndJumpsForLoops) {
+TEST(Code, of_version_4_has_texts_for_all_values_and_jumps_for_loops) {
     Check({
         {4, "x = 5;", "96 06 00 00 78 00 00 35 00 1D"},
         {4, "trace(a < 3);", "96 03 00 00 61 00 1C 96 03 00 00 33 00 0F 26"},
@@ -53,7 +53,7 @@ TEST(Code, OfVersion4HasTextsForAllValuesAndJumpsForLoops) {
     });
 }
 
-TEST(Code, OfVersion4NamesClipsByTheirPaths) {
+TEST(Code, of_version_4_names_clips_by_their_paths) {
     const CodeCase cases[] = {
         {4, "removeMovieClip(_root.c);", "removeMovieClip(\"/c\");"},
         {4, "removeMovieClip(_parent.c);", "removeMovieClip(\"../c\");"},
@@ -80,7 +80,7 @@ TEST(Code, OfVersion4NamesClipsByTheirPaths) {
     EXPECT_NE(Compiled("unloadMovie(/a:c);", 4), Compiled("unloadMovie(\"/a:c\");", 4));
 }
 
-TEST(Code, OfVersion4HasNumbersAsThePlayerPrintsThem) {
+TEST(Code, of_version_4_has_numbers_as_the_player_prints_them) {
     const CodeCase cases[] = {
         {4, "x = 100000;", "x = \"100000\";"},
         {4, "x = 999999999999999;", "x = \"999999999999999\";"},
@@ -100,7 +100,7 @@ TEST(Code, OfVersion4HasNumbersAsThePlayerPrintsThem) {
     EXPECT_NE(Compiled("x = 1 / 3;", 4), Compiled("x = \"0.333333333333333\";", 4));
 }
 
-TEST(Code, OfBuiltInFunctionsIsTheirAction) {
+TEST(Code, of_built_in_functions_is_their_action) {
     Check({
         {4, "gotoAndPlay(3);", "81 02 00 02 00 06"},
         {4, "gotoAndStop(\"end\");", "8C 04 00 65 6E 64 00"},
@@ -131,7 +131,7 @@ TEST(Code, OfBuiltInFunctionsIsTheirAction) {
     });
 }
 
-TEST(Code, OfVersion5HasTypedValuesConstantsAndFunctions) {
+TEST(Code, of_version_5_has_typed_values_constants_and_functions) {
     Check({
         {5, "x = 1;", "96 08 00 00 78 00 07 01 00 00 00 1D"},
         {5, "x = 0.5;", "96 08 00 00 78 00 01 00 00 00 3F 1D"},
@@ -150,7 +150,7 @@ TEST(Code, OfVersion5HasTypedValuesConstantsAndFunctions) {
     });
 }
 
-TEST(Code, OfVersion6ComparesStrictlyAndEnumeratesObjects) {
+TEST(Code, of_version_6_compares_strictly_and_enumerates_objects) {
     Check({
         {6, "x = a === b;", "96 06 00 00 78 00 00 61 00 1C 96 03 00 00 62 00 1C 66 1D"},
         {6, "trace(a > b);", "96 03 00 00 61 00 1C 96 03 00 00 62 00 1C 67 26"},
@@ -166,7 +166,7 @@ TEST(Code, OfVersion6ComparesStrictlyAndEnumeratesObjects) {
     });
 }
 
-TEST(Code, OfVersion7HasFunctionsWithRegistersExceptionsAndCasts) {
+TEST(Code, of_version_7_has_functions_with_registers_exceptions_and_casts) {
     Check({
         {7, "function f(a) { return a; }",
          "8E 0C 00 66 00 01 00 02 2A 00 01 61 00 06 00 96 02 00 04 01 3E"},
@@ -179,7 +179,7 @@ TEST(Code, OfVersion7HasFunctionsWithRegistersExceptionsAndCasts) {
     });
 }
 
-TEST(Code, OfADeclarationWithAPathSetsWhereItLeads) {
+TEST(Code, of_a_declaration_with_a_path_sets_where_it_leads) {
     const CodeCase cases[] = {
         {4, "var /:v = \"x\";", "/:v = \"x\";"},
         {4, "var a.v = 1, ../b:w = 2;", "a.v = 1; ../b:w = 2;"},
@@ -206,7 +206,7 @@ TEST(Code, OfADeclarationWithAPathSetsWhereItLeads) {
     EXPECT_EQ(Compiled("var /:v = \"x\";", 5), "96 08 00 00 2F 3A 76 00 00 78 00 1D");
 }
 
-TEST(Code, IsNotMadeOfWhatHasNoEffectOrCannotBeReached) {
+TEST(Code, is_not_made_of_what_has_no_effect_or_cannot_be_reached) {
     Check({
         {6, "", ""},
         {6, " // only\n /* comments */ ; ", ""},
@@ -218,7 +218,7 @@ TEST(Code, IsNotMadeOfWhatHasNoEffectOrCannotBeReached) {
     });
 }
 
-TEST(Code, IsTheSameWithBlanksBeyondAscii) {
+TEST(Code, is_the_same_with_blanks_beyond_ascii) {
     const CodeCase cases[] = {
         {5, "x\xA0= 5\xA0;", "x=5;"},
         {5,
@@ -240,7 +240,7 @@ TEST(Code, IsTheSameWithBlanksBeyondAscii) {
     }
 }
 
-TEST(Code, IsNotMadeOfWhatToolsKnowAboutADeclaration) {
+TEST(Code, is_not_made_of_what_tools_know_about_a_declaration) {
     const CodeCase cases[] = {
         {6, "[Inspectable] var x;", "var x;"},
         {6, "[Inspectable(name=\"X\", defaultValue=5)]\nvar x = 1;", "var x = 1;"},
@@ -256,7 +256,7 @@ TEST(Code, IsNotMadeOfWhatToolsKnowAboutADeclaration) {
     EXPECT_NE(Compiled("[a()]; var x;", 6), Compiled("var x;", 6));
 }
 
-TEST(Code, OfConstantsIsTheirResult) {
+TEST(Code, of_constants_is_their_result) {
     const CodeCase cases[] = {
         {5, "x = 1 + 2 * 3;", "x = 7;"},   {5, "x = 7 >>> 1 << 2;", "x = 12;"},
         {5, "x = -1 >>> 28;", "x = 15;"},  {5, "x = \"a\" + \"b\" + 1;", "x = \"ab1\";"},
@@ -269,7 +269,7 @@ TEST(Code, OfConstantsIsTheirResult) {
             << folded.Source;
 }
 
-TEST(Code, KeepsVariablesOutOfRegistersThatOthersReachByName) {
+TEST(Code, keeps_variables_out_of_registers_that_others_reach_by_name) {
     const std::string_view sources[] = {
         "function f() { var a = 1; return function () { return a; }; }",
         "function f() { var a = 1; return eval(\"a\"); }",
@@ -285,7 +285,7 @@ TEST(Code, KeepsVariablesOutOfRegistersThatOthersReachByName) {
     }
 }
 
-TEST(Code, UsesOnePairOfRegistersForAllElementsThatChange) {
+TEST(Code, uses_one_pair_of_registers_for_all_elements_that_change) {
     std::string body;
     for (int i = 0; i < 200; ++i) body += "a[f()] += 1;";
     const CompiledScript script = ActionCompiler(7).Compile("function g(a) {" + body + "}");
@@ -297,13 +297,13 @@ TEST(Code, UsesOnePairOfRegistersForAllElementsThatChange) {
     EXPECT_EQ(at[RegisterCountAt], 4);
 }
 
-TEST(Code, OfBuiltInsIsFoundWithoutCaseBelowVersion7) {
+TEST(Code, of_built_ins_is_found_without_case_below_version_7) {
     EXPECT_EQ(Compiled("GOTOANDPLAY(3);", 6), "81 02 00 02 00 06");
     EXPECT_EQ(Compiled("if (a) Play();", 6), Compiled("if (a) play();", 6));
     EXPECT_NE(Compiled("GOTOANDPLAY(3);", 7), "81 02 00 02 00 06");
 }
 
-TEST(Code, OfKeywordsIsFoundWithoutCaseInVersion4Only) {
+TEST(Code, of_keywords_is_found_without_case_in_version_4_only) {
     EXPECT_EQ(Compiled("IF (a) x = NewLine;", 4), Compiled("if (a) x = newline;", 4));
     EXPECT_EQ(Compiled("IF (a) play();", 5), "not compiled");
     EXPECT_NE(Compiled("x = NewLine;", 5), Compiled("x = newline;", 5));

@@ -32,7 +32,7 @@ struct Fault {
     std::string_view Token;
 };
 
-TEST(Diagnostics, NameTheLineAndTheToken) {
+TEST(Diagnostics, name_the_line_and_the_token) {
     const Fault faults[] = {
         {6, "x = ;", 1, ";"},
         {6, "x = 1;\n\ny = (2;\n", 3, ";"},
@@ -114,7 +114,7 @@ TEST(Diagnostics, NameTheLineAndTheToken) {
     }
 }
 
-TEST(Diagnostics, OfTheParserAndOfTheGeneratorAreToldTogether) {
+TEST(Diagnostics, of_the_parser_and_of_the_generator_are_told_together) {
     const CompiledScript script = Compiled(
         "gotoAndPlay();\nx = ;\nremoveMovieClip();\ngetURL(\"u\", \"w\", \"PUT\");\n"
         "1 = 2;\ntrace();");
@@ -123,7 +123,7 @@ TEST(Diagnostics, OfTheParserAndOfTheGeneratorAreToldTogether) {
         EXPECT_EQ(script.Errors[static_cast<std::size_t>(line - 1)].Line, line);
 }
 
-TEST(Diagnostics, GoOnBehindAnError) {
+TEST(Diagnostics, go_on_behind_an_error) {
     const CompiledScript script =
         Compiled("x = ;\ny = 1;\nif (z { }\nfunction f() { a = ]; }\nw = );");
     ASSERT_EQ(script.Errors.size(), 4U);
@@ -133,7 +133,7 @@ TEST(Diagnostics, GoOnBehindAnError) {
     EXPECT_EQ(script.Errors[3].Line, 5);
 }
 
-TEST(Diagnostics, AreNotRepeatedForOneFault) {
+TEST(Diagnostics, are_not_repeated_for_one_fault) {
     const std::string_view sources[] = {
         "a();\nelse b();\nc();",
         "a();\ncase 1: b();",
@@ -172,7 +172,7 @@ TEST(Diagnostics, AreNotRepeatedForOneFault) {
         EXPECT_EQ(Compiled(source, 7).Errors.size(), 1U) << source;
 }
 
-TEST(Diagnostics, TellWhatElseToWriteInAVersion) {
+TEST(Diagnostics, tell_what_else_to_write_in_a_version) {
     const struct {
         Long Version;
         std::string_view Source;
@@ -191,11 +191,11 @@ TEST(Diagnostics, TellWhatElseToWriteInAVersion) {
     }
 }
 
-TEST(Diagnostics, EndAfterTwentyErrors) {
+TEST(Diagnostics, end_after_twenty_errors) {
     EXPECT_EQ(Compiled(Repeated("x = ;\n", 1000)).Errors.size(), 20U);
 }
 
-TEST(Diagnostics, WarnOfWhatIsProbablyNotMeant) {
+TEST(Diagnostics, warn_of_what_is_probably_not_meant) {
     const Fault faults[] = {
         {6, "x = 1;\nif (x = 2) play();", 2, "="},
         {6, "function f() {\nreturn 1;\nplay(); }", 3, "play"},
@@ -214,7 +214,7 @@ TEST(Diagnostics, WarnOfWhatIsProbablyNotMeant) {
     EXPECT_TRUE(Compiled("if (x == 2) play(); return1 = 2;").Warnings.empty());
 }
 
-TEST(Diagnostics, AreDeliveredAsLinesInTheCodePage) {
+TEST(Diagnostics, are_delivered_as_lines_in_the_code_page) {
     const String text = Delivered("if (a = 1) b();\n\nx = \"名前\" \"次\";\ny = ;", 6);
     EXPECT_EQ(text,
               u"Error: ; が必要です。\n"
@@ -224,7 +224,7 @@ TEST(Diagnostics, AreDeliveredAsLinesInTheCodePage) {
     EXPECT_EQ(Delivered("x = 1 'q';", 6), u"Error: ; が必要です。\nLine 1: '\"q\"'\n");
 }
 
-TEST(Diagnostics, OfTheCallAreReplacedByTheNextRun) {
+TEST(Diagnostics, of_the_call_are_replaced_by_the_next_run) {
     const Byte* bytes = nullptr;
     Long length = -1;
     EXPECT_EQ(compileSWFActionCode("x = ;", 6, &bytes, &length), 0);
@@ -236,7 +236,7 @@ TEST(Diagnostics, OfTheCallAreReplacedByTheNextRun) {
     EXPECT_EQ(length, 0);
 }
 
-TEST(Diagnostics, StandForTextsThatNoCodeCanHold) {
+TEST(Diagnostics, stand_for_texts_that_no_code_can_hold) {
     constexpr std::size_t Many = 100000;
     const std::string sources[] = {
         Repeated("(", Many),
@@ -264,7 +264,7 @@ TEST(Diagnostics, StandForTextsThatNoCodeCanHold) {
     EXPECT_FALSE(Compiled("x = " + Repeated("a || b or ", Many) + "1;", 4).IsCompiled());
 }
 
-TEST(Diagnostics, TellOfNamesWithDotsThatMakeTooLongAPath) {
+TEST(Diagnostics, tell_of_names_with_dots_that_make_too_long_a_path) {
     const std::string part(40000, 'n');
     const std::string path = "a." + part + "." + part;
     const std::pair<Long, std::string> sources[] = {
@@ -279,14 +279,14 @@ TEST(Diagnostics, TellOfNamesWithDotsThatMakeTooLongAPath) {
     EXPECT_TRUE(Compiled("for (k in " + path + ") x();", 6).IsCompiled());
 }
 
-TEST(Diagnostics, TellOfMoreCodeThanOperandsCanCount) {
+TEST(Diagnostics, tell_of_more_code_than_operands_can_count) {
     const std::string script = Repeated("try { } finally { }\n", 1'200'000);
     const CompiledScript compiled = Compiled(script, 7);
     ASSERT_EQ(compiled.Errors.size(), 1U);
     EXPECT_EQ(compiled.Errors[0].Token, "try");
 }
 
-TEST(Diagnostics, AreNotNeededForLongChains) {
+TEST(Diagnostics, are_not_needed_for_long_chains) {
     constexpr std::size_t Many = 100000;
     const std::string sources[] = {
         "x = " + Repeated("a + ", Many) + "1;",
@@ -305,7 +305,7 @@ TEST(Diagnostics, AreNotNeededForLongChains) {
     EXPECT_TRUE(Compiled("x = " + Repeated("a && ", 1000) + "b;", 4).IsCompiled());
 }
 
-TEST(Diagnostics, AreNotNeededForLongClasses) {
+TEST(Diagnostics, are_not_needed_for_long_classes) {
     std::string members;
     for (int i = 0; i < 3000; ++i) {
         const std::string name = "m" + std::to_string(i);
@@ -316,7 +316,7 @@ TEST(Diagnostics, AreNotNeededForLongClasses) {
         EXPECT_TRUE(Compiled("class A { " + members + "}", version).IsCompiled());
 }
 
-TEST(Diagnostics, TellOfJumpsAndBlocksThatAreTooLong) {
+TEST(Diagnostics, tell_of_jumps_and_blocks_that_are_too_long) {
     // Each call is 3 bytes of record, 5 of count, 3 of name, and two actions: 13.
     const std::string body = Repeated("f();", 6000);
     const CompiledScript jump = Compiled("x = 1;\nif (a) {" + body + "}", 7);

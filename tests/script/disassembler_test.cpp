@@ -9,7 +9,7 @@ std::string Listed(const Bytes& actions, Long version = 6) {
     return ActionDisassembler(version).List(actions);
 }
 
-TEST(Disassembler, ListsOffsetsNamesAndOperands) {
+TEST(Disassembler, lists_offsets_names_and_operands) {
     EXPECT_EQ(Listed({0x88, 6, 0,    1,    0,    'f',  'o',  'o',  0, 0x96, 7,    0,   8,
                       0,    7, 0xFE, 0xFF, 0xFF, 0xFF, 0x1D, 0x99, 2, 0,    0xF1, 0xFF}),
               "     0  ConstantPool \"foo\"\n"
@@ -22,18 +22,18 @@ TEST(Disassembler, ListsOffsetsNamesAndOperands) {
               "    18  GotoFrame 2\n");
 }
 
-TEST(Disassembler, IndentsTheBlocksOfFunctions) {
+TEST(Disassembler, indents_the_blocks_of_functions) {
     EXPECT_EQ(Listed({0x9B, 8, 0, 'f', 0, 1, 0, 'a', 0, 1, 0, 0x06, 0x07}),
               "     0  DefineFunction \"f\" ( \"a\" )\n"
               "    11    Play\n"
               "    12  Stop\n");
 }
 
-TEST(Disassembler, ReadsTextsInTheCodePageBelowVersion6) {
+TEST(Disassembler, reads_texts_in_the_code_page_below_version_6) {
     EXPECT_EQ(Listed({0x8C, 3, 0, 0x95, 0x5C, 0}, 5), "     0  GotoLabel \"表\"\n");
 }
 
-TEST(Disassembler, TellsOfDamagedRecords) {
+TEST(Disassembler, tells_of_damaged_records) {
     const Bytes damaged[] = {
         {0x96},
         {0x96, 5},
