@@ -1,6 +1,7 @@
 #include "app/operations/LibraryOperations.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "app/operations/SymbolFromFile.h"
 #include "document/SymbolFiles.h"
@@ -269,7 +270,10 @@ bool LibraryOperations::Change(const EditSymbolData& edit) {
     const SymbolRange range = session_.SelectedSymbols();
     if (range.Count() < 1) return false;
     clsSymbolData& symbol = *(*session_.colSymbol())(range.First);
-    if (!edit(symbol)) return false;
+    clsSymbolData changed = symbol;
+    if (symbol.PropertyData()) changed.PropertyData(symbol.PropertyData()->Copy());
+    if (!edit(changed)) return false;
+    symbol = std::move(changed);
     session_.LibraryChanged(Kind::LibraryRows | Kind::Symbol);
     if (symbol.eType() == KindText) session_.Assets().SetTextSize(symbol);
     if (symbol.FilePathName.empty()) return true;

@@ -2,6 +2,7 @@
 #include <set>
 
 #include "app/commands/CommandTable.h"
+#include "app/fields/SymbolFields.h"
 #include "app/operations/AssetReader.h"
 #include "app/session/Transaction.h"
 #include "app/settings/mdlPrivateProfile.h"
@@ -108,6 +109,18 @@ TEST_F(Changes, a_change_that_is_refused_or_throws_leaves_nothing_behind) {
         row.LayerName = u"空";
         return false;
     }));
+    const auto rename = [](clsSymbolData& symbol) {
+        return SetSymbolField(symbol, u"SpriteName", u"空") &&
+               SetSymbolField(symbol, u"ObjectName", u"空");
+    };
+    EXPECT_FALSE(main_.ChangeSymbol([&](clsSymbolData& s) { return rename(s) && false; }));
+    EXPECT_THROW(main_.ChangeSymbol([&](clsSymbolData& s) -> bool {
+        rename(s);
+        throw RuntimeError(ErrorOutOfRange, u"", u"");
+    }),
+                 RuntimeError);
+    EXPECT_NE((*main_.colSymbol())(1)->Value(), u"空");
+    EXPECT_EQ((*main_.colSymbol())(1)->ObjectName, u"");
     EXPECT_EQ(X(), 7);
     EXPECT_EQ(Row(1).LayerName, u"");
     EXPECT_TRUE(watcher_.Take().Empty());
