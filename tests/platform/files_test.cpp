@@ -95,8 +95,11 @@ TEST_F(FilesTest, a_save_killed_at_any_step_leaves_the_old_file_or_the_new_one) 
 TEST_F(FilesTest, a_save_under_way_is_no_leftover) {
     const String other = FromNarrow((folder / "other").string());
     ASSERT_TRUE(WriteFileBytes(oldBytes, path));
-    StopAfter(3, [this, &other] {
-        BeforeWriteStep() = nullptr;
+    bool within = false;
+    StopAfter(3, [this, &other, &within] {
+        // The other save has steps of its own.
+        if (within) return true;
+        within = true;
         return WriteFileBytes(oldBytes, other);
     });
     EXPECT_TRUE(WriteFileBytes(newBytes, path));
