@@ -17,6 +17,8 @@ namespace {
 
 constexpr std::string_view PackedMagic = "KVFZ";
 constexpr std::size_t PackedHead = 8;
+/// Tells of no cell, as a row number below 0 says. Its last character, a kanji, is no UTF-8.
+constexpr std::string_view AnsiRow = "UNICODE,-1,0,\x95\x5C\r\n";
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
 std::string_view Narrow(ByteView bytes) {
@@ -99,6 +101,7 @@ String Decode(ByteView text, Notices& told) {
 Bytes EncodeProjectText(clsCSV& csv, bool packed, std::size_t largest) {
     AppendUnicodeRows(csv);
     Bytes text = EncodeAnsi(csv.Text());
+    if (LooksLikeUtf8(text)) text.insert(text.end(), AnsiRow.begin(), AnsiRow.end());
     if (text.size() > largest)
         throw RuntimeError(ErrorOutOfRange, u"SaveProject",
                            u"プロジェクトが大きすぎます。（" +

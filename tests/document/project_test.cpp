@@ -417,6 +417,20 @@ TEST_F(ProjectFile, reads_a_text_that_an_editor_turned_into_utf_8) {
     EXPECT_EQ((*project.colMainLayer)(1)->LayerName, u"ﾃｷ");
 }
 
+TEST_F(ProjectFile, what_is_written_is_never_taken_for_UTF8) {
+    // In the code page a half-width kana and a kanji, C4 96 6B, and a kanji and a kana, E3 81 B1.
+    for (const StringView name : {u"ﾄ北", u"縺ｱ"}) {
+        const String text =
+            u"KVF,0,9,0\r\n1,1,1,8\r\n0\r\n1\r\n-2," + String(name) + u",,0,,,-1,0,0,,,,True,0\r\n";
+        clsCSV csv;
+        csv.Text(text);
+        Project project;
+        ASSERT_TRUE(
+            ShowLoad(LoadProjectBytes(EncodeProjectText(csv, false), path_, project, assets_)));
+        EXPECT_EQ(Cells(project), text);
+    }
+}
+
 TEST_F(ProjectFile, keeps_the_row_of_an_unknown_kind) {
     const String row = u"1,絵\\表.bmp,新種,a,b,c,1,\"x,y\",,\r\n2,,新種,,,,\r\n";
     const String text = u"KVF,0,9,0\r\n1,1,1,8\r\n2\r\n" + row + u"0\r\n";

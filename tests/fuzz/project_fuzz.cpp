@@ -1,4 +1,5 @@
 #include "document/ProjectReader.h"
+#include "document/ProjectText.h"
 #include "document/ProjectWriter.h"
 #include "document/cells/clsCSV.h"
 #include "platform/UserInterface.h"
@@ -10,8 +11,9 @@ using namespace tamber;
 class Silent : public UserInterface {
 public:
     void Message(StringView, StringView, MessageIcon) override {}
-    Answer Ask(StringView, StringView, Choices) override { return Answer::Cancel; }
-    String OpenFileDialog(const FileDialog&) override { return u"chosen"; }
+    /// No file is there, and each project opens without.
+    Answer Ask(StringView, StringView, Choices) override { return Answer::Yes; }
+    String OpenFileDialog(const FileDialog&) override { return {}; }
     String SaveFileDialog(const FileDialog&) override { return {}; }
     String SelectFolderDialog(StringView) override { return {}; }
     void Progress(StringView, Long, Long) override {}
@@ -28,6 +30,12 @@ public:
     void SetTextSize(clsSymbolData&) const override {}
 };
 
+Bytes Written(const Project& project) {
+    clsCSV csv;
+    SaveProjectCells(csv, project, u"/");
+    return EncodeProjectText(csv, false);
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -39,7 +47,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (load.Told.empty()) __builtin_trap();
         return 0;
     }
-    clsCSV csv;
-    SaveProjectCells(csv, project, u"/");
+    // What was written comes back as it was.
+    const Bytes written = Written(project);
+    Project again;
+    if (!LoadProjectBytes(written, u"/project.kvf", again, AnyAssets()) ||
+        Written(again) != written)
+        __builtin_trap();
     return 0;
 }
