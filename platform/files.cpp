@@ -184,7 +184,10 @@ bool WriteWhole(ByteView bytes, const std::string& target) {
     if (!StepAllowed()) return false;
     FileHandle file(CreateBeside(target, beside));
     if (!file.Ok()) return false;
-    const bool written = FillFile(file.Descriptor(), bytes, target) && StepAllowed() &&
+    // Shares the lock, which holds until the file has its name; closing comes before that, since
+    // it is the last that can fail for want of space.
+    const FileHandle lock(fcntl(file.Descriptor(), F_DUPFD_CLOEXEC, 0));
+    const bool written = lock.Ok() && FillFile(file.Descriptor(), bytes, target) && StepAllowed() &&
                          file.Close() && StepAllowed() &&
                          std::rename(beside.c_str(), target.c_str()) == 0;
     if (!written) {

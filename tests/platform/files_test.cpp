@@ -92,18 +92,22 @@ TEST_F(FilesTest, a_save_killed_at_any_step_leaves_the_old_file_or_the_new_one) 
     FAIL() << "no save went through";
 }
 
-TEST_F(FilesTest, a_save_under_way_is_no_leftover) {
+TEST_F(FilesTest, a_save_under_way_is_no_leftover_at_any_step) {
     const String other = FromNarrow((folder / "other").string());
-    ASSERT_TRUE(WriteFileBytes(oldBytes, path));
-    bool within = false;
-    StopAfter(3, [this, &other, &within] {
-        // The other save has steps of its own.
-        if (within) return true;
-        within = true;
-        return WriteFileBytes(oldBytes, other);
-    });
-    EXPECT_TRUE(WriteFileBytes(newBytes, path));
-    EXPECT_EQ(Content(), newBytes);
+    // From the first write to the rename.
+    for (int steps = 1; steps < 8; ++steps) {
+        ASSERT_TRUE(WriteFileBytes(oldBytes, path));
+        bool within = false;
+        StopAfter(steps, [this, &other, &within] {
+            // The other save has steps of its own.
+            if (within) return true;
+            within = true;
+            return WriteFileBytes(oldBytes, other);
+        });
+        EXPECT_TRUE(WriteFileBytes(newBytes, path)) << steps;
+        EXPECT_EQ(Content(), newBytes) << steps;
+        BeforeWriteStep() = nullptr;
+    }
 }
 
 TEST_F(FilesTest, a_failed_write_has_a_cause_in_words) {
