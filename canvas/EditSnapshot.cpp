@@ -1,7 +1,6 @@
 #include "canvas/EditSnapshot.h"
 
 #include "swf/authoring/MovieLimits.h"
-#include "swf/mdlSWFTag.h"
 
 namespace tamber {
 
@@ -9,7 +8,6 @@ bool WriteEditSnapshot(clsSWFAdmin& admin, const SnapshotRequest& snapshot, Long
                        StringView path, PlacedTags& placed) {
     // Each redraw would tell it again.
     Notices untold;
-    mdlSWFTag::swfVersion(admin.Ver);
     admin.InitSWF();
     admin.BackGroundColor = backColor;
     PlacedTags tags = mdlSWFAuthoring::WriteFrameSnapshot(admin, snapshot, untold);

@@ -8,7 +8,6 @@
 #include "platform/rounding.h"
 #include "platform/twips.h"
 #include "swf/authoring/VectorDefinition.h"
-#include "swf/mdlSWFTag.h"
 
 namespace tamber {
 
@@ -54,7 +53,6 @@ String VectorPreviewPath() {
 }
 
 bool PreView(const clsPropertyVector& record, Long version, Long morphFrames, StringView path) {
-    mdlSWFTag::swfVersion(version);
     clsSymbolData symbol(KindVector);
     record.CopyTo(*symbol.PropertyData());
     const clsPropertyVector* end = MorphTarget(record, version);

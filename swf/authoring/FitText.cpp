@@ -4,10 +4,10 @@
 #include <numbers>
 #include <unordered_map>
 
-#include "document/symbols/clsLayer.h"
 #include "document/elements/clsLayerObjElement.h"
 #include "document/records/clsPropertySprite.h"
 #include "document/records/clsPropertyVector.h"
+#include "document/symbols/clsLayer.h"
 #include "platform/twips.h"
 #include "swf/authoring/OutlinePath.h"
 #include "swf/authoring/TextDefinition.h"

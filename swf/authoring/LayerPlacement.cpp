@@ -1,138 +1,110 @@
 #include "swf/authoring/LayerPlacement.h"
 
-#include "swf/mdlSWFTag.h"
+#include "swf/authoring/TweenExpansion.h"
 #include "swf/tags/clsSWFTagRemoveObject.h"
 
 namespace tamber {
-
-namespace {
-/// What a character that is placed anew has to say of its blend mode.
-void TakeBlend(clsSWFTagPlaceObject& tag, const clsLayerObjElement& element) {
-    if (mdlSWFTag::swfVersion() >= FilterVersion && element.eBlend != 0) tag.eBlend(element.eBlend);
-}
-
-}  // namespace
 
 void LayerPlacement::Run() {
     for (Long index = 1; index <= layer_.ObjectCount(); ++index)
         if (layer_.Object(index)->Placement() != nullptr) PlaceKeyFrame(index);
 }
 
-std::shared_ptr<clsSWFTagPlaceObject> LayerPlacement::MakeTag(const clsLayerObject& object) {
+/// What a character that is placed anew has to say of its blend mode.
+void LayerPlacement::TakeBlend(clsSWFTagPlaceObject& tag, const clsLayerObjElement& element) const {
+    if (admin_.Ver >= FilterVersion && element.eBlend != 0) tag.eBlend(element.eBlend);
+}
+
+/// Tag of the key frame behind the present one.
+std::shared_ptr<clsSWFTagPlaceObject> LayerPlacement::MakeTag(const KeyFrameStand& stand) {
+    const clsLayerObject& object = *layer_.Object(stand.Index);
     const clsLayerObjElement& element = *object.Placement();
-    const Long depth = character_.Depth;
-    if (placed_) {
-        auto tag = NewPlaceObject(0, depth, element, character_.Origin, previous_->Placement());
-        // A koma is placed anew within the span and has to mask and blend again.
-        if (character_.Koma != nullptr) {
+    const auto make = [&](Long id, const clsLayerObjElement* previous) {
+        return NewPlaceObject(admin_.Ver, id, place_.Depth, element, place_.Origin, previous);
+    };
+    if (!stand.blAnew) {
+        auto tag = make(0, Object().Placement());
+        // A picture that comes within the span has to mask and blend again.
+        if (course_.FramesAPicture() != 0) {
             tag->ClippingDepth = tag_->ClippingDepth;
             TakeBlend(*tag, element);
         }
         return tag;
     }
-    auto tag = NewPlaceObject(character_.Identifier, depth, element, character_.Origin, nullptr);
-    tag->ClippingDepth = character_.ClippingDepth;
+    auto tag = make(characters_.First().Identifier, nullptr);
+    placeCount_ = characters_.First().PlaceCount;
+    tag->ClippingDepth = place_.ClippingDepth;
     if (layer_.blInstance()) tag->Name = layer_.InstanceName;
-    if (object.blVisible && character_.Actions != nullptr) tag->MCAction = *character_.Actions;
-    if (character_.Koma != nullptr) character_.Koma->Rewind();
+    if (object.blVisible) tag->MCAction = place_.Actions;
     return tag;
 }
 
 void LayerPlacement::PlaceKeyFrame(Long index) {
-    const clsLayerObject& object = *layer_.Object(index);
-    auto tag = MakeTag(object);
+    const KeyFrameStand before = stand_;
+    const KeyFrameStand stand = course_.Next(before, index);
+    auto tag = MakeTag(stand);
+    stand_ = stand;
     tag->PlaceCnt = placeCount_;
-    placed_ = true;
     std::swap(tag_, tag);
-    const bool endsTween = inTween_;
-    if (inTween_) ExpandTween(tag, index - 1);
-    inTween_ = false;
-    previous_ = &object;
-    if (!object.blVisible) {
-        if (onStage_ && object.StartFrame() <= admin_.FrameCount()) Remove(object.StartFrame());
-        EndCharacter();
+    if (before.blTween) ExpandTween(before, tag);
+    const Long start = Object().StartFrame();
+    if (!stand_.blShown) {
+        if (!stand_.blAnew && start <= admin_.FrameCount()) Remove(start);
         return;
     }
-    ChooseCharacter(index, endsTween);
-    if (OpensTween(layer_, index)) {
-        inTween_ = true;
-    } else {
-        PlaceStatic(index);
-        EndSpan(index);
-    }
+    ChooseCharacter();
+    if (stand_.blTween) return;
+    PlaceStatic();
+    EndSpan();
 }
 
-/// The end of a morph shows its outline already; other deformed key frames get their own character,
-/// and a plain one after them the layer's.
-void LayerPlacement::ChooseCharacter(Long index, bool endsTween) {
-    const clsLayerObject& object = *layer_.Object(index);
-    if (special_ && endsTween && !OpensTween(layer_, index)) return;
-    if (IsDeformed(layer_, index, character_)) {
-        ReplaceCharacter(object.StartFrame(), DeformedAt(layer_, index, character_));
-        special_ = true;
-    } else if (special_) {
-        ReplaceCharacter(object.StartFrame(), {character_.Identifier, character_.PlaceCount});
-        special_ = false;
-    }
+void LayerPlacement::ChooseCharacter() {
+    if (stand_.blSame) return;
+    if (stand_.Owner != 0)
+        ReplaceCharacter(characters_.Own(
+            Object(), stand_.blTween ? layer_.Object(stand_.Index + 1).get() : nullptr));
+    else if (!stand_.blAnew)
+        ReplaceCharacter(characters_.First());
 }
 
-void LayerPlacement::ReplaceCharacter(Long frame, DeformedCharacter character) {
-    if (onStage_) Remove(frame);
-    onStage_ = false;
+void LayerPlacement::ReplaceCharacter(ShownCharacter character) {
+    if (!stand_.blAnew) Remove(Object().StartFrame());
     placeCount_ = character.PlaceCount;
     tag_->PlaceID = character.Identifier;
     tag_->PlaceCnt = character.PlaceCount;
-    tag_->ClippingDepth = character_.ClippingDepth;
+    tag_->ClippingDepth = place_.ClippingDepth;
     if (layer_.blInstance()) tag_->Name = layer_.InstanceName;
-    TakeBlend(*tag_, *previous_->Placement());
+    TakeBlend(*tag_, *Object().Placement());
 }
 
-/// What stands at the depth is gone; the next key frame begins anew.
-void LayerPlacement::EndCharacter() {
-    placed_ = onStage_ = special_ = false;
-    placeCount_ = character_.PlaceCount;
+/// The tween that begins at the key frame before with tag `start` and ends with the present one.
+void LayerPlacement::ExpandTween(const KeyFrameStand& from,
+                                 const std::shared_ptr<clsSWFTagPlaceObject>& start) {
+    const Tween tween(layer_, course_, from, start, tag_);
+    AddTween(admin_, tween, TweenPathOf(layer_, from.Index, place_.Origin),
+             SpanPictures(course_, from, characters_));
 }
 
-/// The tween that begins at the key frame at `index` with tag `start` and ends with the present
-/// one.
-void LayerPlacement::ExpandTween(const std::shared_ptr<clsSWFTagPlaceObject>& start, Long index) {
-    Tween tween = TweenOf(layer_, index, character_);
-    tween.StartTag = start;
-    tween.EndTag = tag_;
-    AddTween(admin_, tween,
-             PathOf(*layer_.Object(index), *layer_.Object(index + 1), character_.Origin));
-    onStage_ = true;
-}
-
-void LayerPlacement::PlaceStatic(Long index) {
-    const Long start = layer_.Object(index)->StartFrame();
-    onStage_ = true;
-    if (character_.Koma == nullptr) {
-        admin_.AddPlaceObj(start, tag_);
+void LayerPlacement::PlaceStatic() {
+    const SpanPictures pictures(course_, stand_, characters_);
+    if (!pictures.Turn()) {
+        admin_.AddPlaceObj(Object().StartFrame(), tag_);
         return;
     }
-    character_.Koma->BeginSpan();
-    const Long span = SpanOf(layer_, index);
-    for (Long i = 0; i < span; ++i) PlaceKoma(admin_, start + i, *tag_, *character_.Koma);
+    const Long span = course_.SpanOf(stand_.Index);
+    for (Long i = 0; i < span; ++i)
+        if (const std::optional<Long> id = pictures.At(i))
+            PlacePicture(admin_, Object().StartFrame() + i, *tag_, *id);
 }
 
-void LayerPlacement::EndSpan(Long index) {
-    const Long end = layer_.Object(index)->StartFrame() + SpanOf(layer_, index) - 1;
-    if (index == layer_.ObjectCount()) {
-        if (end < admin_.FrameCount()) Remove(end + 1);
-        EndCharacter();
-        return;
-    }
-    const bool gap = layer_.Object(index + 1)->StartFrame() > end + 1;
-    if (end != admin_.FrameCount() && (gap || special_)) {
-        Remove(end + 1);
-        EndCharacter();
-    }
+void LayerPlacement::EndSpan() {
+    const Long next = Object().StartFrame() + course_.SpanOf(stand_.Index);
+    if (!stand_.blStays && next <= admin_.FrameCount()) Remove(next);
 }
 
 void LayerPlacement::Remove(Long frame) {
     auto remove = std::make_shared<clsSWFTagRemoveObject>();
-    remove->depth = character_.Depth;
+    remove->depth = place_.Depth;
     remove->RemoveCnt = placeCount_;
     admin_.AddTag(frame, std::move(remove), false);
 }

@@ -2,7 +2,9 @@
 
 #include <memory>
 
-#include "swf/authoring/LayerCharacter.h"
+#include "swf/authoring/LayerCharacters.h"
+#include "swf/authoring/LayerCourse.h"
+#include "swf/authoring/LayerPlace.h"
 #include "swf/authoring/clsSWFAdmin.h"
 
 namespace tamber {
@@ -10,36 +12,37 @@ namespace tamber {
 /// Puts the key frames of one layer into a timeline: placements, tweens, moves and removals.
 class LayerPlacement {
 public:
-    LayerPlacement(clsSWFAdmin& admin, const clsLayer& layer, LayerCharacter character)
+    LayerPlacement(clsSWFAdmin& admin, const clsLayer& layer, const LayerPlace& place,
+                   LayerCharacters& characters)
         : admin_(admin),
           layer_(layer),
-          character_(std::move(character)),
-          placeCount_(character_.PlaceCount) {}
+          place_(place),
+          characters_(characters),
+          course_(layer),
+          placeCount_(characters.First().PlaceCount) {}
 
     void Run();
 
 private:
+    const clsLayerObject& Object() const { return *layer_.Object(stand_.Index); }
     void PlaceKeyFrame(Long index);
-    void ChooseCharacter(Long index, bool endsTween);
-    void ReplaceCharacter(Long frame, DeformedCharacter character);
-    void EndCharacter();
-    std::shared_ptr<clsSWFTagPlaceObject> MakeTag(const clsLayerObject& object);
-    void ExpandTween(const std::shared_ptr<clsSWFTagPlaceObject>& start, Long index);
-    void PlaceStatic(Long index);
-    void EndSpan(Long index);
+    std::shared_ptr<clsSWFTagPlaceObject> MakeTag(const KeyFrameStand& stand);
+    void ChooseCharacter();
+    void ReplaceCharacter(ShownCharacter character);
+    void ExpandTween(const KeyFrameStand& from, const std::shared_ptr<clsSWFTagPlaceObject>& start);
+    void PlaceStatic();
+    void EndSpan();
     void Remove(Long frame);
+    void TakeBlend(clsSWFTagPlaceObject& tag, const clsLayerObjElement& element) const;
 
     clsSWFAdmin& admin_;
     const clsLayer& layer_;
-    LayerCharacter character_;
+    const LayerPlace& place_;
+    LayerCharacters& characters_;
+    LayerCourse course_;
+    KeyFrameStand stand_;
     std::shared_ptr<clsSWFTagPlaceObject> tag_;
-    /// The key frame before, when its placement is part of the present chain.
-    const clsLayerObject* previous_ = nullptr;
-    bool placed_ = false;   ///< a tag of the present chain exists
-    bool onStage_ = false;  ///< a character stands at the depth
-    bool inTween_ = false;  ///< the key frame before opened a tween
-    bool special_ = false;  ///< the character is a key frame's own
-    Long placeCount_;       ///< depths of the present character
+    Long placeCount_;  ///< depths of the present character
 };
 
 }  // namespace tamber

@@ -4,7 +4,7 @@
 #include "document/elements/SymbolKinds.h"
 #include "document/records/clsPropertySprite.h"
 #include "platform/text.h"
-#include "swf/authoring/LayerCharacter.h"
+#include "swf/authoring/LayerCourse.h"
 #include "swf/authoring/TimelineRows.h"
 #include "swf/mdlSWFTag.h"
 
@@ -28,10 +28,11 @@ bool FitsFrames(const Collection<clsLayer>& layers) {
 }
 
 std::int64_t PlacementsOf(const clsLayer& layer) {
-    const bool koma = layer.SymbolData()->eTypeEx() == KindKoma;
+    const LayerCourse course(layer);
+    const bool koma = course.FramesAPicture() != 0;
     std::int64_t placements = 0;
     for (Long index = 1; index <= layer.ObjectCount(); ++index)
-        placements += koma || layer.Object(index)->blTween ? SpanOf(layer, index) : 1;
+        placements += koma || layer.Object(index)->blTween ? course.SpanOf(index) : 1;
     return placements;
 }
 

@@ -35,7 +35,7 @@ void SetBlendAndFilters(clsSWFTagPlaceObject& tag, const clsLayerObjElement& ele
 
 }  // namespace
 
-std::shared_ptr<clsSWFTagPlaceObject> NewPlaceObject(Long placeID, Long depth,
+std::shared_ptr<clsSWFTagPlaceObject> NewPlaceObject(Long version, Long placeID, Long depth,
                                                      const clsLayerObjElement& element,
                                                      TimelineOrigin origin,
                                                      const clsLayerObjElement* previous) {
@@ -47,7 +47,7 @@ std::shared_ptr<clsSWFTagPlaceObject> NewPlaceObject(Long placeID, Long depth,
                    ToTwips(element.OffsetX(), 0), ToTwips(element.OffsetY(), 0), element.SkewX(),
                    element.SkewY());
     SetColour(*tag, element);
-    if (mdlSWFTag::swfVersion() >= FilterVersion) SetBlendAndFilters(*tag, element, previous);
+    if (version >= FilterVersion) SetBlendAndFilters(*tag, element, previous);
     return tag;
 }
 

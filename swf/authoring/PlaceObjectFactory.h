@@ -13,9 +13,9 @@ struct TimelineOrigin {
     Single Y = 0;
 };
 
-/// A placement of an element. `placeID` 0 moves what stands at the depth; `previous` is the element
-/// that stood there before, or null.
-std::shared_ptr<clsSWFTagPlaceObject> NewPlaceObject(Long placeID, Long depth,
+/// A placement of an element in a movie of `version`. `placeID` 0 moves what stands at the depth;
+/// `previous` is the element that stood there before, or null.
+std::shared_ptr<clsSWFTagPlaceObject> NewPlaceObject(Long version, Long placeID, Long depth,
                                                      const clsLayerObjElement& element,
                                                      TimelineOrigin origin,
                                                      const clsLayerObjElement* previous);

@@ -21,8 +21,7 @@ Long FontIdentifier(const clsSWFAdmin& admin, const clsPropertyText& text) {
 }
 
 void AddSmoothing(clsSWFAdmin& admin, Long id, const clsPropertyText& text, Long frame) {
-    if (mdlSWFTag::swfVersion() >= SmoothingVersion)
-        admin.AddTag(frame, GetNewCSMTextSettings(id, text), true);
+    if (admin.Ver >= SmoothingVersion) admin.AddTag(frame, GetNewCSMTextSettings(id, text), true);
 }
 
 /// Static text in a font of the player's own, of which no glyphs can be embedded, as the record of
@@ -44,9 +43,9 @@ clsPropertyText LockedField(const clsPropertyText& text) {
 /// version 6 on the box grows with the text. Below, it gets the room that letters take at most:
 /// twice that of the half-width ones which it was measured with, and lines a quarter higher. Text
 /// that ends on the right or stands in the middle would move with a wider box.
-void GiveRoom(clsSWFTagDefineEditText& field) {
+void GiveRoom(clsSWFTagDefineEditText& field, Long version) {
     field.blAutoSize = true;
-    if (mdlSWFTag::swfVersion() >= UnicodeVersion) return;
+    if (version >= UnicodeVersion) return;
     if (field.Alignment == clsSWFTagDefineText::Left)
         field.Width = mdlSWFTag::ToField(field.Width * 2.0);
     field.height = mdlSWFTag::ToField(field.height * 1.25);
@@ -145,7 +144,7 @@ Long DefineText(clsSWFAdmin& admin, const clsSymbolData& symbol, Long frame) {
     Long id = 0;
     if (text.blDynamic || locked) {
         auto tag = GetNewEditText(admin, locked ? LockedField(text) : text);
-        if (locked) GiveRoom(*tag);
+        if (locked) GiveRoom(*tag, admin.Ver);
         id = tag->ID;
         admin.AddTag(frame, std::move(tag), true);
     } else {

@@ -4,9 +4,11 @@
 #include <cmath>
 #include <optional>
 
+#include "document/elements/SymbolKinds.h"
+#include "document/records/clsPropertyVector.h"
+#include "document/symbols/clsSymbolData.h"
 #include "platform/rounding.h"
 #include "swf/authoring/EdgingCurve.h"
-#include "swf/mdlSWFTag.h"
 #include "swf/tags/clsSWFTagRemoveObject.h"
 
 namespace tamber {
@@ -105,12 +107,12 @@ void CompleteFilters(clsSWFTagPlaceObject& start, const clsSWFTagPlaceObject& en
     start.inFilter(own.AuthoringCopy(*end.inFilter(), true));
 }
 
-void ChooseMorphing(const Tween& tween, const TweenPath& path) {
+void ChooseMorphing(const Tween& tween, const TweenPath& path, Long version) {
     clsSWFTagPlaceObject& start = *tween.StartTag;
     const clsSWFTagPlaceObject& end = *tween.EndTag;
-    const bool filters = mdlSWFTag::swfVersion() >= FilterVersion;
+    const bool filters = version >= FilterVersion;
     if (filters) CompleteFilters(start, end);
-    if (tween.Koma != nullptr) {
+    if (tween.blPictures) {
         start.blMatrixMorphing = start.blHasMatrix || end.blHasMatrix;
         start.blColorMorphing = start.blHasColorTransform || end.blHasColorTransform;
         start.blFilterMorphing = filters && start.FilterCount() + end.FilterCount() > 0;
@@ -129,10 +131,14 @@ void RemoveFrom(clsSWFAdmin& admin, Long frame, const clsSWFTagPlaceObject& tag)
     admin.AddTag(frame, std::move(remove), false);
 }
 
-/// Gives the tag of a koma's frame the next picture, when its turn has come.
-void TurnKoma(clsSWFAdmin& admin, const Tween& tween, Long frame, clsSWFTagPlaceObject& tag) {
-    if (tween.Koma == nullptr) return;
-    const std::optional<Long> id = tween.Koma->Advance();
+bool IsMorph(const clsSymbolData& symbol) {
+    const auto* drawing = symbol.Property<clsPropertyVector>();
+    return drawing != nullptr && drawing->MorphSymbol() != nullptr;
+}
+
+/// Gives the tag of a frame the picture that comes there.
+void TurnPicture(clsSWFAdmin& admin, Long frame, const std::optional<Long>& id,
+                 clsSWFTagPlaceObject& tag) {
     if (!id) return;
     RemoveFrom(admin, frame, tag);
     tag.PlaceID = *id;
@@ -140,38 +146,58 @@ void TurnKoma(clsSWFAdmin& admin, const Tween& tween, Long frame, clsSWFTagPlace
 
 }  // namespace
 
-void PlaceKoma(clsSWFAdmin& admin, Long frame, const clsSWFTagPlaceObject& tag, KomaTable& koma) {
-    const std::optional<Long> id = koma.Advance();
-    if (!id) return;
+bool Morphs(const clsLayer& layer, const KeyFrameStand& stand) {
+    return stand.Owner != 0 || IsMorph(*layer.SymbolData());
+}
+
+Tween::Tween(const clsLayer& layer, const LayerCourse& course, const KeyFrameStand& stand,
+             std::shared_ptr<clsSWFTagPlaceObject> startTag,
+             std::shared_ptr<clsSWFTagPlaceObject> endTag)
+    : Frame(layer.Object(stand.Index)->StartFrame()),
+      Span(course.SpanOf(stand.Index)),
+      StartTag(std::move(startTag)),
+      EndTag(std::move(endTag)),
+      Element(layer.Object(stand.Index)->Placement()),
+      blVector(layer.SymbolData()->eTypeEx() == KindVector),
+      blMorph(IsMorph(*layer.SymbolData())),
+      blPictures(course.FramesAPicture() != 0) {}
+
+TweenPath TweenPathOf(const clsLayer& layer, Long index, TimelineOrigin origin) {
+    return {*layer.Object(index)->Placement(), *layer.Object(index + 1)->Placement(), origin.X,
+            origin.Y};
+}
+
+void PlacePicture(clsSWFAdmin& admin, Long frame, const clsSWFTagPlaceObject& tag, Long id) {
     RemoveFrom(admin, frame, tag);
     auto copy = std::make_shared<clsSWFTagPlaceObject>(tag);
-    copy->PlaceID = *id;
+    copy->PlaceID = id;
     admin.AddPlaceObj(frame, std::move(copy));
 }
 
-void AddTween(clsSWFAdmin& admin, const Tween& tween, const TweenPath& path, Long fixedFrame) {
-    ChooseMorphing(tween, path);
-    const TweenEasing easing(*tween.Element);
+void AddTweenFrame(clsSWFAdmin& admin, const Tween& tween, const TweenPath& path, Long offset) {
+    ChooseMorphing(tween, path, admin.Ver);
     if (tween.blVector) tween.StartTag->Ratio(0);
-    if (fixedFrame > tween.Frame) {
+    if (offset > 0) {
         clsSWFTagPlaceObject tag(*tween.StartTag);
-        Interpolate(tag, tween, path, easing, fixedFrame - tween.Frame);
+        Interpolate(tag, tween, path, TweenEasing(*tween.Element), offset);
         *tween.StartTag = std::move(tag);
     }
-    if (fixedFrame != 0) {
-        admin.AddPlaceObj(1, tween.StartTag);
-        return;
-    }
-    if (tween.Koma != nullptr) tween.Koma->BeginSpan();
-    TurnKoma(admin, tween, tween.Frame, *tween.StartTag);
+    admin.AddPlaceObj(1, tween.StartTag);
+}
+
+void AddTween(clsSWFAdmin& admin, const Tween& tween, const TweenPath& path,
+              const SpanPictures& pictures) {
+    ChooseMorphing(tween, path, admin.Ver);
+    const TweenEasing easing(*tween.Element);
+    if (tween.blVector) tween.StartTag->Ratio(0);
+    TurnPicture(admin, tween.Frame, pictures.At(0), *tween.StartTag);
     admin.AddPlaceObj(tween.Frame, tween.StartTag);
     clsSWFTagPlaceObject move = MoveOf(*tween.StartTag);
-    if (tween.Koma != nullptr && tween.StartTag->blHasBlend())
-        move.eBlend(tween.StartTag->eBlend());
+    if (tween.blPictures && tween.StartTag->blHasBlend()) move.eBlend(tween.StartTag->eBlend());
     for (Long i = 1; i < tween.Span; ++i) {
         move.PlaceID = 0;
         Interpolate(move, tween, path, easing, i);
-        TurnKoma(admin, tween, tween.Frame + i, move);
+        TurnPicture(admin, tween.Frame + i, pictures.At(i), move);
         admin.AddWrittenPlace(tween.Frame + i, move);
     }
     if (tween.blVector) tween.EndTag->Ratio(FullRatio);

@@ -2,7 +2,8 @@
 
 #include <memory>
 
-#include "swf/authoring/KomaTable.h"
+#include "swf/authoring/PlaceObjectFactory.h"
+#include "swf/authoring/SpanPictures.h"
 #include "swf/authoring/TweenPath.h"
 #include "swf/authoring/clsSWFAdmin.h"
 
@@ -11,25 +12,39 @@ namespace tamber {
 /// Ratio at the end of a tween.
 inline constexpr Long FullRatio = 65535;
 
+/// The character that stands changes its shape with the ratio: the symbol's own morph, or the
+/// outlines that the key frames give it.
+bool Morphs(const clsLayer& layer, const KeyFrameStand& stand);
+
 /// A tween from one key frame to the next.
 struct Tween {
-    Long Frame = 1;  ///< first frame
-    Long Span = 1;   ///< frames up to the next key frame
+    /// That of a layer's key frame that opens one, with the placements of its two ends.
+    Tween(const clsLayer& layer, const LayerCourse& course, const KeyFrameStand& stand,
+          std::shared_ptr<clsSWFTagPlaceObject> startTag,
+          std::shared_ptr<clsSWFTagPlaceObject> endTag);
+
+    Long Frame;  ///< first frame
+    Long Span;   ///< frames up to the next key frame
     std::shared_ptr<clsSWFTagPlaceObject> StartTag;
     std::shared_ptr<clsSWFTagPlaceObject> EndTag;
-    const clsLayerObjElement* Element = nullptr;  ///< of the start
-    bool blVector = false;                        ///< its placements carry a ratio
-    bool blMorph = false;                         ///< its character changes shape with it
-    KomaTable* Koma = nullptr;                    ///< of a koma symbol
+    const clsLayerObjElement* Element;  ///< of the start
+    bool blVector;                      ///< its placements carry a ratio
+    bool blMorph;                       ///< its symbol is a morph
+    bool blPictures;                    ///< pictures are placed anew within it
 };
 
-/// Puts one placement on each of the tween's `Span` frames. The end tag is left to the caller. With
-/// a `fixedFrame`, one of these frames, the start tag takes the values of that frame and is put on
-/// frame 1 alone.
-void AddTween(clsSWFAdmin& admin, const Tween& tween, const TweenPath& path, Long fixedFrame = 0);
+/// The way from the key frame at `index` of a layer to the next.
+TweenPath TweenPathOf(const clsLayer& layer, Long index, TimelineOrigin origin);
 
-/// Puts the koma's next picture on a frame, when its turn has come: the old one goes, a copy of
-/// `tag` with the new one comes.
-void PlaceKoma(clsSWFAdmin& admin, Long frame, const clsSWFTagPlaceObject& tag, KomaTable& koma);
+/// Puts one placement on each of the tween's `Span` frames. The end tag is left to the caller.
+void AddTween(clsSWFAdmin& admin, const Tween& tween, const TweenPath& path,
+              const SpanPictures& pictures);
+
+/// Gives the start tag the values of the frame `offset` frames behind the tween's first, and puts
+/// it on frame 1.
+void AddTweenFrame(clsSWFAdmin& admin, const Tween& tween, const TweenPath& path, Long offset);
+
+/// Puts a picture on a frame: the old one goes, a copy of `tag` with character `id` comes.
+void PlacePicture(clsSWFAdmin& admin, Long frame, const clsSWFTagPlaceObject& tag, Long id);
 
 }  // namespace tamber

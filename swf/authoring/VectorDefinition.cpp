@@ -4,7 +4,6 @@
 
 #include "platform/text.h"
 #include "platform/twips.h"
-#include "swf/mdlSWFTag.h"
 #include "vector/MorphCheck.h"
 
 namespace tamber {
@@ -139,7 +138,7 @@ private:
     DefinitionPlace place_;
     const clsSymbolData& symbol_;
     Long form_;
-    Long version_ = mdlSWFTag::swfVersion();
+    Long version_ = place_.Tags.Ver;
     Long last_ = 0;
     const clsPropertyVector& record_;
     DefinitionBitmaps bitmaps_;

@@ -202,14 +202,14 @@ std::shared_ptr<clsSWFTagDefineShape> clsSWFAdmin::GetNewShape(Long ver) {
 
 std::shared_ptr<clsSWFTagDefineShape> clsSWFAdmin::GetNewShape(Long ver,
                                                                const clsVectorData2& data) {
-    auto tag = GetNewShape(mdlSWFTag::swfVersion() >= Shape4Version ? data.Ver : ver);
+    auto tag = GetNewShape(Ver >= Shape4Version ? data.Ver : ver);
     TakeShape(*tag, data);
     return tag;
 }
 
 std::shared_ptr<clsSWFTagDefineShape> clsSWFAdmin::GetNewMorphShape(const clsVectorData2& start,
                                                                     const clsVectorData2& end) {
-    const bool extended = start.Ver >= 4 && mdlSWFTag::swfVersion() >= Shape4Version;
+    const bool extended = start.Ver >= 4 && Ver >= Shape4Version;
     auto tag = GetNewShape(extended ? -2 : -1);
     TakeShape(*tag, start);
     tag->colFillStyles2 = end.colFillStyles;
@@ -293,6 +293,7 @@ void clsSWFAdmin::SaveHeader() {
 }
 
 bool clsSWFAdmin::Save(StringView path, Notices& told) {
+    mdlSWFTag::swfVersion(Ver);
     mdlSWFTag::InitBuffer();
     SaveHeader();
     FramesSave();

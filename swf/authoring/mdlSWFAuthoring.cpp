@@ -4,9 +4,9 @@
 
 #include "platform/files.h"
 #include "platform/text.h"
-#include "swf/authoring/Authoring.h"
 #include "swf/authoring/MovieLimits.h"
-#include "swf/mdlSWFTag.h"
+#include "swf/authoring/MovieTimelineWriter.h"
+#include "swf/authoring/SnapshotWriter.h"
 
 namespace tamber::mdlSWFAuthoring {
 
@@ -22,17 +22,13 @@ void Refuse(MovieOutcome& outcome, const String& why) {
 
 /// Fills the movie. What is left out is told.
 void FillMovie(clsSWFAdmin& admin, const MovieRequest& request, MovieOutcome& outcome) {
-    Authoring authoring(request, admin, outcome.Told);
-    authoring.Scripts.ProjectFolder = request.ProjectFolder;
-    authoring.Scripts.blMessages = request.blScriptMessages;
-    authoring.Scripts.blTopToBottom = request.blTopToBottom;
-    authoring.CollectClassLinks();
-    authoring.PreDefineFrameOne(admin);
-    if (request.blExports)
-        authoring.DefineExports(admin, request.blExportsInFrameTwo ? 2 : admin.FrameCount());
-    authoring.WriteTimeline({admin, *request.Layers, {}});
-    outcome.ScriptsValid = authoring.Scripts.AllValid();
-    outcome.Identifiers = authoring.TakeIdentifiers();
+    MovieBuild build(admin, outcome.Told);
+    build.Scripts.ProjectFolder = request.ProjectFolder;
+    build.Scripts.blMessages = request.blScriptMessages;
+    build.Scripts.blTopToBottom = request.blTopToBottom;
+    MovieTimelineWriter(build, request).WriteMovie();
+    outcome.ScriptsValid = build.Scripts.AllValid();
+    outcome.Identifiers = std::move(build.Identifiers);
 }
 
 }  // namespace
@@ -64,8 +60,6 @@ MovieOutcome BuildMovie(const MovieRequest& request) {
         Refuse(outcome, fault);
         return outcome;
     }
-    mdlSWFTag::swfVersion(request.Version);
-    mdlSWFTag::InitBuffer();
     clsSWFAdmin admin;
     admin.inFontAdmin = request.Fonts;
     admin.InitSWF();
@@ -86,10 +80,8 @@ MovieOutcome BuildMovie(const MovieRequest& request) {
 }
 
 PlacedTags WriteFrameSnapshot(clsSWFAdmin& admin, const SnapshotRequest& snapshot, Notices& told) {
-    MovieRequest request;
-    request.Layers = snapshot.Layers;
-    request.blTopToBottom = snapshot.blTopToBottom;
-    return Authoring(request, admin, told).WriteFrameSnapshot(admin, snapshot);
+    MovieBuild build(admin, told);
+    return SnapshotWriter(build, snapshot).WriteFrameSnapshot();
 }
 
 }  // namespace tamber::mdlSWFAuthoring

@@ -1,5 +1,4 @@
 #include "swf/authoring/TextDefinition.h"
-#include "swf/mdlSWFTag.h"
 
 #include <gtest/gtest.h>
 
@@ -21,8 +20,9 @@ clsSymbolData DeviceText() {
 }
 
 /// The field that it becomes.
-clsSWFTagDefineEditText FieldOf(clsSymbolData& symbol) {
+clsSWFTagDefineEditText FieldOf(clsSymbolData& symbol, Long version) {
     clsSWFAdmin admin;
+    admin.Ver = version;
     admin.inFontAdmin = std::make_shared<clsFontAdmin>();
     admin.inFontAdmin->CinFontObject(u"_sans_");
     admin.InitSWF();
@@ -41,10 +41,9 @@ TEST(TextDefinition, static_text_in_the_players_own_font_is_a_locked_field_with_
                  {6, 0, 680, 1080},
                  {8, 1, 680, 1080}};
     for (const auto& expected : cases) {
-        mdlSWFTag::swfVersion(expected.Version);
         clsSymbolData symbol = DeviceText();
         symbol.Property<clsPropertyText>()->Alignment = expected.Alignment;
-        const auto field = FieldOf(symbol);
+        const auto field = FieldOf(symbol, expected.Version);
         SCOPED_TRACE(expected.Version * 10 + expected.Alignment);
         EXPECT_EQ(field.Width, expected.Width);
         EXPECT_EQ(field.height, expected.Height);
@@ -57,13 +56,12 @@ TEST(TextDefinition, static_text_in_the_players_own_font_is_a_locked_field_with_
 }
 
 TEST(TextDefinition, each_line_of_a_dynamic_text_ends_once) {
-    mdlSWFTag::swfVersion(6);
     for (const StringView told : {u"a\r\nb\r\n\r\nc", u"a\rb\r\rc", u"a\nb\n\nc"}) {
         clsSymbolData symbol = DeviceText();
         auto& text = *symbol.Property<clsPropertyText>();
         text.blDynamic = true;
         text.InitialText = told;
-        const auto field = FieldOf(symbol);
+        const auto field = FieldOf(symbol, 6);
         EXPECT_EQ(field.InitialText, u"a\nb\n\nc");
         EXPECT_FALSE(field.blReadOnly);
         EXPECT_EQ(text.InitialText, told);

@@ -6,7 +6,6 @@
 #include "platform/codepage.h"
 #include "platform/files.h"
 #include "swf/authoring/clsSWFAdmin.h"
-#include "swf/mdlSWFTag.h"
 #include "tests/vector/MovieMaker.h"
 #include "tests/vector/ShapeText.h"
 #include "vector/SwfReader.h"
@@ -485,7 +484,6 @@ TEST(SwfReader, a_shape_of_this_program_comes_back_as_it_was) {
     clsSWFAdmin movie;
     movie.SetDimension(0, 4000, 0, 2000, 0);
     movie.blCompress = true;
-    mdlSWFTag::swfVersion(8);
     movie.Ver = 8;
     const auto shape = movie.GetNewShape(3);
     clsSWFTFillStyle fill(clsSWFTFillStyle::Linear);
