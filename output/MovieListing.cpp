@@ -1,12 +1,11 @@
 #include "output/MovieListing.h"
 
-#include <optional>
 #include <utility>
 
 #include "platform/RuntimeError.h"
 #include "platform/text.h"
 #include "script/compiler/ActionDisassembler.h"
-#include "swf/mdlZlib.h"
+#include "swf/MovieFile.h"
 #include "swf/tags/SwfEventActions.h"
 #include "swf/tags/TagCodes.h"
 
@@ -14,9 +13,6 @@ namespace tamber {
 
 namespace {
 
-constexpr std::size_t SignatureBytes = 8;
-constexpr std::size_t MaxInflated = std::size_t{256} << 20;
-constexpr std::uint32_t LongLength = 63;
 /// Sprites stand in no other sprite; a file may say so all the same.
 constexpr std::size_t MaxDepth = 8;
 
@@ -130,27 +126,16 @@ std::size_t OffsetIn(ByteView whole, ByteView rest) {
 }  // namespace
 
 MovieListing::MovieListing(ByteView file) {
-    const bool isMovie = file.size() > SignatureBytes && file[1] == 'W' && file[2] == 'S' &&
-                         (file[0] == 'F' || file[0] == 'C');
-    if (!isMovie) {
+    const MovieFile movie(file);
+    if (!movie.HasSignature() || file.size() == MovieFile::SignatureBytes) {
         fault_ = u"SWFファイルではありません。";
         return;
     }
-    version_ = file[3];
-    SwfBits signature(file.first(SignatureBytes));
-    signature.Take(4);
-    const std::size_t length = signature.GetUI(4);
-    text_ = std::string(file[0] == 'C' ? "CWS" : "FWS") + " version " + std::to_string(version_) +
-            ", " + std::to_string(length) + " bytes\n";
-    const ByteView body = file.subspan(SignatureBytes);
-    if (file[0] == 'F') {
-        ListMovie(body);
-        return;
-    }
-    const std::optional<Bytes> inflated =
-        mdlZlib::ZlibUncompress(body, std::min(length, MaxInflated));
-    if (inflated)
-        ListMovie(*inflated);
+    version_ = movie.Version();
+    text_ = std::string(movie.IsPacked() ? "CWS" : "FWS") + " version " +
+            std::to_string(version_) + ", " + std::to_string(movie.Length()) + " bytes\n";
+    if (movie.Body())
+        ListMovie(*movie.Body());
     else
         fault_ = u"圧縮されたデータが壊れています。";
 }
@@ -163,9 +148,9 @@ void MovieListing::ListMovie(ByteView body) {
         const std::uint32_t frames = bits.GetUI(2);
         Line(0, std::to_string(frames) + " frames, " + std::to_string(rate / 256.0) + " a second");
     } catch (const RuntimeError&) {
-        return Damage(SignatureBytes);
+        return Damage(MovieFile::SignatureBytes);
     }
-    ListTags(bits.Rest(), SignatureBytes + OffsetIn(body, bits.Rest()), 0);
+    ListTags(bits.Rest(), MovieFile::SignatureBytes + OffsetIn(body, bits.Rest()), 0);
 }
 
 void MovieListing::Line(std::size_t depth, const std::string& text) {
@@ -183,13 +168,9 @@ void MovieListing::ListTags(ByteView tags, std::size_t offset, std::size_t depth
     while (fault_.empty()) {
         const std::size_t at = offset + OffsetIn(tags, bits.Rest());
         try {
-            const std::uint32_t header = bits.GetUI(2);
-            std::size_t length = header & LongLength;
-            if (length == LongLength) length = bits.GetUI(4);
-            const Long code = static_cast<Long>(header >> 6);
-            const ByteView body = bits.Take(length);
-            Line(depth, std::to_string(at) + " " + NameOf(code) + ", " + std::to_string(length) +
-                            " bytes");
+            const auto [code, body] = TakeTag(bits);
+            Line(depth, std::to_string(at) + " " + NameOf(code) + ", " +
+                            std::to_string(body.size()) + " bytes");
             if (code == TagCode::End) return;
             ListTag(code, body, offset + OffsetIn(tags, bits.Rest()) - body.size(), depth + 1);
         } catch (const RuntimeError&) {

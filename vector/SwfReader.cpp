@@ -1,15 +1,13 @@
 #include "vector/SwfReader.h"
 
 #include <algorithm>
-#include <optional>
 #include <unordered_map>
 
 #include "platform/RuntimeError.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/twips.h"
-#include "swf/SwfBits.h"
-#include "swf/mdlZlib.h"
+#include "swf/MovieFile.h"
 #include "swf/tags/TagCodes.h"
 #include "vector/LoadProgress.h"
 #include "vector/SwfJpeg.h"
@@ -20,13 +18,9 @@ namespace tamber {
 
 namespace {
 
-constexpr std::size_t SignatureBytes = 8;
-constexpr std::size_t LengthOffset = 4;
-constexpr std::size_t MaxInflated = std::size_t{256} << 20;
 constexpr std::size_t RateBytes = 2;
 /// Bytes that pictures may take of tables they share; more than those of any real movie.
 constexpr std::size_t MaxSharedTables = std::size_t{64} << 20;
-constexpr std::uint32_t LongLength = 63;
 /// Definitions and placements of one frame are 65535 each at most.
 constexpr Long MaxTags = 1 << 20;
 
@@ -41,19 +35,6 @@ enum PlaceFlag : Long {
 enum PlaceFlag3 : Long { HasFilters = 1, HasBlendMode = 2, HasClassName = 8, HasImage = 16 };
 /// Of the first byte of a colour transform: whether it adds or multiplies anything.
 constexpr Long ColorTerms = 0xC0;
-
-/// What stands behind the signature; nothing for a file that is no movie, or a damaged one.
-std::optional<ByteView> MovieBody(ByteView file, Bytes& inflated) {
-    if (file.size() < SignatureBytes || file[1] != 'W' || file[2] != 'S') return std::nullopt;
-    const ByteView body = file.subspan(SignatureBytes);
-    if (file[0] == 'F') return body;
-    if (file[0] != 'C') return std::nullopt;
-    const std::size_t length = SwfBits(file.subspan(LengthOffset)).GetUI(4);
-    std::optional<Bytes> bytes = mdlZlib::ZlibUncompress(body, std::min(length, MaxInflated));
-    if (!bytes) return std::nullopt;
-    inflated = std::move(*bytes);
-    return inflated;
-}
 
 class SwfMovie {
 public:
@@ -86,10 +67,9 @@ private:
 
     /// False at the end of the first frame.
     bool ReadTag() {
-        const std::uint32_t head = tags_.GetUI(2);
-        const std::uint32_t shortLength = head & 63;
-        const auto code = static_cast<Long>(head >> 6);
-        SwfBits body(tags_.Take(shortLength == LongLength ? tags_.GetUI(4) : shortLength));
+        const MovieTag tag = TakeTag(tags_);
+        const Long code = tag.Code;
+        SwfBits body(tag.Body);
         switch (code) {
             case TagCode::End:
             case TagCode::ShowFrame:
@@ -268,9 +248,8 @@ private:
 
 bool ReadMovie(ByteView file, StringView fileName, clsVector& vector) {
     try {
-        Bytes inflated;
-        const std::optional<ByteView> body = MovieBody(file, inflated);
-        return body && SwfMovie(*body, fileName, vector).Read();
+        const MovieFile movie(file);
+        return movie.Body() && SwfMovie(*movie.Body(), fileName, vector).Read();
     } catch (const std::exception&) {
         return false;
     }
