@@ -1,5 +1,6 @@
 #include "app/CommandLine.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <iostream>
 #include <iterator>
@@ -8,6 +9,7 @@
 
 #include "app/BatchRunner.h"
 #include "app/Main.h"
+#include "app/PictureCommand.h"
 #include "app/fields/ProjectInfo.h"
 #include "app/settings/mdlPrivateProfile.h"
 #include "document/AppVersion.h"
@@ -37,6 +39,10 @@ constexpr const char* Usage =
     "Tamber batch [FILE]                   controller commands from a text, one a line\n"
     "Tamber batch --list                   the commands, with their arguments\n"
     "Tamber disassemble FILE.swf           tags and actions of a movie\n"
+    "Tamber picture PROJECT [--frame N | --frames A-B] [--symbol ID] [--scale S | --size WxH]\n"
+    "               [--transparent] -o OUT.png\n"
+    "                                      pictures; scripts do not run. --frames writes a\n"
+    "                                      sequence (OUT_%04d.png), in which sprites go on\n"
     "Tamber --version | --help\n"
     "\n"
     "--home DIR     the program's folder, with its settings and data\n"
@@ -51,6 +57,12 @@ struct Options {
     std::string Home;
     std::string Assets;
     std::vector<std::string> Settings;
+    std::string Frame;
+    std::string Frames;
+    std::string Symbol;
+    std::string Scale;
+    std::string Size;
+    bool Transparent = false;
     bool Strict = false;
     bool Html = false;
     bool List = false;
@@ -62,21 +74,39 @@ struct Options {
     std::string Error;
 };
 
+struct ValueOption {
+    std::string_view Name;
+    std::string Options::*Value;
+};
+
+constexpr ValueOption ValueOptions[] = {
+    {"-o", &Options::Output},     {"--home", &Options::Home},     {"--assets", &Options::Assets},
+    {"--frame", &Options::Frame}, {"--frames", &Options::Frames}, {"--symbol", &Options::Symbol},
+    {"--scale", &Options::Scale}, {"--size", &Options::Size},
+};
+
+const ValueOption* FindValueOption(std::string_view name) {
+    const auto found = std::find_if(std::begin(ValueOptions), std::end(ValueOptions),
+                                    [name](const auto& option) { return option.Name == name; });
+    return found == std::end(ValueOptions) ? nullptr : &*found;
+}
+
 bool TakesValue(const std::string& name) {
-    return name == "-o" || name == "--set" || name == "--home" || name == "--assets";
+    return name == "--set" || FindValueOption(name) != nullptr;
 }
 
 void TakeValue(Options& options, const std::string& name, const std::string& value) {
-    if (name == "-o") options.Output = value;
-    if (name == "--set") options.Settings.push_back(value);
-    if (name == "--home") options.Home = value;
-    if (name == "--assets") options.Assets = value;
+    if (const ValueOption* option = FindValueOption(name))
+        options.*option->Value = value;
+    else
+        options.Settings.push_back(value);
 }
 
 bool TakeFlag(Options& options, const std::string& name) {
     if (name == "--strict") return options.Strict = true;
     if (name == "--list") return options.List = true;
     if (name == "--html") return options.Html = true;
+    if (name == "--transparent") return options.Transparent = true;
     if (name == "--json") return options.Json = true;
     if (name == "--yes") return options.Yes = true;
     if (name == "--skip-broken") return options.SkipBroken = true;
@@ -169,6 +199,52 @@ int Disassemble(const Options& options) {
     return CouldNot;
 }
 
+/// What a text for an option says; the usage's fault where it makes no sense.
+std::optional<PictureRequest> ReadPictureRequest(const Options& options, std::string& fault) {
+    PictureRequest request;
+    const auto refuse = [&fault](const char* why) {
+        fault = why;
+        return std::nullopt;
+    };
+    request.blSequence = !options.Frames.empty();
+    const std::string& frames = request.blSequence ? options.Frames : options.Frame;
+    if (!frames.empty()) {
+        const auto range = ReadFrames(FromNarrow(frames));
+        if (!range || (!request.blSequence && range->first != range->second))
+            return refuse("--frame needs a number, --frames two as in 1-10");
+        request.FirstFrame = range->first;
+        request.LastFrame = range->second;
+    }
+    if (!options.Symbol.empty()) {
+        const auto id = ReadFrames(FromNarrow(options.Symbol));
+        if (!id || id->first != id->second) return refuse("--symbol needs a number");
+        request.Symbol = id->first;
+    }
+    if (!options.Size.empty()) {
+        request.Size = ReadSize(FromNarrow(options.Size));
+        if (!request.Size) return refuse("--size needs two numbers as in 640x480");
+    }
+    if (!options.Scale.empty()) {
+        request.Scale = ToSingle(FromNarrow(options.Scale));
+        if (!(request.Scale > 0 && request.Scale <= 100)) return refuse("--scale needs a number");
+    }
+    request.blTransparent = options.Transparent;
+    if (options.Output.empty()) return refuse("picture needs -o and a path");
+    request.Output = PathOf(options.Output);
+    if (request.blSequence && !NumberedPath(request.Output, 1))
+        return refuse("--frames needs a path with a place for the number, as in a_%04d.png");
+    return request;
+}
+
+int Picture(const Options& options) {
+    std::string fault;
+    const auto request = ReadPictureRequest(options, fault);
+    if (!request) return RefuseUsage(fault);
+    frmMain controller;
+    if (!LoadFor(controller, options.Words[1])) return CouldNot;
+    return WritePictures(controller, *request) ? Done : CouldNot;
+}
+
 /// The text of a file, or of standard input. Nothing when it cannot be read.
 std::optional<String> ScriptText(const Options& options) {
     if (options.Words.size() == 1) {
@@ -219,6 +295,8 @@ int Dispatch(const Options& options, const ConsoleUserInterface& console) {
         return count == 3 ? Convert(options) : RefuseUsage("convert needs two paths");
     if (command == "info")
         return count == 2 ? Info(options) : RefuseUsage("info needs one project");
+    if (command == "picture")
+        return count == 2 ? Picture(options) : RefuseUsage("picture needs one project");
     if (command == "batch")
         return count <= 2 ? Batch(options) : RefuseUsage("batch needs one script at most");
     if (command == "disassemble")

@@ -168,6 +168,14 @@ bool frmMain::mnuAuthoring(StringView path) {
     return Do([&] { return project_.Author(path); });
 }
 
+std::shared_ptr<const PictureMovie> frmMain::MovieToDraw() {
+    return Do([this] { return pictures_.Movie(); });
+}
+
+std::shared_ptr<const PictureMovie> frmMain::SymbolToDraw(Long id) {
+    return Do([&] { return pictures_.SymbolMovie(id); });
+}
+
 void frmMain::SetLayers(Long index, Long row, Long col) {
     Do([&] {
         const auto owner = index == 0  ? session_.EditSymbol()

@@ -6,6 +6,7 @@
 #include "app/operations/CanvasOperations.h"
 #include "app/operations/KeyFrameOperations.h"
 #include "app/operations/LibraryOperations.h"
+#include "app/operations/PictureOperations.h"
 #include "app/operations/ProjectOperations.h"
 #include "app/operations/RowOperations.h"
 #include "app/session/CommandScope.h"
@@ -127,6 +128,11 @@ public:
     /// when nothing was written: a file that the project is made from is no place for a movie. A
     /// page that cannot be made is told, and the movie stays.
     bool mnuAuthoring(StringView path);
+    /// The movie of the open project, to be drawn; null, with the reason told, when it cannot be
+    /// built.
+    std::shared_ptr<const PictureMovie> MovieToDraw();
+    /// A movie of the symbol with a number alone; null, which is told, where none is to be seen.
+    std::shared_ptr<const PictureMovie> SymbolToDraw(Long id);
     /// Makes a timeline the edited one and selects its row and, unless it is 0, key frame `col`:
     /// `index` 0 stays with the present one, -1 is the main timeline, else a symbol's.
     void SetLayers(Long index, Long row, Long col);
@@ -298,6 +304,7 @@ private:
     RowOperations rows_{session_};
     KeyFrameOperations keyFrames_{session_};
     CanvasOperations canvas_{session_};
+    PictureOperations pictures_{session_};
     bool blHotKeyEnable_ = false;
     bool blShowModal_ = false;
     std::vector<String> classNames_;

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <chrono>
-#include <limits>
 
 #include "app/operations/LibraryOperations.h"
+#include "app/operations/MovieBuilding.h"
 #include "app/operations/MoviePageWriter.h"
 #include "app/operations/RowOperations.h"
 #include "app/settings/mdlPrivateProfile.h"
@@ -17,9 +17,7 @@
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/text.h"
-#include "platform/twips.h"
 #include "swf/authoring/TextDefinition.h"
-#include "swf/authoring/mdlSWFAuthoring.h"
 
 namespace tamber {
 
@@ -54,13 +52,6 @@ String ExistingProject(StringView path, StringView title) {
     if (FileExists(chosen)) return chosen;
     ShowMessage(chosen + u"\r\n\r\nファイルが見つかりません。");
     return {};
-}
-
-/// Sizes beyond the range give its ends.
-Long ToTwips(Long pixels) {
-    return static_cast<Long>(std::clamp<std::int64_t>(std::int64_t{TwipsPerPixel} * pixels,
-                                                      std::numeric_limits<Long>::min(),
-                                                      std::numeric_limits<Long>::max()));
 }
 
 }  // namespace
@@ -273,19 +264,8 @@ bool ProjectOperations::Author(StringView path) {
     }
     const Project& project = session_.inProject;
     const auto begin = std::chrono::steady_clock::now();
-    MovieRequest request;
-    request.Width = ToTwips(project.MainWidth);
-    request.Height = ToTwips(project.MainHeight);
-    request.FrameRate = project.FrameRate;
-    request.Version = project.SWFVersion;
-    request.Library = project.colSymbol.get();
-    request.Layers = project.colMainLayer.get();
-    request.Fonts = RefreshFontAdmin(*project.colSymbol, project.SWFVersion);
+    MovieRequest request = RequestOf(session_);
     request.Path = path;
-    request.ProjectFolder = FolderOfFile(session_.ProjectFileName);
-    request.blProgress = true;
-    request.blCompress = mdlPrivateProfile::flgSWFCompress();
-    request.blTopToBottom = mdlPrivateProfile::flgTopToBottom();
     String anchors;
     request.AnchorLabels = &anchors;
     const MovieOutcome outcome = mdlSWFAuthoring::BuildMovie(request);

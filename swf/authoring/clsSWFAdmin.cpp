@@ -293,6 +293,10 @@ void clsSWFAdmin::SaveHeader() {
 }
 
 bool clsSWFAdmin::Save(StringView path, Notices& told) {
+    return SaveTo([path](ByteView file) { return WriteFileBytes(file, path); }, told);
+}
+
+bool clsSWFAdmin::SaveTo(const std::function<bool(ByteView)>& take, Notices& told) {
     mdlSWFTag::swfVersion(Ver);
     mdlSWFTag::InitBuffer();
     SaveHeader();
@@ -306,9 +310,9 @@ bool clsSWFAdmin::Save(StringView path, Notices& told) {
                         String(ProgramTitle),
                         MessageIcon::Information,
                         {}});
-    const bool written = WriteFileBytes(compresses ? ByteView(CompressMovie(movie)) : movie, path);
+    const bool taken = take(compresses ? ByteView(CompressMovie(movie)) : movie);
     mdlSWFTag::ReleaseBuffer();
-    return written;
+    return taken;
 }
 
 }  // namespace tamber

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -93,6 +94,8 @@ public:
     void FramesSave();
     /// Writes the whole file. False when it could not be written; an earlier file then stays.
     bool Save(StringView path, Notices& told);
+    /// Hands the bytes of the whole file over; the result is that of `take`.
+    bool SaveTo(const std::function<bool(ByteView)>& take, Notices& told);
 
 private:
     void SaveHeader();

@@ -31,6 +31,15 @@ void FillMovie(clsSWFAdmin& admin, const MovieRequest& request, MovieOutcome& ou
     outcome.Identifiers = std::move(build.Identifiers);
 }
 
+bool Save(clsSWFAdmin& admin, const MovieRequest& request, Notices& told) {
+    if (request.Movie == nullptr) return admin.Save(request.Path, told);
+    const auto keep = [&request](ByteView file) {
+        request.Movie->assign(file.begin(), file.end());
+        return true;
+    };
+    return admin.SaveTo(keep, told);
+}
+
 }  // namespace
 
 Long LastShownFrame(const Collection<clsLayer>& layers) {
@@ -73,7 +82,7 @@ MovieOutcome BuildMovie(const MovieRequest& request) {
     if (admin.DefineID > MaxIdentifiers)
         Refuse(outcome, u"シンボル数が多すぎます。\r\nSWFファイルは" + ToText(MaxIdentifiers) +
                             u"までです。");
-    else if (!(outcome.Written = admin.Save(request.Path, outcome.Told)))
+    else if (!(outcome.Written = Save(admin, request, outcome.Told)))
         Refuse(outcome,
                request.Path + u"\r\n\r\nファイルに書き込めませんでした。\r\n" + WriteFault());
     return outcome;

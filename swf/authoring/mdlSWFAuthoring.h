@@ -23,6 +23,8 @@ struct MovieRequest {
     /// Fonts of the library's texts; without them a movie has none.
     std::shared_ptr<clsFontAdmin> Fonts;
     String Path;
+    /// Gets the bytes of the movie, and no file is written, when given.
+    Bytes* Movie = nullptr;
     bool blProgress = false;
     bool blCompress = true;
     /// The first layer of the table is the topmost one.

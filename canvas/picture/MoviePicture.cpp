@@ -1,0 +1,68 @@
+#include "canvas/picture/MoviePicture.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "canvas/picture/Painter.h"
+#include "platform/twips.h"
+
+namespace tamber {
+
+namespace {
+
+double WidthOf(const SwfRect& stage) {
+    return std::max(double(stage.xMax) - stage.xMin, 1.0) / TwipsPerPixel;
+}
+
+double HeightOf(const SwfRect& stage) {
+    return std::max(double(stage.yMax) - stage.yMin, 1.0) / TwipsPerPixel;
+}
+
+std::uint32_t PixelOf(PictureColor color) {
+    return 0xFF000000u | std::uint32_t{color.R} << 16 | std::uint32_t{color.G} << 8 | color.B;
+}
+
+}  // namespace
+
+PictureView ViewOfStage(const SwfRect& stage, double scale) {
+    PictureView view;
+    const auto side = [scale](double length) {
+        return std::max(static_cast<Long>(std::lround(length * scale)), 1);
+    };
+    view.Width = side(WidthOf(stage));
+    view.Height = side(HeightOf(stage));
+    view.Options.Scale = scale;
+    return view;
+}
+
+PictureView ViewOfSize(const SwfRect& stage, Long width, Long height) {
+    PictureView view;
+    view.Width = width;
+    view.Height = height;
+    view.Options.Scale = std::min(width / WidthOf(stage), height / HeightOf(stage));
+    view.Left = (width - WidthOf(stage) * view.Options.Scale) / 2;
+    view.Top = (height - HeightOf(stage) * view.Options.Scale) / 2;
+    return view;
+}
+
+Raster MoviePicture::Draw(Long frame, const PictureView& view) {
+    Raster picture(view.Width, view.Height);
+    if (picture.IsEmpty()) return picture;
+    if (!view.blTransparent)
+        std::fill(picture.Pixels().begin(), picture.Pixels().end(), PixelOf(movie_->Background));
+    const double scale = view.Options.Scale / TwipsPerPixel;
+    PaintState state;
+    state.Options = &view.Options;
+    state.Matrix = {scale,
+                    0,
+                    0,
+                    scale,
+                    view.Left - movie_->Stage.xMin * scale,
+                    view.Top - movie_->Stage.yMin * scale};
+    state.Frame = std::clamp(frame, 1, movie_->Main.FrameCount()) - 1;
+    Painter painter(picture, {0, 0, double(view.Width), double(view.Height)}, cache_);
+    painter.Draw(movie_->Main, state);
+    return picture;
+}
+
+}  // namespace tamber

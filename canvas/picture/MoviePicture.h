@@ -1,0 +1,40 @@
+#pragma once
+
+#include "canvas/picture/PaintCache.h"
+#include "canvas/picture/PaintState.h"
+#include "canvas/picture/PictureMovie.h"
+
+namespace tamber {
+
+/// What part of a stage a picture shows, and how.
+struct PictureView {
+    /// Pixels.
+    Long Width = 0;
+    Long Height = 0;
+    /// Where the stage's left upper corner lies in the picture, pixels.
+    double Left = 0;
+    double Top = 0;
+    bool blTransparent = false;
+    PaintOptions Options{};
+};
+
+/// The picture of a movie's stage; each side is a pixel at least.
+PictureView ViewOfStage(const SwfRect& stage, double scale);
+/// A picture of that many pixels, with the stage in its middle as large as it fits.
+PictureView ViewOfSize(const SwfRect& stage, Long width, Long height);
+
+/// Pictures of a movie's frames.
+class MoviePicture {
+public:
+    explicit MoviePicture(std::shared_ptr<const PictureMovie> movie) : movie_(std::move(movie)) {}
+
+    const PictureMovie& Movie() const { return *movie_; }
+    /// `frame` from 1; beyond the last one that is shown.
+    Raster Draw(Long frame, const PictureView& view);
+
+private:
+    std::shared_ptr<const PictureMovie> movie_;
+    PaintCache cache_;
+};
+
+}  // namespace tamber

@@ -1,0 +1,36 @@
+#include "canvas/picture/PaintCache.h"
+
+#include <algorithm>
+
+#include "canvas/picture/RasterColors.h"
+
+namespace tamber {
+
+std::shared_ptr<const BitmapCharacter> PaintCache::Tinted(
+    const std::shared_ptr<const BitmapCharacter>& bitmap, const SwfColorTransform& colors) {
+    if (colors == SwfColorTransform()) return bitmap;
+    const auto known = std::find_if(tinted_.begin(), tinted_.end(), [&](const auto& tinted) {
+        return tinted.From == bitmap && tinted.Colors == colors;
+    });
+    if (known != tinted_.end()) {
+        tinted_.splice(tinted_.begin(), tinted_, known);
+        return known->Bitmap;
+    }
+    Raster pixels = bitmap->Pixels();
+    ApplyColors(pixels, colors);
+    tinted_.push_front({bitmap, colors, std::make_shared<BitmapCharacter>(std::move(pixels))});
+    DropTinted();
+    return tinted_.front().Bitmap;
+}
+
+void PaintCache::DropTinted() {
+    std::size_t pixels = 0;
+    auto tinted = tinted_.begin();
+    for (; tinted != tinted_.end(); ++tinted) {
+        pixels += tinted->Bitmap->Pixels().Pixels().size();
+        if (pixels > MaxTintedPixels && tinted != tinted_.begin()) break;
+    }
+    tinted_.erase(tinted, tinted_.end());
+}
+
+}  // namespace tamber

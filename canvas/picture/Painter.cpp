@@ -1,0 +1,262 @@
+#include "canvas/picture/Painter.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "canvas/picture/BitmapCharacter.h"
+#include "canvas/picture/GradientPattern.h"
+#include "canvas/picture/RasterBlend.h"
+#include "canvas/picture/RasterColors.h"
+#include "canvas/picture/TimelineDrawing.h"
+#include "platform/twips.h"
+
+namespace tamber {
+
+namespace {
+
+constexpr PaintBox Nowhere{1, 1, 0, 0};
+
+PictureColor Changed(PictureColor color, const PaintState& state) {
+    if (state.blMask) return {0, 0, 0, 255};
+    const auto changed = [](Long value, Long mult, Long add) {
+        return static_cast<Byte>(std::clamp(value * mult / 256 + add, 0, 255));
+    };
+    const SwfColorTransform& by = state.Colors;
+    return {changed(color.R, by.MultR, by.AddR), changed(color.G, by.MultG, by.AddG),
+            changed(color.B, by.MultB, by.AddB), changed(color.A, by.MultA, by.AddA)};
+}
+
+/// Cairo takes no matrix that cannot be turned back, and keeps the error.
+bool Inverted(cairo_matrix_t& matrix) {
+    return std::isfinite(matrix.x0) && std::isfinite(matrix.y0) &&
+           cairo_matrix_invert(&matrix) == CAIRO_STATUS_SUCCESS;
+}
+
+bool CanDraw(cairo_matrix_t matrix) {
+    return Inverted(matrix);
+}
+
+Raster RasterOf(const PaintBox& box) {
+    return Raster(static_cast<Long>(box.Right - box.Left), static_cast<Long>(box.Bottom - box.Top));
+}
+
+PaintBox WholeOf(const Raster& raster) {
+    return {0, 0, double(raster.Width()), double(raster.Height())};
+}
+
+PaintState MovedBy(PaintState state, double x, double y) {
+    state.Matrix.x0 += x;
+    state.Matrix.y0 += y;
+    return state;
+}
+
+Raster CopyOf(const Raster& from, const PaintBox& box) {
+    Raster copy = RasterOf(box);
+    const auto left = static_cast<Long>(box.Left);
+    const auto top = static_cast<Long>(box.Top);
+    for (Long y = 0; y < copy.Height(); ++y)
+        std::copy_n(from.Row(top + y) + left, copy.Width(), copy.Row(y));
+    return copy;
+}
+
+/// `from` as far as `share` (of 255) says, else `to`.
+std::uint32_t Mixed(std::uint32_t from, std::uint32_t to, std::uint32_t share) {
+    std::uint32_t mixed = 0;
+    for (int shift = 0; shift < 32; shift += 8) {
+        const std::uint32_t sum =
+            (from >> shift & 255) * share + (to >> shift & 255) * (255 - share);
+        mixed |= (sum + 127) / 255 << shift;
+    }
+    return mixed;
+}
+
+/// The length of the image of an axis' unit.
+double Stretch(double x, double y) {
+    return std::hypot(x, y);
+}
+
+}  // namespace
+
+Painter::Painter(Raster& target, PaintBox clip, PaintCache& cache)
+    : target_(target),
+      clip_(clip.Cut(WholeOf(target))),
+      cache_(cache),
+      surface_(target),
+      context_(cairo_create(surface_.get())) {
+    if (clip_.IsEmpty()) clip_ = Nowhere;
+    cairo_rectangle(context_, clip_.Left, clip_.Top, clip_.Right - clip_.Left,
+                    clip_.Bottom - clip_.Top);
+    cairo_clip(context_);
+}
+
+Painter::~Painter() {
+    cairo_destroy(context_);
+}
+
+Painter::Clipping::Clipping(Painter& painter, const PicturePath& path, const PaintState& state)
+    : context_(painter.context_) {
+    cairo_save(context_);
+    if (!CanDraw(state.Matrix)) return;
+    cairo_set_matrix(context_, &state.Matrix);
+    cairo_new_path(context_);
+    path.AppendTo(context_);
+    cairo_clip(context_);
+}
+
+Painter::Clipping::~Clipping() {
+    cairo_restore(context_);
+}
+
+void Painter::Draw(const Timeline& timeline, const PaintState& state) {
+    const DisplayList& list = ShownOf(timeline, state);
+    DrawRange(timeline, list, state);
+}
+
+void Painter::DrawRange(const Timeline& timeline, Range range, const PaintState& parent) {
+    for (std::size_t i = 0; i < range.size(); ++i) {
+        const Placement& placement = *range[i];
+        if (placement.ClipDepth == 0) {
+            DrawPlacement(placement, StateOf(placement, timeline, parent));
+            continue;
+        }
+        std::size_t end = i + 1;
+        while (end < range.size() && range[end]->Depth <= placement.ClipDepth) ++end;
+        DrawMasked(timeline, placement, range.subspan(i + 1, end - i - 1), parent);
+        i = end - 1;
+    }
+}
+
+/// What is clipped is drawn over a copy of what lies below, so that it blends with that, and what
+/// shows of the copy is taken back.
+void Painter::DrawMasked(const Timeline& timeline, const Placement& mask, Range range,
+                         const PaintState& parent) {
+    PaintState state = StateOf(mask, timeline, parent);
+    state.blMask = true;
+    const PaintBox box = BoundsOf(mask, state).Outwards().Cut(clip_);
+    if (box.IsEmpty() || range.empty()) return;
+    cairo_surface_flush(surface_.get());
+    Raster inside = CopyOf(target_, box);
+    Raster cover = RasterOf(box);
+    if (inside.IsEmpty()) return;
+    Painter(inside, WholeOf(inside), cache_)
+        .DrawRange(timeline, range, MovedBy(parent, -box.Left, -box.Top));
+    Painter(cover, WholeOf(cover), cache_).DrawPlacement(mask, MovedBy(state, -box.Left, -box.Top));
+    for (Long y = 0; y < cover.Height(); ++y) {
+        std::uint32_t* below =
+            target_.Row(static_cast<Long>(box.Top) + y) + static_cast<Long>(box.Left);
+        for (Long x = 0; x < cover.Width(); ++x)
+            below[x] = Mixed(inside.Row(y)[x], below[x], cover.Row(y)[x] >> 24);
+    }
+    cairo_surface_mark_dirty(surface_.get());
+}
+
+void Painter::DrawPlacement(const Placement& placement, const PaintState& state) {
+    if (!BoundsOf(placement, state).Meets(clip_)) return;
+    const bool blends = placement.Blend > BlendMode::Normal && !state.blMask;
+    if (placement.Filters.empty() && !blends)
+        placement.Shown->Draw(*this, state);
+    else
+        DrawGroup(placement, state);
+}
+
+void Painter::DrawGroup(const Placement& placement, const PaintState& state) {
+    const FilteredRaster drawn = Filtered(placement, state);
+    if (drawn.Pixels.IsEmpty()) return;
+    cairo_surface_flush(surface_.get());
+    Blend(target_, drawn.Pixels, drawn.Left, drawn.Top, placement.Blend, clip_);
+    cairo_surface_mark_dirty(surface_.get());
+}
+
+/// Filters work on the colours as they are, those of the placement change behind them.
+FilteredRaster Painter::Filtered(const Placement& placement, const PaintState& state) const {
+    PaintState plain = state;
+    if (!placement.Filters.empty()) plain.Colors = {};
+    const PaintBox whole = placement.Shown->Bounds(plain).Outwards();
+    PaintBox needed = clip_;
+    const FilterMargin margin = MarginOf(placement.Filters, state.Options->Scale);
+    needed.Grow(std::max({margin.Left, margin.Top, margin.Right, margin.Bottom}));
+    const PaintBox box = whole.Cut(needed.Outwards());
+    FilteredRaster drawn;
+    if (box.IsEmpty()) return drawn;
+    drawn.Pixels = RasterOf(box);
+    if (drawn.Pixels.IsEmpty()) return drawn;
+    {
+        Painter inner(drawn.Pixels, WholeOf(drawn.Pixels), cache_);
+        placement.Shown->Draw(inner, MovedBy(plain, -box.Left, -box.Top));
+    }
+    if (!placement.Filters.empty()) {
+        drawn = ApplyFilters(drawn.Pixels, placement.Filters, state.Options->Scale);
+        ApplyColors(drawn.Pixels, state.Colors);
+    }
+    drawn.Left += static_cast<Long>(box.Left);
+    drawn.Top += static_cast<Long>(box.Top);
+    return drawn;
+}
+
+void Painter::Fill(const PicturePath& path, const PictureFill& fill, const PaintState& state,
+                   cairo_fill_rule_t rule) {
+    if (path.IsEmpty() || !CanDraw(state.Matrix)) return;
+    cairo_set_matrix(context_, &state.Matrix);
+    if (!SetSource(fill, state)) return;
+    cairo_new_path(context_);
+    path.AppendTo(context_);
+    cairo_set_fill_rule(context_, rule);
+    cairo_fill(context_);
+}
+
+void Painter::Stroke(const PicturePath& path, const PictureLine& line, const PaintState& state) {
+    if (path.IsEmpty() || !CanDraw(state.Matrix)) return;
+    cairo_set_matrix(context_, &state.Matrix);
+    if (!SetSource(line.Paint, state)) return;
+    cairo_new_path(context_);
+    path.AppendTo(context_);
+    const double width = std::max(line.Width, double(TwipsPerPixel));
+    cairo_matrix_t pen = state.Matrix;
+    if (line.blNoScaleX || line.blNoScaleY) {
+        const double stage = state.Options->Scale / TwipsPerPixel;
+        pen = {line.blNoScaleX ? stage : Stretch(pen.xx, pen.yx), 0, 0,
+               line.blNoScaleY ? stage : Stretch(pen.xy, pen.yy), 0, 0};
+    }
+    if (!CanDraw(pen)) return;
+    cairo_set_matrix(context_, &pen);
+    cairo_set_line_width(context_, width);
+    cairo_set_line_cap(context_, line.Cap);
+    cairo_set_line_join(context_, line.Join);
+    cairo_set_miter_limit(context_, line.MiterLimit);
+    cairo_stroke(context_);
+}
+
+bool Painter::SetSource(const PictureFill& fill, const PaintState& state) {
+    if (fill.What == PictureFill::Kind::Solid || state.blMask) {
+        const PictureColor color = Changed(fill.Color, state);
+        constexpr double One = 255;
+        cairo_set_source_rgba(context_, color.R / One, color.G / One, color.B / One, color.A / One);
+        return color.A > 0;
+    }
+    return fill.What == PictureFill::Kind::Bitmap ? SetBitmapSource(fill, state)
+                                                  : SetGradientSource(fill, state);
+}
+
+bool Painter::SetBitmapSource(const PictureFill& fill, const PaintState& state) {
+    cairo_matrix_t matrix = fill.Matrix;
+    if (!fill.Bitmap || !Inverted(matrix)) return false;
+    const auto bitmap = cache_.Tinted(fill.Bitmap, state.Colors);
+    const PatternPointer pattern(cairo_pattern_create_for_surface(bitmap->Surface()));
+    cairo_pattern_set_matrix(pattern.get(), &matrix);
+    cairo_pattern_set_extend(pattern.get(), fill.Spread);
+    cairo_pattern_set_filter(pattern.get(),
+                             fill.blSmooth ? CAIRO_FILTER_BILINEAR : CAIRO_FILTER_NEAREST);
+    cairo_set_source(context_, pattern.get());
+    return true;
+}
+
+bool Painter::SetGradientSource(const PictureFill& fill, const PaintState& state) {
+    PictureFill changed = fill;
+    for (GradientStop& stop : changed.Stops) stop.Color = Changed(stop.Color, state);
+    const PatternPointer pattern = GradientPattern(changed);
+    if (!pattern) return false;
+    cairo_set_source(context_, pattern.get());
+    return true;
+}
+
+}  // namespace tamber

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <span>
+
+#include "canvas/picture/PaintCache.h"
+#include "canvas/picture/PaintState.h"
+#include "canvas/picture/PictureFill.h"
+#include "canvas/picture/PicturePath.h"
+#include "canvas/picture/Raster.h"
+#include "canvas/picture/Timeline.h"
+
+namespace tamber {
+
+/// Draws characters into a raster, over what is there.
+class Painter {
+public:
+    /// `clip`: whole pixels of the raster outside of which nothing is drawn.
+    Painter(Raster& target, PaintBox clip, PaintCache& cache);
+    ~Painter();
+    Painter(const Painter&) = delete;
+    Painter& operator=(const Painter&) = delete;
+
+    /// Within its life only what lies within an outline is drawn.
+    class Clipping {
+    public:
+        Clipping(Painter& painter, const PicturePath& path, const PaintState& state);
+        ~Clipping();
+        Clipping(const Clipping&) = delete;
+        Clipping& operator=(const Clipping&) = delete;
+
+    private:
+        cairo_t* context_;
+    };
+
+    /// What a timeline shows, with what clips and blends it.
+    void Draw(const Timeline& timeline, const PaintState& state);
+    void Fill(const PicturePath& path, const PictureFill& fill, const PaintState& state,
+              cairo_fill_rule_t rule);
+    /// A line is at least as wide as a pixel of the stage.
+    void Stroke(const PicturePath& path, const PictureLine& line, const PaintState& state);
+
+private:
+    using Range = std::span<const std::shared_ptr<const Placement>>;
+
+    void DrawRange(const Timeline& timeline, Range range, const PaintState& parent);
+    void DrawMasked(const Timeline& timeline, const Placement& mask, Range range,
+                    const PaintState& parent);
+    void DrawPlacement(const Placement& placement, const PaintState& state);
+    /// Draws a placement apart and then, with its filters, into the picture.
+    void DrawGroup(const Placement& placement, const PaintState& state);
+    FilteredRaster Filtered(const Placement& placement, const PaintState& state) const;
+    bool SetSource(const PictureFill& fill, const PaintState& state);
+    bool SetBitmapSource(const PictureFill& fill, const PaintState& state);
+    bool SetGradientSource(const PictureFill& fill, const PaintState& state);
+
+    Raster& target_;
+    PaintBox clip_;
+    PaintCache& cache_;
+    RasterSurface surface_;
+    cairo_t* context_;
+};
+
+}  // namespace tamber

@@ -1,0 +1,160 @@
+#include "canvas/picture/PictureMovie.h"
+
+#include <unordered_map>
+
+#include "canvas/picture/BitmapReader.h"
+#include "canvas/picture/ButtonReader.h"
+#include "canvas/picture/PlacementReader.h"
+#include "canvas/picture/ShapeReader.h"
+#include "canvas/picture/TextReader.h"
+#include "canvas/picture/VideoCharacter.h"
+#include "platform/RuntimeError.h"
+#include "swf/MovieFile.h"
+#include "swf/tags/TagCodes.h"
+
+namespace tamber {
+
+namespace {
+
+constexpr double RateUnit = 256;
+
+class PictureMovieReader {
+public:
+    explicit PictureMovieReader(Long version) : version_(version) {}
+
+    std::shared_ptr<const PictureMovie> Read(SwfBits tags) {
+        movie_->Stage = tags.GetRect();
+        movie_->Rate = tags.GetUI(2) / RateUnit;
+        tags.GetUI(2);
+        ReadTags(tags, movie_->Main);
+        return movie_;
+    }
+
+private:
+    template <class T>
+    std::shared_ptr<const T> Find(Long id) const {
+        const auto found = characters_.find(id);
+        return found == characters_.end() ? nullptr
+                                          : std::dynamic_pointer_cast<const T>(found->second);
+    }
+
+    void ReadTags(SwfBits tags, Timeline& timeline) {
+        try {
+            while (!tags.IsEmpty()) {
+                const MovieTag tag = TakeTag(tags);
+                if (tag.Code == TagCode::End) return;
+                ReadTag(tag, timeline);
+            }
+        } catch (const RuntimeError&) {
+            // The file ends within a tag.
+        }
+    }
+
+    void ReadTag(const MovieTag& tag, Timeline& timeline) {
+        try {
+            switch (tag.Code) {
+                case TagCode::ShowFrame:
+                    return timeline.EndFrame();
+                case TagCode::SetBackgroundColor:
+                    return ReadBackground(SwfBits(tag.Body));
+                case TagCode::JPEGTables:
+                    jpegTables_ = tag.Body;
+                    return;
+                case TagCode::DoAction:
+                case TagCode::DoInitAction:
+                    movie_->blScripts = true;
+                    return;
+                default:
+                    break;
+            }
+            const auto find = [this](Long id) { return Find<Character>(id); };
+            if (auto step = ReadTimelineStep(tag, version_, find))
+                timeline.Add(std::move(*step));
+            else
+                Define(tag);
+        } catch (const RuntimeError&) {
+            // A damaged tag is as good as none.
+        }
+    }
+
+    void ReadBackground(SwfBits bits) {
+        movie_->Background.R = static_cast<Byte>(bits.GetUI(1));
+        movie_->Background.G = static_cast<Byte>(bits.GetUI(1));
+        movie_->Background.B = static_cast<Byte>(bits.GetUI(1));
+    }
+
+    void Define(const MovieTag& tag) {
+        if (tag.Body.size() < 2) return;
+        SwfBits bits(tag.Body);
+        const auto id = static_cast<Long>(bits.GetUI(2));
+        // The first definition of an identifier counts.
+        if (characters_.contains(id)) return;
+        if (auto character = ReadCharacter(tag.Code, bits)) characters_[id] = std::move(character);
+    }
+
+    std::shared_ptr<const Character> ReadCharacter(Long code, const SwfBits& bits) {
+        const auto findFont = [this](Long id) { return Find<FontCharacter>(id); };
+        const auto findBitmap = [this](Long id) { return Find<BitmapCharacter>(id); };
+        switch (code) {
+            case TagCode::DefineShape:
+            case TagCode::DefineShape2:
+            case TagCode::DefineShape3:
+            case TagCode::DefineShape4:
+                return ShapeReader(bits, code, findBitmap).ReadShape();
+            case TagCode::DefineMorphShape:
+            case TagCode::DefineMorphShape2:
+                return ShapeReader(bits, code, findBitmap).ReadMorph();
+            case TagCode::DefineBits:
+            case TagCode::DefineBitsJPEG2:
+            case TagCode::DefineBitsJPEG3:
+            case TagCode::DefineBitsLossless:
+            case TagCode::DefineBitsLossless2:
+                return ReadBitmapTag(code, bits.Rest(), jpegTables_);
+            case TagCode::DefineFont:
+            case TagCode::DefineFont2:
+            case TagCode::DefineFont3:
+                return std::make_shared<FontCharacter>(code, bits.Rest(), version_);
+            case TagCode::DefineText:
+            case TagCode::DefineText2:
+                return ReadText(bits, code == TagCode::DefineText2, findFont);
+            case TagCode::DefineEditText:
+                return ReadEditText(bits, version_, findFont);
+            case TagCode::DefineButton:
+            case TagCode::DefineButton2:
+                return ReadButton(bits, code,
+                                  [this](Long shown) { return Find<Character>(shown); });
+            case TagCode::DefineSprite:
+                return ReadSprite(bits);
+            case TagCode::DefineVideoStream:
+                return ReadVideo(bits);
+            default:
+                return nullptr;
+        }
+    }
+
+    std::shared_ptr<const Character> ReadSprite(SwfBits bits) {
+        bits.GetUI(2);
+        Timeline timeline;
+        ReadTags(bits, timeline);
+        return std::make_shared<SpriteCharacter>(std::move(timeline));
+    }
+
+    Long version_;
+    std::shared_ptr<PictureMovie> movie_ = std::make_shared<PictureMovie>();
+    std::unordered_map<Long, std::shared_ptr<const Character>> characters_;
+    ByteView jpegTables_;
+};
+
+}  // namespace
+
+std::shared_ptr<const PictureMovie> ReadPictureMovie(ByteView file) {
+    const MovieFile movie(file);
+    if (!movie.Body()) return nullptr;
+    try {
+        return PictureMovieReader(movie.Version()).Read(SwfBits(*movie.Body()));
+    } catch (const RuntimeError&) {
+        return nullptr;
+    }
+}
+
+}  // namespace tamber

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "canvas/picture/PictureMovie.h"
+#include "swf/authoring/clsSWFAdmin.h"
+#include "swf/authoring/mdlSWFAuthoring.h"
+
+namespace tamber {
+
+/// A movie of one frame of a timeline, never written to a file. `admin` has its dimension, version
+/// and fonts, and is empty again behind it; `backColor` has red in the low byte. `placed` gets the
+/// placements. Null for one that no movie can hold.
+std::shared_ptr<const PictureMovie> SnapshotMovie(clsSWFAdmin& admin,
+                                                  const SnapshotRequest& snapshot, Long backColor,
+                                                  PlacedTags& placed);
+
+/// A movie of a symbol alone, of a version and with the fonts of its library. Null for a kind that
+/// cannot be placed.
+std::shared_ptr<const PictureMovie> SymbolMovie(const std::shared_ptr<clsSymbolData>& symbol,
+                                                Long version, std::shared_ptr<clsFontAdmin> fonts);
+
+}  // namespace tamber

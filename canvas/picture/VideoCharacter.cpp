@@ -1,0 +1,32 @@
+#include "canvas/picture/VideoCharacter.h"
+
+#include "canvas/picture/Painter.h"
+#include "platform/twips.h"
+
+namespace tamber {
+
+void VideoCharacter::Draw(Painter& painter, const PaintState& state) const {
+    if (state.blMask) return;
+    PictureLine line;
+    line.blNoScaleX = line.blNoScaleY = true;
+    line.Join = CAIRO_LINE_JOIN_MITER;
+    painter.Stroke(PicturePath::OfBox(0, 0, width_ * TwipsPerPixel, height_ * TwipsPerPixel), line,
+                   state);
+}
+
+PaintBox VideoCharacter::Bounds(const PaintState& state) const {
+    PaintBox box =
+        PaintBox{0, 0, double(width_) * TwipsPerPixel, double(height_) * TwipsPerPixel}.Under(
+            state.Matrix);
+    box.Grow(1);
+    return box;
+}
+
+std::shared_ptr<VideoCharacter> ReadVideo(SwfBits bits) {
+    bits.GetUI(2);
+    const auto width = static_cast<Long>(bits.GetUI(2));
+    const auto height = static_cast<Long>(bits.GetUI(2));
+    return std::make_shared<VideoCharacter>(width, height);
+}
+
+}  // namespace tamber
