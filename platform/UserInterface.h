@@ -51,6 +51,9 @@ public:
     virtual void Progress(StringView text, Long done, Long total) = 0;
     /// One line into the status area.
     virtual void Status(StringView text) = 0;
+    /// Called again and again while work runs on a thread of its own, so that the interface lives
+    /// on. False when the person wants that work to end.
+    virtual bool Idle() { return true; }
 };
 
 /// Title of messages that have none of their own.

@@ -260,11 +260,7 @@ bool frmMain::mnuAddSymbolItem_File() {
 }
 
 bool frmMain::mnuAddSymbolItem_File(const std::vector<String>& paths) {
-    return Do([&] {
-        bool all = true;
-        for (const String& path : paths) all = library_.AddFile(path) && all;
-        return all;
-    });
+    return Do([&] { return library_.AddFiles(paths); });
 }
 
 void frmMain::mnuRemoveSymbolItem() {

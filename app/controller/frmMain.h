@@ -232,7 +232,8 @@ public:
     /// its symbol stays as it was.
     bool mnuSymbolReLoad();
     /// Changes properties of the first selected symbol, whose file is read again. False when none
-    /// is selected, when `edit` refuses, or for a file that cannot be read, which is told.
+    /// is selected, when `edit` refuses, or for a file that cannot be read, which is told; the
+    /// symbol then stays as it was.
     bool ChangeSymbol(const EditSymbolData& edit);
 
     /// Selects rows of the edited timeline; numbers beyond them give the nearest row.

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "app/operations/SymbolFromFile.h"
+#include "app/tasks/Task.h"
 #include "document/SymbolFiles.h"
 #include "document/edit/ClassNames.h"
 #include "document/edit/SymbolUses.h"
@@ -44,6 +45,40 @@ bool TakeClassName(const Collection<clsSymbolData>& library, const clsSymbolData
     const String fault = ClassNameFault(name, OtherClassNames(library, symbol));
     if (!fault.empty()) ShowMessage(fault, ProgramTitle, MessageIcon::Warning);
     return fault.empty();
+}
+
+std::shared_ptr<clsSymbolData> CopyWithRecord(const clsSymbolData& symbol) {
+    auto copy = std::make_shared<clsSymbolData>(symbol);
+    if (symbol.PropertyData()) copy->PropertyData(symbol.PropertyData()->Copy());
+    return copy;
+}
+
+/// What `read` makes of each item, whose file's path `path` tells; nothing when the user would
+/// rather not wait for it.
+template <class Item, class Path, class Read>
+std::optional<SymbolList> ReadEach(const std::vector<Item>& items, Path path, Read read) {
+    return RunTask([&] {
+        SymbolList symbols;
+        const auto count = static_cast<Long>(items.size());
+        for (const Item& item : items) {
+            const auto done = static_cast<Long>(symbols.size());
+            CurrentUserInterface().Progress(GetFileName(path(item)), done, count);
+            symbols.push_back(read(item));
+        }
+        CurrentUserInterface().Progress(u"", count, count);
+        return symbols;
+    });
+}
+
+/// Copies of symbols, with what their files hold now; null for one whose file cannot be read, which
+/// is told.
+std::optional<SymbolList> ReadFiles(const SymbolList& symbols, const ProjectAssets& assets) {
+    return ReadEach(
+        symbols, [](const auto& symbol) { return symbol->FilePathName; },
+        [&assets](const auto& symbol) {
+            const auto copy = CopyWithRecord(*symbol);
+            return ReadSymbolFile(*copy, assets) ? copy : nullptr;
+        });
 }
 
 /// Works out again what comes from other symbols' files.
@@ -126,12 +161,21 @@ void LibraryOperations::AddFolder(StringView name) {
     Add(folder, session_.inSelection.Symbol1);
 }
 
-bool LibraryOperations::AddFile(StringView path) {
-    const auto symbol = SymbolFromFile(AbsolutePath(path), session_.Assets());
-    if (!symbol) return false;
-    symbol->ID = GetSymbolID(*session_.colSymbol());
-    Add(symbol, session_.inSelection.Symbol1);
-    return true;
+bool LibraryOperations::AddFiles(const std::vector<String>& paths) {
+    const auto read = ReadEach(
+        paths, [](const String& path) { return path; },
+        [this](const String& path) {
+            return SymbolFromFile(AbsolutePath(path), session_.Assets());
+        });
+    if (!read) return false;
+    bool all = true;
+    for (const auto& symbol : *read) {
+        all = all && symbol;
+        if (!symbol) continue;
+        symbol->ID = GetSymbolID(*session_.colSymbol());
+        Add(symbol, session_.inSelection.Symbol1);
+    }
+    return all;
 }
 
 bool LibraryOperations::RemoveLayersOf(Collection<clsLayer>& layers, Long id) {
@@ -244,41 +288,39 @@ bool LibraryOperations::Move(Long first, Long last, Long target, bool inFolder, 
 }
 
 bool LibraryOperations::ReadAgain() {
-    const Collection<clsSymbolData>& library = *session_.colSymbol();
-    const SymbolRange range = session_.SelectedSymbols();
-    SymbolSet read;
-    Notices told;
-    bool all = true;
-    for (Long row = range.First; row <= range.Last; ++row) {
-        clsSymbolData& symbol = *library(row);
-        if (symbol.FilePathName.empty()) continue;
-        if (FileExists(symbol.FilePathName) && session_.Assets().LoadFile(symbol, told)) {
-            read.insert(&symbol);
-            continue;
-        }
-        TellUnreadable(symbol.FilePathName);
-        all = false;
+    SymbolList symbols = SymbolsOf(*session_.colSymbol(), session_.SelectedSymbols());
+    std::erase_if(symbols, [](const auto& symbol) { return symbol->FilePathName.empty(); });
+    const auto read = ReadFiles(symbols, session_.Assets());
+    if (!read) return false;
+    SymbolSet changed;
+    for (std::size_t i = 0; i < symbols.size(); ++i) {
+        if (!(*read)[i]) continue;
+        symbols[i]->PropertyData((*read)[i]->PropertyData());
+        changed.insert(symbols[i].get());
     }
-    ShowNotices(told);
-    FollowReload(library, read, session_.Assets());
+    FollowReload(*session_.colSymbol(), changed, session_.Assets());
     session_.CloseStep();
     session_.Note(Kind::Symbol);
-    return all;
+    return changed.size() == symbols.size();
 }
 
 bool LibraryOperations::Change(const EditSymbolData& edit) {
     const SymbolRange range = session_.SelectedSymbols();
     if (range.Count() < 1) return false;
-    clsSymbolData& symbol = *(*session_.colSymbol())(range.First);
-    clsSymbolData changed = symbol;
-    if (symbol.PropertyData()) changed.PropertyData(symbol.PropertyData()->Copy());
-    if (!edit(changed)) return false;
-    symbol = std::move(changed);
+    const auto& symbol = (*session_.colSymbol())(range.First);
+    const auto changed = CopyWithRecord(*symbol);
+    if (!edit(*changed)) return false;
+    if (symbol->eType() == KindText) session_.Assets().SetTextSize(*changed);
+    if (!changed->FilePathName.empty()) {
+        const auto read = ReadFiles({changed}, session_.Assets());
+        if (!read || !read->front()) return false;
+        changed->PropertyData(read->front()->PropertyData());
+    }
+    *symbol = std::move(*changed);
+    FollowReload(*session_.colSymbol(), {symbol.get()}, session_.Assets());
+    session_.CloseStep();
     session_.LibraryChanged(Kind::LibraryRows | Kind::Symbol);
-    if (symbol.eType() == KindText) session_.Assets().SetTextSize(symbol);
-    if (symbol.FilePathName.empty()) return true;
-    session_.SelectSymbols(range.First, range.First);
-    return ReadAgain();
+    return true;
 }
 
 }  // namespace tamber

@@ -27,8 +27,9 @@ public:
     /// selected. False when `edit` refuses. A number that is taken is told, and a free one given.
     bool AddNew(Long kind, const EditSymbolData& edit);
     void AddFolder(StringView name);
-    /// False when no symbol can be made of the file, which was told.
-    bool AddFile(StringView path);
+    /// Makes symbols of files. False when one of them could not be added, which was told; the
+    /// others are. None is when the user would rather not wait.
+    bool AddFiles(const std::vector<String>& paths);
     /// Takes a row out, a folder with all that is in it; with `withUses` the layers that show what
     /// goes out are removed too, a step for each timeline.
     void Remove(Long index, bool withUses);
@@ -49,7 +50,8 @@ public:
     /// its symbol stays as it was.
     bool ReadAgain();
     /// Changes properties of the first selected symbol, whose file is read again. False when none
-    /// is selected, when `edit` refuses, or for a file that cannot be read, which is told.
+    /// is selected, when `edit` refuses, or for a file that cannot be read, which is told; the
+    /// symbol then stays as it was.
     bool Change(const EditSymbolData& edit);
     /// Numbers symbols that an undo brought back, from the row `first` on.
     void Returned(Long first);

@@ -8,6 +8,7 @@
 #include "app/operations/MoviePageWriter.h"
 #include "app/operations/RowOperations.h"
 #include "app/settings/mdlPrivateProfile.h"
+#include "app/tasks/Task.h"
 #include "canvas/timeline/SymbolRows.h"
 #include "document/ProjectWriter.h"
 #include "document/edit/ProjectRelease.h"
@@ -105,12 +106,19 @@ bool ProjectOperations::New() {
     return true;
 }
 
+bool ProjectOperations::Read(const String& path, Project& out,
+                             std::optional<Long> importInto) const {
+    const auto load =
+        RunTask([&] { return LoadProject(path, out, session_.Assets(), importInto); });
+    return load && ShowLoad(*load);
+}
+
 bool ProjectOperations::Open(StringView path) {
     if (!Guard()) return false;
     const String chosen = ExistingProject(path, u"プロジェクトを開く");
     if (chosen.empty()) return false;
     Project opened = session_.inProject;
-    if (!ShowLoad(LoadProject(chosen, opened, session_.Assets()))) return false;
+    if (!Read(chosen, opened)) return false;
     TakePageSettings(opened);
     CloseProject();
     session_.inProject = std::move(opened);
@@ -180,8 +188,7 @@ bool ProjectOperations::Import(StringView path, const ChooseImport& choose) {
     Project incoming;
     ImportOptions options;
     Project& project = session_.inProject;
-    if (!ShowLoad(LoadProject(chosen, incoming, session_.Assets(), project.SWFVersion)))
-        return false;
+    if (!Read(chosen, incoming, project.SWFVersion)) return false;
     TakePageSettings(incoming);
     if (!choose(incoming, options)) return false;
     Collection<clsLayer> rows =
@@ -268,10 +275,14 @@ bool ProjectOperations::Author(StringView path) {
     request.Path = path;
     String anchors;
     request.AnchorLabels = &anchors;
-    const MovieOutcome outcome = mdlSWFAuthoring::BuildMovie(request);
-    ShowNotices(outcome.Told);
-    if (!outcome.Written) return false;
-    outcome.Identifiers.ShowIn(*project.colSymbol);
+    const auto outcome = RunTask([&] {
+        request.Fonts = RefreshFontAdmin(*project.colSymbol, project.SWFVersion);
+        return mdlSWFAuthoring::BuildMovie(request);
+    });
+    if (!outcome) return false;
+    ShowNotices(outcome->Told);
+    if (!outcome->Written) return false;
+    outcome->Identifiers.ShowIn(*project.colSymbol);
     if (mdlPrivateProfile::flgMakeHTML()) WritePage(path, anchors);
     const auto elapsed = std::chrono::duration_cast<std::chrono::milliseconds>(
         std::chrono::steady_clock::now() - begin);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include "app/session/Session.h"
 #include "output/ProjectImport.h"
@@ -49,6 +50,9 @@ private:
     static void TellInUse(StringView path);
     void AddBackgroundLayer();
     bool Guard();
+    /// False when the project cannot be read, which is told, and when the user would rather not
+    /// wait for it.
+    bool Read(const String& path, Project& out, std::optional<Long> importInto = {}) const;
     void CloseProject();
     /// What all that put another project in place end with.
     void ShowProject();

@@ -17,6 +17,12 @@ constexpr Long FileTextSize = 24;
 /// Bytes of a text file at most, far more than a movie can show.
 constexpr std::uint64_t LargestTextFile = 1 << 20;
 
+/// Tells that a file could not be read, and in the status area which one.
+void TellUnreadable(StringView path) {
+    CurrentUserInterface().Status(path);
+    ShowMessage(u"ファイルの読み込みに失敗しました。", u"読み込みエラー", MessageIcon::Error);
+}
+
 bool ReadText(clsSymbolData& symbol, StringView path, const ProjectAssets& assets) {
     const auto size = FileSize(path);
     Bytes bytes;
@@ -36,20 +42,14 @@ bool ReadText(clsSymbolData& symbol, StringView path, const ProjectAssets& asset
     return true;
 }
 
-bool ReadFile(clsSymbolData& symbol, StringView path, const ProjectAssets& assets) {
-    symbol.FilePathName = path;
-    Notices told;
-    const bool read = assets.LoadFile(symbol, told);
-    ShowNotices(told);
-    if (!read) TellUnreadable(path);
-    return read;
-}
-
 }  // namespace
 
-void TellUnreadable(StringView path) {
-    CurrentUserInterface().Status(path);
-    ShowMessage(u"ファイルの読み込みに失敗しました。", u"読み込みエラー", MessageIcon::Error);
+bool ReadSymbolFile(clsSymbolData& symbol, const ProjectAssets& assets) {
+    Notices told;
+    const bool read = FileExists(symbol.FilePathName) && assets.LoadFile(symbol, told);
+    ShowNotices(told);
+    if (!read) TellUnreadable(symbol.FilePathName);
+    return read;
 }
 
 std::shared_ptr<clsSymbolData> SymbolFromFile(StringView path, const ProjectAssets& assets) {
@@ -71,8 +71,9 @@ std::shared_ptr<clsSymbolData> SymbolFromFile(StringView path, const ProjectAsse
         return nullptr;
     }
     auto symbol = std::make_shared<clsSymbolData>(kind);
+    if (kind != KindText) symbol->FilePathName = path;
     const bool read =
-        kind == KindText ? ReadText(*symbol, path, assets) : ReadFile(*symbol, path, assets);
+        kind == KindText ? ReadText(*symbol, path, assets) : ReadSymbolFile(*symbol, assets);
     return read ? symbol : nullptr;
 }
 

@@ -11,7 +11,8 @@ namespace tamber {
 /// told. The path is absolute. A text takes in what its file holds and forgets the file.
 std::shared_ptr<clsSymbolData> SymbolFromFile(StringView path, const ProjectAssets& assets);
 
-/// Tells that a file could not be read, and in the status area which one.
-void TellUnreadable(StringView path);
+/// Fills a symbol's record from its file. False when that cannot be read, which the user was told;
+/// the record may be filled in part.
+bool ReadSymbolFile(clsSymbolData& symbol, const ProjectAssets& assets);
 
 }  // namespace tamber

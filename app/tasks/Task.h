@@ -4,13 +4,14 @@
 #include <functional>
 #include <optional>
 #include <thread>
+#include <utility>
 
 #include "app/tasks/TaskInterface.h"
 
 namespace tamber {
 
-/// Work on a thread of its own, over what only it changes: reading, generating, importing, wave
-/// tables. Its result, and what it had to tell, come back to the one who started it.
+/// Work on a thread of its own, over what nobody changes meanwhile. What it has to say and to ask
+/// is said and asked by the one who started it, whose thread all but the work belongs to.
 template <class Result>
 class Task {
 public:
@@ -24,26 +25,28 @@ public:
     Task(const Task&) = delete;
     Task& operator=(const Task&) = delete;
 
-    bool Finished() const { return finished_; }
-    /// Items done, and of how many; 0 of 0 before the first was told.
-    Long Done() const { return progress_.Done; }
-    Long Total() const { return progress_.Total; }
-    /// The work ends where it next tells its progress.
-    void Cancel() { progress_.blCancel = true; }
+    bool Finished() const { return channel_.Ended(); }
+    /// The work ends where it next tells its progress or asks.
+    void Cancel() { channel_.Cancel(); }
+    /// Says and asks what came since the last time; waits for it as long as `patience`. True when
+    /// the work has ended and all was said.
+    bool Serve(std::chrono::milliseconds patience = {}) { return channel_.Serve(patience); }
 
-    /// Waits for the end and gives the result once; nothing for work that was cancelled. What the
-    /// work threw comes out here.
+    /// Serves until the end and gives the result once; nothing for work that was cancelled. What
+    /// the work threw comes out here.
     std::optional<Result> Take() {
-        if (thread_.joinable()) thread_.join();
+        while (!Serve(WaitTime))
+            if (!CurrentUserInterface().Idle()) Cancel();
         if (fault_) std::rethrow_exception(std::exchange(fault_, nullptr));
         return std::exchange(result_, std::nullopt);
     }
-    /// What the work had to tell, in order; to be asked behind `Take`.
-    const Notices& Said() const { return said_; }
 
 private:
+    /// In which an interface that waits comes to its own work.
+    static constexpr std::chrono::milliseconds WaitTime{10};
+
     void Run(const std::function<Result()>& work) {
-        TaskInterface interface(progress_);
+        TaskInterface interface(channel_);
         const UserInterfaceScope scope(interface);
         try {
             result_ = work();
@@ -51,17 +54,21 @@ private:
         } catch (...) {
             fault_ = std::current_exception();
         }
-        said_ = std::move(interface.Said);
-        finished_ = true;
+        channel_.End();
     }
 
-    TaskProgress progress_;
-    Notices said_;
+    TaskChannel channel_;
     std::optional<Result> result_;
     std::exception_ptr fault_;
-    std::atomic<bool> finished_ = false;
     /// Last, so that all above is there when it begins.
     std::thread thread_;
 };
+
+/// Runs work as a task and waits for its end, while the calling thread's interface stays alive.
+/// Nothing when the person would rather not wait for it.
+template <class Work>
+auto RunTask(Work work) {
+    return Task<decltype(work())>(std::move(work)).Take();
+}
 
 }  // namespace tamber

@@ -1,51 +1,34 @@
 #pragma once
 
-#include <atomic>
-
-#include "platform/Notice.h"
+#include "app/tasks/TaskChannel.h"
 
 namespace tamber {
 
-/// Thrown out of work whose end nobody waits for any more.
-struct TaskCancelled {};
-
-/// How far work has come, and whether it is still wanted; read from any thread.
-struct TaskProgress {
-    std::atomic<Long> Done = 0;
-    std::atomic<Long> Total = 0;
-    std::atomic<bool> blCancel = false;
-};
-
-/// What work on a thread of its own talks to: what it says is kept for the one who started it, and
-/// questions get the safe answer.
+/// What work on a thread of its own talks to: all goes to the thread that owns it.
 class TaskInterface : public UserInterface {
 public:
-    explicit TaskInterface(TaskProgress& progress) : progress_(progress) {}
+    explicit TaskInterface(TaskChannel& channel) : channel_(channel) {}
 
-    /// What was said, in order.
-    Notices Said;
-
-    void Message(StringView text, StringView title, MessageIcon icon) override {
-        Said.push_back({String(text), String(title), icon, {}, Notice::Form::Box});
-    }
-    Answer Ask(StringView, StringView, Choices choices) override {
-        return choices == Choices::YesNoCancel ? Answer::Cancel : Answer::No;
-    }
-    String OpenFileDialog(const FileDialog&) override { return {}; }
-    String SaveFileDialog(const FileDialog&) override { return {}; }
-    String SelectFolderDialog(StringView) override { return {}; }
-    /// Ends work that was cancelled by a `TaskCancelled`.
-    void Progress(StringView, Long done, Long total) override {
-        progress_.Done = done;
-        progress_.Total = total;
-        if (progress_.blCancel) throw TaskCancelled();
-    }
-    void Status(StringView text) override {
-        Said.push_back({String(text), {}, MessageIcon::None, {}, Notice::Form::Status});
-    }
+    /// The work goes on before it is read.
+    void Message(StringView text, StringView title, MessageIcon icon) override;
+    Answer Ask(StringView text, StringView title, Choices choices) override;
+    bool AskToSkip(StringView text) override;
+    String OpenFileDialog(const FileDialog& dialog) override;
+    String SaveFileDialog(const FileDialog& dialog) override;
+    String SelectFolderDialog(StringView title) override;
+    String InputBox(StringView prompt, StringView title, StringView offered) override;
+    void Progress(StringView text, Long done, Long total) override;
+    void Status(StringView text) override;
 
 private:
-    TaskProgress& progress_;
+    template <class Question>
+    auto Answered(Question question) {
+        decltype(question(std::declval<UserInterface&>())) answer{};
+        channel_.Ask([&](UserInterface& interface) { answer = question(interface); });
+        return answer;
+    }
+
+    TaskChannel& channel_;
 };
 
 }  // namespace tamber

@@ -248,31 +248,54 @@ TEST_F(Changes, entries_tell_whether_they_can_be_done_and_are_checked) {
             EXPECT_TRUE(known.Key.empty() || keys.insert(known.Key).second) << ToNarrow(known.Key);
 }
 
-TEST(TaskTest, brings_back_a_result_and_what_was_said_or_nothing_when_cancelled) {
-    Task<int> work([] {
-        ShowMessage(u"一", u"題");
-        CurrentUserInterface().Status(u"二");
-        CurrentUserInterface().Progress(u"", 2, 5);
-        return 42;
-    });
-    EXPECT_EQ(work.Take(), 42);
-    EXPECT_TRUE(work.Finished());
-    EXPECT_EQ(work.Done(), 2);
-    EXPECT_EQ(work.Total(), 5);
+/// Wants work to end once it has told its progress.
+class Hasty : public RecordingUserInterface {
+public:
+    void Progress(StringView, Long, Long) override { ended_ = true; }
+    bool Idle() override { return !ended_; }
+
+private:
+    bool ended_ = false;
+};
+
+TEST(TaskTest, says_and_asks_in_the_order_of_its_work) {
     RecordingUserInterface interface;
     const UserInterfaceScope scope(interface);
-    ShowNotices(work.Said());
+    interface.Answers = {Answer::Yes};
+    interface.Paths = {u"chosen"};
+    const auto result = RunTask([] {
+        ShowMessage(u"一", u"題");
+        CurrentUserInterface().Status(u"二");
+        const bool asked = CurrentUserInterface().AskToSkip(u"三");
+        return CurrentUserInterface().OpenFileDialog({}) + (asked ? u"!" : u"");
+    });
+    EXPECT_EQ(result, u"chosen!");
     ASSERT_EQ(interface.Messages.size(), 1u);
     EXPECT_EQ(interface.Messages[0].Title, u"題");
     EXPECT_EQ(interface.StatusLines, (std::vector<String>{u"二"}));
+    ASSERT_EQ(interface.Questions.size(), 1u);
+    EXPECT_EQ(interface.Questions[0].Text, u"三");
+    EXPECT_THROW(RunTask([]() -> int { throw RuntimeError(ErrorOutOfRange, u"", u""); }),
+                 RuntimeError);
+}
 
-    Task<int> endless([]() -> int {
+TEST(TaskTest, ends_where_it_tells_its_progress_or_asks_once_nobody_waits) {
+    Hasty interface;
+    const UserInterfaceScope scope(interface);
+    const auto endless = RunTask([]() -> int {
         for (;;) CurrentUserInterface().Progress(u"", 1, 2);
     });
-    endless.Cancel();
-    EXPECT_EQ(endless.Take(), std::nullopt);
-    Task<int> faulty([]() -> int { throw RuntimeError(ErrorOutOfRange, u"", u""); });
-    EXPECT_THROW(faulty.Take(), RuntimeError);
+    EXPECT_EQ(endless, std::nullopt);
+    std::atomic<bool> answered = false;
+    {
+        const Task<int> asking([&answered] {
+            CurrentUserInterface().AskToSkip(u"?");
+            answered = true;
+            return 0;
+        });
+    }
+    EXPECT_FALSE(answered);
+    EXPECT_TRUE(interface.Questions.empty());
 }
 
 }  // namespace
