@@ -101,7 +101,7 @@ bool WritePictures(frmMain& controller, const PictureRequest& request) {
     const PictureView view = ViewOf(*movie, request);
     if (view.Width > LargestSide || view.Height > LargestSide)
         return Refuse(u"画像が大きすぎます。一辺は16384ピクセルまでです。");
-    if (request.LastFrame > movie->Main.FrameCount() && request.Symbol == 0)
+    if (request.LastFrame > movie->Main.FrameCount() && !request.blSequence)
         return Refuse(u"フレーム数は" + ToText(movie->Main.FrameCount()) + u"です。");
     MoviePicture pictures(movie);
     for (Long frame = request.FirstFrame; frame <= request.LastFrame; ++frame) {

@@ -10,7 +10,8 @@ namespace tamber {
 struct PictureRequest {
     /// Of the symbol with this number alone; 0 for the movie.
     Long Symbol = 0;
-    /// Frames, from 1. Of one frame alone the sprites show their first; in a sequence they go on.
+    /// Frames, from 1. Of one frame alone the sprites show their first; in a sequence they go on,
+    /// and behind the movie's last frame it begins anew.
     Long FirstFrame = 1;
     Long LastFrame = 1;
     bool blSequence = false;

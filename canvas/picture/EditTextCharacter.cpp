@@ -76,9 +76,7 @@ void EditTextCharacter::DrawBorder(const PaintBox& box, Painter& painter,
     PictureFill white;
     white.Color = {255, 255, 255, 255};
     painter.Fill(outline, white, state, CAIRO_FILL_RULE_EVEN_ODD);
-    PictureLine line;
-    line.blNoScaleX = line.blNoScaleY = true;
-    painter.Stroke(outline, line, state);
+    painter.DrawBox(box, state);
 }
 
 void EditTextCharacter::Draw(Painter& painter, const PaintState& state) const {

@@ -7,8 +7,10 @@ namespace tamber {
 
 namespace {
 
-/// Half the side of the square that a gradient lies in.
-constexpr double Reach = 16384;
+/// Half the side of the square that a gradient lies in, in a movie, and here: cairo's numbers hold
+/// repetitions of small squares alone.
+constexpr double MovieReach = 16384;
+constexpr double Reach = 256;
 /// A focal point on the rim itself leaves half of the plane without a colour.
 constexpr double FarthestFocus = 0.98;
 constexpr double One = 255;
@@ -47,6 +49,7 @@ void AddLightStops(cairo_pattern_t* pattern, const GradientStop& from, const Gra
 
 PatternPointer GradientPattern(const PictureFill& fill) {
     cairo_matrix_t matrix = fill.Matrix;
+    cairo_matrix_scale(&matrix, MovieReach / Reach, MovieReach / Reach);
     if (fill.Stops.empty() || cairo_matrix_invert(&matrix) != CAIRO_STATUS_SUCCESS) return nullptr;
     const double focus = std::clamp(fill.Focal, -FarthestFocus, FarthestFocus) * Reach;
     PatternPointer pattern(fill.What == PictureFill::Kind::Linear

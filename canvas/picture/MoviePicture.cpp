@@ -59,7 +59,7 @@ Raster MoviePicture::Draw(Long frame, const PictureView& view) {
                     scale,
                     view.Left - movie_->Stage.xMin * scale,
                     view.Top - movie_->Stage.yMin * scale};
-    state.Frame = std::clamp(frame, 1, movie_->Main.FrameCount()) - 1;
+    state.Frame = std::max(frame, 1) - 1;
     Painter painter(picture, {0, 0, double(view.Width), double(view.Height)}, cache_);
     painter.Draw(movie_->Main, state);
     return picture;

@@ -29,7 +29,7 @@ public:
     explicit MoviePicture(std::shared_ptr<const PictureMovie> movie) : movie_(std::move(movie)) {}
 
     const PictureMovie& Movie() const { return *movie_; }
-    /// `frame` from 1; beyond the last one that is shown.
+    /// `frame` from 1; behind the last one the timeline begins anew, and sprites go on.
     Raster Draw(Long frame, const PictureView& view);
 
 private:

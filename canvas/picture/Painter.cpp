@@ -226,11 +226,33 @@ void Painter::Stroke(const PicturePath& path, const PictureLine& line, const Pai
     cairo_stroke(context_);
 }
 
+void Painter::DrawBox(const PaintBox& box, const PaintState& state) {
+    const PictureColor color = Changed({}, state);
+    cairo_identity_matrix(context_);
+    cairo_new_path(context_);
+    for (const auto& [x, y] : {std::pair(box.Left, box.Top), std::pair(box.Right, box.Top),
+                               std::pair(box.Right, box.Bottom), std::pair(box.Left, box.Bottom)}) {
+        double outX = x;
+        double outY = y;
+        cairo_matrix_transform_point(&state.Matrix, &outX, &outY);
+        cairo_line_to(context_, std::floor(outX) + 0.5, std::floor(outY) + 0.5);
+    }
+    cairo_close_path(context_);
+    SetColor(color);
+    cairo_set_line_width(context_, 1);
+    cairo_set_line_join(context_, CAIRO_LINE_JOIN_MITER);
+    cairo_stroke(context_);
+}
+
+void Painter::SetColor(PictureColor color) {
+    constexpr double One = 255;
+    cairo_set_source_rgba(context_, color.R / One, color.G / One, color.B / One, color.A / One);
+}
+
 bool Painter::SetSource(const PictureFill& fill, const PaintState& state) {
     if (fill.What == PictureFill::Kind::Solid || state.blMask) {
         const PictureColor color = Changed(fill.Color, state);
-        constexpr double One = 255;
-        cairo_set_source_rgba(context_, color.R / One, color.G / One, color.B / One, color.A / One);
+        SetColor(color);
         return color.A > 0;
     }
     return fill.What == PictureFill::Kind::Bitmap ? SetBitmapSource(fill, state)

@@ -38,6 +38,8 @@ public:
               cairo_fill_rule_t rule);
     /// A line is at least as wide as a pixel of the stage.
     void Stroke(const PicturePath& path, const PictureLine& line, const PaintState& state);
+    /// The black outline of a box, one pixel wide at any scale, along whole pixels.
+    void DrawBox(const PaintBox& box, const PaintState& state);
 
 private:
     using Range = std::span<const std::shared_ptr<const Placement>>;
@@ -49,6 +51,7 @@ private:
     /// Draws a placement apart and then, with its filters, into the picture.
     void DrawGroup(const Placement& placement, const PaintState& state);
     FilteredRaster Filtered(const Placement& placement, const PaintState& state) const;
+    void SetColor(PictureColor color);
     bool SetSource(const PictureFill& fill, const PaintState& state);
     bool SetBitmapSource(const PictureFill& fill, const PaintState& state);
     bool SetGradientSource(const PictureFill& fill, const PaintState& state);

@@ -5,19 +5,16 @@
 
 namespace tamber {
 
+PaintBox VideoCharacter::Box() const {
+    return {0, 0, double(width_) * TwipsPerPixel, double(height_) * TwipsPerPixel};
+}
+
 void VideoCharacter::Draw(Painter& painter, const PaintState& state) const {
-    if (state.blMask) return;
-    PictureLine line;
-    line.blNoScaleX = line.blNoScaleY = true;
-    line.Join = CAIRO_LINE_JOIN_MITER;
-    painter.Stroke(PicturePath::OfBox(0, 0, width_ * TwipsPerPixel, height_ * TwipsPerPixel), line,
-                   state);
+    if (!state.blMask) painter.DrawBox(Box(), state);
 }
 
 PaintBox VideoCharacter::Bounds(const PaintState& state) const {
-    PaintBox box =
-        PaintBox{0, 0, double(width_) * TwipsPerPixel, double(height_) * TwipsPerPixel}.Under(
-            state.Matrix);
+    PaintBox box = Box().Under(state.Matrix);
     box.Grow(1);
     return box;
 }

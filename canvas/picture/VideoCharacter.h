@@ -17,6 +17,9 @@ public:
     PaintBox Bounds(const PaintState& state) const override;
 
 private:
+    /// Twips.
+    PaintBox Box() const;
+
     Long width_;
     Long height_;
 };

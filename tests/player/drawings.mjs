@@ -3,6 +3,7 @@ import { spawnSync } from 'node:child_process';
 import { copyFileSync, mkdirSync, readFileSync, readdirSync, writeFileSync } from 'node:fs';
 import { fileURLToPath } from 'node:url';
 import path from 'node:path';
+import { pictureDifferences } from './expect.mjs';
 import { decodePng } from './png.mjs';
 
 const drawingsFolder = path.join(path.dirname(fileURLToPath(import.meta.url)), 'drawings');
@@ -10,10 +11,8 @@ export const drawings = readdirSync(drawingsFolder).filter((name) => name.endsWi
 
 /** Size of every drawing, pixels. */
 const width = 160, height = 120;
-/** A pixel is off when a channel differs by more than this: edges are smoothed in two ways. */
-const farOff = 64;
-/** Pixels that may be off, and the mean difference of all channels that may be left. */
-const mostOff = width * height * 0.004, mostMean = 1.5;
+/** Part of the pixels that may be off, and the mean difference of all channels that may be left. */
+const limits = { off: 0.004, mean: 1.5 };
 
 const filters = ['100,100,100,100,0,0,0,0', '0,0,0,100,2,2,45,5,1,False,False,True,2', '4,4,2',
   '255,255,0,100,10,10,1,False,False,True,2', '0,0,0,100,255,255,255,100,2,2,45,5,1,False,False,True,False,2',
@@ -46,6 +45,12 @@ export function movieOfDrawings(tamber, folder) {
   return readFileSync(movie);
 }
 
+/** What to compare the program's own pictures of the drawings by. */
+export const drawingsOf = (folder) => ({
+  project: path.join(folder, 'drawings.kvf'), movie: readFileSync(path.join(folder, 'drawings.swf')), width, height,
+  frames: drawings.map((_, index) => index + 1),
+});
+
 export const loadDrawings = (stage, movie) => stage.load(movie, width, height);
 
 /** Answers a line when drawing number `index` looks other than rsvg-convert draws it. */
@@ -55,16 +60,5 @@ export async function compareDrawing(stage, index, folder) {
   const { file, picture } = await stage.show(index + 1);
   writeFileSync(path.join(folder, `${name}-seen.png`), file);
   const reference = decodePng(readFileSync(expected));
-  if (reference.width !== width || reference.height !== height) return [`${name} is not ${width} by ${height}`];
-  let off = 0, sum = 0;
-  for (let y = 0; y < height; y++)
-    for (let x = 0; x < width; x++) {
-      const seen = picture.at(x, y), wanted = reference.at(x, y);
-      const gaps = seen.map((value, i) => Math.abs(value - wanted[i]));
-      if (Math.max(...gaps) > farOff) off++;
-      sum += gaps[0] + gaps[1] + gaps[2];
-    }
-  const mean = sum / (width * height * 3);
-  if (off <= mostOff && mean <= mostMean) return [];
-  return [`${off} pixels are off (at most ${Math.floor(mostOff)}), mean difference ${mean.toFixed(2)} (at most ${mostMean})`];
+  return pictureDifferences(picture, reference, limits);
 }

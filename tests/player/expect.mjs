@@ -45,3 +45,24 @@ export function traceDifferences(seen, { frame, traces }) {
       return [`frame ${frame}: trace ${i + 1} is ${JSON.stringify(seen[i] ?? null)} instead of ${JSON.stringify(traces[i] ?? null)}`];
   return [];
 }
+
+/** A pixel is off when a channel differs by more than this: edges are smoothed in two ways. */
+const farOff = 64;
+
+/** Answers a line when two pictures differ by more than the part of pixels that may be off, and the mean difference. */
+export function pictureDifferences(picture, expected, { off: mostOff, mean: mostMean }) {
+  const { width, height } = expected;
+  if (picture.width !== width || picture.height !== height)
+    return [`the picture is ${picture.width} by ${picture.height} instead of ${width} by ${height}`];
+  let off = 0, sum = 0;
+  for (let y = 0; y < height; y++)
+    for (let x = 0; x < width; x++) {
+      const seen = picture.at(x, y), wanted = expected.at(x, y);
+      const gaps = seen.map((value, i) => Math.abs(value - wanted[i]));
+      if (Math.max(...gaps) > farOff) off++;
+      sum += gaps[0] + gaps[1] + gaps[2];
+    }
+  const part = off / (width * height), mean = sum / (width * height * 3);
+  if (part <= mostOff && mean <= mostMean) return [];
+  return [`${(part * 100).toFixed(2)} % of the pixels are off (at most ${mostOff * 100}), mean difference ${mean.toFixed(2)} (at most ${mostMean})`];
+}

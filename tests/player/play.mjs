@@ -6,14 +6,15 @@
 // TAMBER is the program, MODULES the folder with node_modules, OUTPUT where movies and the pictures of all looked-at
 // frames go. Exit status 0 when all is as expected, 1 when not.
 import { spawnSync } from 'node:child_process';
-import { mkdirSync, readFileSync, readdirSync, rmSync, writeFileSync } from 'node:fs';
+import { existsSync, mkdirSync, readFileSync, readdirSync, rmSync, writeFileSync } from 'node:fs';
 import { fileURLToPath } from 'node:url';
 import path from 'node:path';
 import { inflateSync } from 'node:zlib';
 import { Stage } from './stage.mjs';
-import { differences, traceDifferences } from './expect.mjs';
+import { differences, pictureDifferences, traceDifferences } from './expect.mjs';
+import { decodePng } from './png.mjs';
 import { movingSquare } from './swf-by-hand.mjs';
-import { compareDrawing, drawings, loadDrawings, movieOfDrawings } from './drawings.mjs';
+import { compareDrawing, drawings, drawingsOf, loadDrawings, movieOfDrawings } from './drawings.mjs';
 
 const casesFolder = path.join(path.dirname(fileURLToPath(import.meta.url)), 'cases');
 
@@ -88,6 +89,39 @@ async function checkCase(stage, tamber, name, output) {
   return [...headerDifferences(movie, description), ...await look(stage, movie, description, path.join(output, name))];
 }
 
+/** A part of the pixels that may be off, and a mean difference, between the player's picture and the program's own. */
+const ownPictureLimits = { off: 0.005, mean: 1.5 };
+
+/** The program's own picture of a frame. */
+function ownPicture(tamber, project, frame, output, extra = []) {
+  const words = ['picture', project, '--frames', `${frame}-${frame}`, ...extra, '-o', output.replace('.png', '_%d.png')];
+  return decodePng(made(tamber, words, output.replace('.png', `_${frame}.png`)));
+}
+
+/** Answers a line for each of the frames that the program draws other than the player, which plays `movie`. */
+async function comparePictures(stage, tamber, { project, movie, width, height, frames, limits = ownPictureLimits }, output) {
+  const lines = [], scale = stage.scale > 1 ? ['--scale', `${stage.scale}`] : [];
+  await stage.load(movie, width, height);
+  for (const frame of [...new Set(frames)].sort((a, b) => a - b)) {
+    const { file, picture } = await stage.show(frame);
+    writeFileSync(`${output}-player_${frame}.png`, file);
+    lines.push(...pictureDifferences(ownPicture(tamber, project, frame, `${output}-own.png`, scale), picture, limits)
+      .map((line) => `frame ${frame}: ${line}`));
+  }
+  return lines;
+}
+
+/** Scripts, and what a person does, change what the player shows; a case that has either says so in `picture`. */
+async function checkOwnPicture(stage, tamber, name, output) {
+  const folder = path.join(casesFolder, name);
+  const description = JSON.parse(readFileSync(path.join(folder, 'case.json'), 'utf8'));
+  if (typeof description.picture === 'string') return [];
+  const project = path.join(folder, description.project);
+  const movie = generate(tamber, description, folder, path.join(output, `${name}.swf`));
+  const frames = description.expectations.map(({ frame }) => frame);
+  return comparePictures(stage, tamber, { ...description, project, movie, frames, limits: description.picture }, path.join(output, name));
+}
+
 /** The page of a movie loads the player that was put beside it. The page's margin is 8 pixels wide. */
 async function checkPage(stage, tamber, output) {
   const expectation = { frame: 1, pixels: [{ x: 68, y: 68, colour: '#ff0000' }, { x: 20, y: 20, colour: '#fff0c8' }, { x: 4, y: 4, colour: '#ffffff' }] };
@@ -118,6 +152,31 @@ async function checkSnapshot(stage, tamber, name, output) {
   return lines;
 }
 
+/** Those looked at three times as large, too. */
+const largeCases = ['effects', 'gradient-radial', 'lines', 'mask', 'morph', 'text-swf8', 'vector-mask', 'text-field'];
+
+async function checkLarge(modules, tamber, cases, output, report) {
+  const stage = await Stage.open(modules, 3);
+  try {
+    for (const name of largeCases.filter((large) => cases.includes(large)))
+      await report(`own picture of ${name}, large`, () => checkOwnPicture(stage, tamber, name, path.join(output, 'large')));
+    if (cases.includes('effects')) await report('own pictures of tour, large', () => checkExample(stage, tamber, 'tour', path.join(output, 'large')));
+  } finally {
+    await stage.close();
+  }
+}
+
+/** The examples, at five frames each. */
+const exampleFrames = { tour: [1, 20, 40, 60, 80], hello: [1, 25, 49, 73, 97] };
+
+async function checkExample(stage, tamber, name, output) {
+  const folder = path.join(casesFolder, '..', '..', '..', 'examples', name);
+  const project = path.join(folder, `${name}.kvf`);
+  const movie = generate(tamber, { project }, '', path.join(output, `${name}.swf`));
+  const size = decodePng(made(tamber, ['picture', project, '-o', path.join(output, `${name}-size.png`)], path.join(output, `${name}-size.png`)));
+  return comparePictures(stage, tamber, { project, movie, width: size.width, height: size.height, frames: exampleFrames[name] }, path.join(output, name));
+}
+
 async function checkDrawings(stage, tamber, output, report) {
   const folder = path.join(output, 'drawings');
   await report('drawings', async () => {
@@ -126,6 +185,7 @@ async function checkDrawings(stage, tamber, output, report) {
   });
   for (const [index, name] of drawings.entries())
     await report(`drawing ${name}`, () => compareDrawing(stage, index, folder));
+  await report('own pictures of the drawings', () => comparePictures(stage, tamber, drawingsOf(folder), path.join(folder, 'drawings')));
 }
 
 async function main([tamber, modules, output, ...chosen]) {
@@ -135,6 +195,7 @@ async function main([tamber, modules, output, ...chosen]) {
   }
   mkdirSync(output, { recursive: true });
   const names = chosen.length ? chosen : readdirSync(casesFolder).sort();
+  const cases = names.filter((name) => existsSync(path.join(casesFolder, name)));
   const stage = await Stage.open(modules);
   let failures = 0;
   const report = async (name, check) => {
@@ -150,11 +211,18 @@ async function main([tamber, modules, output, ...chosen]) {
   };
   try {
     await report('(the runner itself)', () => checkRunner(stage, output));
-    for (const name of names.filter((name) => !['drawings', 'page', 'snapshots'].includes(name)))
+    for (const name of cases)
       await report(name, () => checkCase(stage, path.resolve(tamber), name, output));
     for (const name of snapshotCases)
       if (!chosen.length || chosen.includes('snapshots'))
         await report(`snapshots of ${name}`, () => checkSnapshot(stage, path.resolve(tamber), name, output));
+    for (const name of cases)
+      await report(`own picture of ${name}`, () => checkOwnPicture(stage, path.resolve(tamber), name, output));
+    mkdirSync(path.join(output, 'large'), { recursive: true });
+    await checkLarge(modules, path.resolve(tamber), cases, output, report);
+    for (const name of Object.keys(exampleFrames))
+      if (!chosen.length || chosen.includes(name))
+        await report(`own pictures of ${name}`, () => checkExample(stage, path.resolve(tamber), name, output));
     if (!chosen.length || chosen.includes('page')) await report('page', () => checkPage(stage, path.resolve(tamber), output));
     if (!chosen.length || chosen.includes('drawings')) await checkDrawings(stage, path.resolve(tamber), output, report);
   } finally {

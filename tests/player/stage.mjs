@@ -49,17 +49,18 @@ function serve(stage, playerFolder) {
 }
 
 export class Stage {
-  /** modules: the folder that `npm ci` filled. */
-  static async open(modules) {
+  /** modules: the folder that `npm ci` filled; scale: pixels of a picture for a pixel of the stage, on each side. */
+  static async open(modules, scale = 1) {
     const require = createRequire(pathToFileURL(path.join(modules, 'package.json')));
     const { chromium } = require('playwright-core');
     const stage = new Stage();
+    stage.scale = scale;
     stage.pageFolder = path.join(modules, 'page');
     stage.besideFolder = stage.pageFolder;
     stage.served = new Set();
     stage.server = await serve(stage, path.join(modules, 'node_modules', '@ruffle-rs', 'ruffle'));
     stage.browser = await chromium.launch({ executablePath: findBrowser(), args: flags });
-    stage.page = await stage.browser.newPage({ deviceScaleFactor: 1 });
+    stage.page = await stage.browser.newPage({ deviceScaleFactor: scale });
     await stage.page.addInitScript({ path: path.join(here, 'page.js') });
     await stage.page.goto(`http://127.0.0.1:${stage.server.address().port}/`);
     return stage;
