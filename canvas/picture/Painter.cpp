@@ -75,12 +75,18 @@ double Stretch(double x, double y) {
     return std::hypot(x, y);
 }
 
+/// Modes that blend the opacity of the layer around them; where there is none nothing is seen.
+bool NeedsLayer(BlendMode mode) {
+    return mode == BlendMode::Alpha || mode == BlendMode::Erase;
+}
+
 }  // namespace
 
-Painter::Painter(Raster& target, PaintBox clip, PaintCache& cache)
+Painter::Painter(Raster& target, PaintBox clip, PaintCache& cache, Ground ground)
     : target_(target),
       clip_(clip.Cut(WholeOf(target))),
       cache_(cache),
+      ground_(ground),
       surface_(target),
       context_(cairo_create(surface_.get())) {
     if (clip_.IsEmpty()) clip_ = Nowhere;
@@ -138,7 +144,7 @@ void Painter::DrawMasked(const Timeline& timeline, const Placement& mask, Range 
     Raster inside = CopyOf(target_, box);
     Raster cover = RasterOf(box);
     if (inside.IsEmpty()) return;
-    Painter(inside, WholeOf(inside), cache_)
+    Painter(inside, WholeOf(inside), cache_, ground_)
         .DrawRange(timeline, range, MovedBy(parent, -box.Left, -box.Top));
     Painter(cover, WholeOf(cover), cache_).DrawPlacement(mask, MovedBy(state, -box.Left, -box.Top));
     for (Long y = 0; y < cover.Height(); ++y) {
@@ -160,6 +166,7 @@ void Painter::DrawPlacement(const Placement& placement, const PaintState& state)
 }
 
 void Painter::DrawGroup(const Placement& placement, const PaintState& state) {
+    if (NeedsLayer(placement.Blend) && ground_ == Ground::Stage) return;
     const FilteredRaster drawn = Filtered(placement, state);
     if (drawn.Pixels.IsEmpty()) return;
     cairo_surface_flush(surface_.get());
@@ -181,7 +188,7 @@ FilteredRaster Painter::Filtered(const Placement& placement, const PaintState& s
     drawn.Pixels = RasterOf(box);
     if (drawn.Pixels.IsEmpty()) return drawn;
     {
-        Painter inner(drawn.Pixels, WholeOf(drawn.Pixels), cache_);
+        Painter inner(drawn.Pixels, WholeOf(drawn.Pixels), cache_, Ground::Layer);
         placement.Shown->Draw(inner, MovedBy(plain, -box.Left, -box.Top));
     }
     if (!placement.Filters.empty()) {

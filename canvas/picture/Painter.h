@@ -14,8 +14,11 @@ namespace tamber {
 /// Draws characters into a raster, over what is there.
 class Painter {
 public:
+    /// What the raster is: the stage, or a part of it drawn apart, whose opacity can be blended.
+    enum class Ground { Stage, Layer };
+
     /// `clip`: whole pixels of the raster outside of which nothing is drawn.
-    Painter(Raster& target, PaintBox clip, PaintCache& cache);
+    Painter(Raster& target, PaintBox clip, PaintCache& cache, Ground ground = Ground::Stage);
     ~Painter();
     Painter(const Painter&) = delete;
     Painter& operator=(const Painter&) = delete;
@@ -59,6 +62,7 @@ private:
     Raster& target_;
     PaintBox clip_;
     PaintCache& cache_;
+    Ground ground_;
     RasterSurface surface_;
     cairo_t* context_;
 };

@@ -91,8 +91,9 @@ GlowFilter ReadGlow(SwfBits& bits, bool isShadow) {
 
 BevelFilter ReadBevel(SwfBits& bits) {
     BevelFilter bevel;
-    bevel.Shadow = ReadColor(bits);
+    // As players read it; the published form of the file has the two the other way round.
     bevel.Highlight = ReadColor(bits);
+    bevel.Shadow = ReadColor(bits);
     const std::uint32_t flags = ReadCommon(bits, bevel, true);
     bevel.blOnTop = (flags & OnTop) != 0;
     bevel.Blur.Passes = static_cast<Long>(flags & BevelPasses);
@@ -166,12 +167,9 @@ struct MarginGrower {
     double Scale;
 
     void operator()(const BlurFilter& blur) const { GrowBlur(Margin, blur, Scale); }
-    void operator()(const GlowFilter& glow) const {
-        if (!glow.blInner) Shifted(glow);
-    }
-    void operator()(const BevelFilter& bevel) const {
-        if (!bevel.blInner || bevel.blOnTop) Shifted(bevel);
-    }
+    // What glows within does not grow, but its blur needs the room.
+    void operator()(const GlowFilter& glow) const { Shifted(glow); }
+    void operator()(const BevelFilter& bevel) const { Shifted(bevel); }
     void operator()(const ConvolutionFilter& filter) const {
         if (!filter.blPreserveAlpha) Grow(Margin, filter.Columns, filter.Rows);
     }

@@ -69,6 +69,41 @@ def effects():
     return [layer(RED, key(1, 1, 20, 20, filters=shadow)), layer(YELLOW, key(1, 1, 100, 30, blend=3)), layer(CYAN, key(1, 1, 120, 50))]
 
 
+def blends():
+    """For each mode a turned square, opaque on the left and half seen through on the right, over two others."""
+    layers = []
+    for mode in range(1, 15):
+        x, y = 5 + (mode - 1) % 7 * 28, 10 + (mode - 1) // 7 * 70
+        layers.append(layer(YELLOW, key(1, 1, x, y + 5, scale=(0.3, 0.9), blend=mode)))
+        layers.append(layer(CYAN, key(1, 1, x + 13, y + 5, scale=(0.3, 0.9), opacity=60, blend=mode)))
+        layers.append(layer(RED, key(1, 1, x, y, scale=(0.6, 0.5), bright=30)))
+        layers.append(layer(GREEN, key(1, 1, x, y + 20, scale=(0.6, 0.6), opacity=50)))
+    return layers
+
+
+FILTERS = [
+    {"Blur": "6,3,2"},
+    {"Blur": "12,12,1"},
+    {"DropShadow": "0,0,0,80,4,4,45,6,1,False,False,True,2"},
+    {"DropShadow": "0,0,128,100,6,6,30,5,1,True,False,True,2"},
+    {"DropShadow": "0,0,128,100,6,6,30,5,1,False,True,True,2"},
+    {"DropShadow": "0,0,128,100,6,6,30,5,1,False,False,False,2"},
+    {"Glow": "255,0,0,100,8,8,3,False,False,True,3"},
+    {"Glow": "255,0,0,100,8,8,2,True,False,True,1"},
+    {"Bevel": "0,0,0,100,255,255,255,100,4,4,45,4,1,True,False,True,False,2"},
+    {"Bevel": "0,0,0,100,0,255,255,100,4,4,45,4,1,False,False,True,False,2"},
+    {"Bevel": "0,0,0,100,255,0,255,100,6,6,200,3,2,False,False,True,True,2"},
+    {"ColorMatrix": "0,1,0,0,0,0.5,0,0.5,0,20,1,0,0,0,0,0,0,0,0.7,0"},
+    {"DropShadow": "0,0,0,100,0,0,45,6,1,False,False,True,1", "Blur": "5,5,1"},
+    {"EditColor": "50,100,100,80,100,0,0,0", "Glow": "0,0,255,100,6,6,2,False,False,True,2"},
+]
+
+
+def filters():
+    return [layer(YELLOW, key(1, 1, 12 + at % 5 * 38, 12 + at // 5 * 45, scale=(0.5, 0.6), filters=switched_on))
+            for at, switched_on in enumerate(FILTERS)] + [background(200, 210, 220)]
+
+
 def write_all():
     write("position", 6, position())
     write("swf4", 4, position())
@@ -84,6 +119,8 @@ def write_all():
     write("growing", 6, layer(BLUE, key(1, 10, 10, 20, tween=True, opacity=100), key(11, 1, 50, 40, scale=(3, 2), opacity=0)))
     write("mask", 6, layer(BLUE, key(1, 1, 100, 20)), layer(RED, key(1, 1, 20, 20)), layer(GREEN, key(1, 1, 30, 30), mask=1))
     write("effects", 8, *effects())
+    write("blends", 8, *blends(), background(240, 230, 250))
+    write("filters", 8, *filters())
     write("effects-swf6", 6, *effects())
 
 
