@@ -13,6 +13,7 @@
 #include "app/fields/ProjectInfo.h"
 #include "app/settings/mdlPrivateProfile.h"
 #include "document/AppVersion.h"
+#include "output/AnimationFile.h"
 #include "output/MovieListing.h"
 #include "platform/ConsoleUserInterface.h"
 #include "platform/RuntimeError.h"
@@ -43,6 +44,8 @@ constexpr const char* Usage =
     "               [--transparent] -o OUT.png\n"
     "                                      pictures; scripts do not run. --frames writes a\n"
     "                                      sequence (OUT_%04d.png), in which sprites go on\n"
+    "Tamber export PROJECT [--loop N] [--frames A-B] [--scale S | --size WxH] [--transparent]\n"
+    "              -o OUT.gif|.png|.webp   an animation of all frames; scripts do not run\n"
     "Tamber --version | --help\n"
     "\n"
     "--home DIR     the program's folder, with its settings and data\n"
@@ -62,6 +65,7 @@ struct Options {
     std::string Symbol;
     std::string Scale;
     std::string Size;
+    std::string Loop;
     bool Transparent = false;
     bool Strict = false;
     bool Html = false;
@@ -82,7 +86,7 @@ struct ValueOption {
 constexpr ValueOption ValueOptions[] = {
     {"-o", &Options::Output},     {"--home", &Options::Home},     {"--assets", &Options::Assets},
     {"--frame", &Options::Frame}, {"--frames", &Options::Frames}, {"--symbol", &Options::Symbol},
-    {"--scale", &Options::Scale}, {"--size", &Options::Size},
+    {"--scale", &Options::Scale}, {"--size", &Options::Size},     {"--loop", &Options::Loop},
 };
 
 const ValueOption* FindValueOption(std::string_view name) {
@@ -228,18 +232,34 @@ std::optional<PictureRequest> ReadPictureRequest(const Options& options, std::st
         request.Scale = ToSingle(FromNarrow(options.Scale));
         if (!(request.Scale > 0 && request.Scale <= 100)) return refuse("--scale needs a number");
     }
+    if (!options.Loop.empty()) {
+        const auto loops = ReadFrames(FromNarrow(options.Loop));
+        if (!loops && options.Loop != "0") return refuse("--loop needs a number");
+        request.Loops = loops ? loops->first : 0;
+    }
     request.blTransparent = options.Transparent;
-    if (options.Output.empty()) return refuse("picture needs -o and a path");
+    if (options.Output.empty()) return refuse("-o and a path are missing");
     request.Output = PathOf(options.Output);
-    if (request.blSequence && !NumberedPath(request.Output, 1))
-        return refuse("--frames needs a path with a place for the number, as in a_%04d.png");
     return request;
+}
+
+int Export(const Options& options) {
+    std::string fault;
+    const auto request = ReadPictureRequest(options, fault);
+    if (!request) return RefuseUsage(fault);
+    if (!MakeAnimationFile(request->Output, {1, 1}))
+        return RefuseUsage("export needs a path that ends in .gif, .png or .webp");
+    frmMain controller;
+    if (!LoadFor(controller, options.Words[1])) return CouldNot;
+    return WriteAnimation(controller, *request) ? Done : CouldNot;
 }
 
 int Picture(const Options& options) {
     std::string fault;
     const auto request = ReadPictureRequest(options, fault);
     if (!request) return RefuseUsage(fault);
+    if (request->blSequence && !NumberedPath(request->Output, 1))
+        return RefuseUsage("--frames needs a path with a place for the number, as in a_%04d.png");
     frmMain controller;
     if (!LoadFor(controller, options.Words[1])) return CouldNot;
     return WritePictures(controller, *request) ? Done : CouldNot;
@@ -297,6 +317,8 @@ int Dispatch(const Options& options, const ConsoleUserInterface& console) {
         return count == 2 ? Info(options) : RefuseUsage("info needs one project");
     if (command == "picture")
         return count == 2 ? Picture(options) : RefuseUsage("picture needs one project");
+    if (command == "export")
+        return count == 2 ? Export(options) : RefuseUsage("export needs one project");
     if (command == "batch")
         return count <= 2 ? Batch(options) : RefuseUsage("batch needs one script at most");
     if (command == "disassemble")

@@ -1,9 +1,11 @@
 #include "app/PictureCommand.h"
 
 #include <algorithm>
-#include <cstdio>
+#include <chrono>
+#include <functional>
 
 #include "canvas/picture/MoviePicture.h"
+#include "output/AnimationFile.h"
 #include "output/PictureFile.h"
 #include "platform/UserInterface.h"
 #include "platform/files.h"
@@ -14,11 +16,15 @@ namespace tamber {
 namespace {
 
 constexpr Long LargestSide = 16384;
+constexpr std::int64_t MostPixels = std::int64_t{1} << 26;
 constexpr Long MostDigits = 9;
+/// A movie that tells none.
+constexpr double SlowestRate = 1.0 / 256;
+/// For one picture.
+constexpr std::chrono::seconds Patience{60};
 
-bool TellScripts(const PictureMovie& movie) {
+void TellScripts(const PictureMovie& movie) {
     if (movie.blScripts) CurrentUserInterface().Status(u"スクリプトの動作は画像に含まれません。");
-    return movie.blScripts;
 }
 
 PictureView ViewOf(const PictureMovie& movie, const PictureRequest& request) {
@@ -30,8 +36,8 @@ PictureView ViewOf(const PictureMovie& movie, const PictureRequest& request) {
     return view;
 }
 
-bool WritePicture(const Raster& picture, const String& path) {
-    if (WriteFileBytes(PngBytes(picture), path)) return true;
+bool WritePicture(const Bytes& file, const String& path) {
+    if (WriteFileBytes(file, path)) return true;
     ShowMessage(path + u"\r\n\r\nファイルに書き込めませんでした。\r\n" + WriteFault(), ProgramTitle,
                 MessageIcon::Error);
     return false;
@@ -40,6 +46,37 @@ bool WritePicture(const Raster& picture, const String& path) {
 bool Refuse(StringView why) {
     ShowMessage(why, ProgramTitle, MessageIcon::Error);
     return false;
+}
+
+std::shared_ptr<const PictureMovie> MovieOf(frmMain& controller, const PictureRequest& request) {
+    auto movie =
+        request.Symbol > 0 ? controller.SymbolToDraw(request.Symbol) : controller.MovieToDraw();
+    if (movie) TellScripts(*movie);
+    return movie;
+}
+
+bool CheckSize(const PictureView& view) {
+    return (view.Width <= LargestSide && view.Height <= LargestSide &&
+            std::int64_t{view.Width} * view.Height <= MostPixels) ||
+           Refuse(u"画像が大きすぎます。");
+}
+
+/// Draws the frames asked for, and hands each over with its number. False once `take` is, or a
+/// frame takes too long.
+bool DrawFrames(const std::shared_ptr<const PictureMovie>& movie, PictureView view,
+                const PictureRequest& request,
+                const std::function<bool(const Raster&, Long)>& take) {
+    MoviePicture pictures(movie);
+    const Long count = request.LastFrame - request.FirstFrame + 1;
+    for (Long frame = request.FirstFrame; frame <= request.LastFrame; ++frame) {
+        CurrentUserInterface().Progress(u"", frame - request.FirstFrame, count);
+        view.Options.Deadline = std::chrono::steady_clock::now() + Patience;
+        const Raster picture = pictures.Draw(frame, view);
+        if (pictures.GivenUp()) return Refuse(u"画像が複雑すぎて描けませんでした。");
+        if (!take(picture, frame)) return false;
+    }
+    CurrentUserInterface().Progress(u"", count, count);
+    return true;
 }
 
 std::optional<Long> ReadNumber(StringView text) {
@@ -94,24 +131,33 @@ std::optional<String> NumberedPath(StringView pattern, Long number) {
 }
 
 bool WritePictures(frmMain& controller, const PictureRequest& request) {
-    const auto movie =
-        request.Symbol > 0 ? controller.SymbolToDraw(request.Symbol) : controller.MovieToDraw();
+    const auto movie = MovieOf(controller, request);
     if (!movie) return false;
-    TellScripts(*movie);
     const PictureView view = ViewOf(*movie, request);
-    if (view.Width > LargestSide || view.Height > LargestSide)
-        return Refuse(u"画像が大きすぎます。一辺は16384ピクセルまでです。");
+    if (!CheckSize(view)) return false;
     if (request.LastFrame > movie->Main.FrameCount() && !request.blSequence)
         return Refuse(u"フレーム数は" + ToText(movie->Main.FrameCount()) + u"です。");
-    MoviePicture pictures(movie);
-    for (Long frame = request.FirstFrame; frame <= request.LastFrame; ++frame) {
+    return DrawFrames(movie, view, request, [&request](const Raster& picture, Long frame) {
         const auto path = request.blSequence ? NumberedPath(request.Output, frame) : request.Output;
-        CurrentUserInterface().Progress(u"", frame - request.FirstFrame,
-                                        request.LastFrame - request.FirstFrame + 1);
-        if (!WritePicture(pictures.Draw(frame, view), *path)) return false;
-    }
-    CurrentUserInterface().Progress(u"", 1, 1);
-    return true;
+        return WritePicture(PngBytes(picture), *path);
+    });
+}
+
+bool WriteAnimation(frmMain& controller, const PictureRequest& request) {
+    const auto movie = MovieOf(controller, request);
+    if (!movie) return false;
+    PictureRequest frames = request;
+    if (!request.blSequence) frames.LastFrame = movie->Main.FrameCount();
+    frames.blSequence = true;
+    const PictureView view = ViewOf(*movie, frames);
+    if (!CheckSize(view)) return false;
+    const AnimationFormat format{view.Width, view.Height, std::max(movie->Rate, SlowestRate),
+                                 request.Loops, request.blTransparent};
+    const auto file = MakeAnimationFile(request.Output, format);
+    const auto add = [&file](const Raster& picture, Long) {
+        return file->Add(picture) || Refuse(u"画像を圧縮できませんでした。");
+    };
+    return DrawFrames(movie, view, frames, add) && WritePicture(file->Finish(), request.Output);
 }
 
 }  // namespace tamber

@@ -1,7 +1,7 @@
 # Sourced by the scripts at the top of the tree: makes sure that the Debian packages they need are there.
 
 build_packages=(build-essential cmake ninja-build pkg-config zlib1g-dev libdeflate-dev libpng-dev libjpeg-dev libgif-dev libfreetype-dev
-  libfontconfig-dev libutf8proc-dev nlohmann-json3-dev libcairo2-dev libwebp-dev)
+  libfontconfig-dev libutf8proc-dev nlohmann-json3-dev libcairo2-dev libxxhash-dev libwebp-dev)
 
 # Stands for the default font of texts, which no free system has.
 run_packages=(fonts-ipafont-gothic)

@@ -132,8 +132,8 @@ MovieListing::MovieListing(ByteView file) {
         return;
     }
     version_ = movie.Version();
-    text_ = std::string(movie.IsPacked() ? "CWS" : "FWS") + " version " +
-            std::to_string(version_) + ", " + std::to_string(movie.Length()) + " bytes\n";
+    text_ = std::string(movie.IsPacked() ? "CWS" : "FWS") + " version " + std::to_string(version_) +
+            ", " + std::to_string(movie.Length()) + " bytes\n";
     if (movie.Body())
         ListMovie(*movie.Body());
     else

@@ -8,7 +8,8 @@ namespace tamber {
 /// A picture, decoded.
 class BitmapCharacter : public Character, public std::enable_shared_from_this<BitmapCharacter> {
 public:
-    explicit BitmapCharacter(Raster pixels) : pixels_(std::move(pixels)), surface_(pixels_) {}
+    explicit BitmapCharacter(Raster pixels)
+        : pixels_(std::move(pixels)), surface_(pixels_, pixels_.IsOpaque()) {}
 
     const Raster& Pixels() const { return pixels_; }
     cairo_surface_t* Surface() const { return surface_.get(); }

@@ -36,6 +36,8 @@ public:
     virtual ~Character() = default;
 
     virtual void Draw(Painter& painter, const PaintState& state) const = 0;
+    /// Sprites within each other, below this one; 0 for what shows no others.
+    virtual Long Nesting() const { return 0; }
     /// What drawing touches, pixels; `state` as for `Draw`.
     virtual PaintBox Bounds(const PaintState& state) const = 0;
 };

@@ -45,11 +45,7 @@ PictureView ViewOfSize(const SwfRect& stage, Long width, Long height) {
     return view;
 }
 
-Raster MoviePicture::Draw(Long frame, const PictureView& view) {
-    Raster picture(view.Width, view.Height);
-    if (picture.IsEmpty()) return picture;
-    if (!view.blTransparent)
-        std::fill(picture.Pixels().begin(), picture.Pixels().end(), PixelOf(movie_->Background));
+PaintState StateOfStage(const PictureMovie& movie, Long frame, const PictureView& view) {
     const double scale = view.Options.Scale / TwipsPerPixel;
     PaintState state;
     state.Options = &view.Options;
@@ -57,11 +53,31 @@ Raster MoviePicture::Draw(Long frame, const PictureView& view) {
                     0,
                     0,
                     scale,
-                    view.Left - movie_->Stage.xMin * scale,
-                    view.Top - movie_->Stage.yMin * scale};
+                    view.Left - movie.Stage.xMin * scale,
+                    view.Top - movie.Stage.yMin * scale};
     state.Frame = std::max(frame, 1) - 1;
-    Painter painter(picture, {0, 0, double(view.Width), double(view.Height)}, cache_);
-    painter.Draw(movie_->Main, state);
+    return state;
+}
+
+void ClearStage(const PictureMovie& movie, const PictureView& view, const PaintBox& box,
+                Raster& picture) {
+    const std::uint32_t ground = view.blTransparent ? 0 : PixelOf(movie.Background);
+    for (auto y = static_cast<Long>(box.Top); y < static_cast<Long>(box.Bottom); ++y)
+        std::fill(picture.Row(y) + static_cast<Long>(box.Left),
+                  picture.Row(y) + static_cast<Long>(box.Right), ground);
+}
+
+Raster MoviePicture::Draw(Long frame, const PictureView& view) {
+    Raster picture(view.Width, view.Height);
+    blGivenUp_ = false;
+    if (picture.IsEmpty()) return picture;
+    const PaintBox whole{0, 0, double(view.Width), double(view.Height)};
+    ClearStage(*movie_, view, whole, picture);
+    try {
+        Painter(picture, whole, cache_).Draw(movie_->Main, StateOfStage(*movie_, frame, view));
+    } catch (const PictureGivenUp&) {
+        blGivenUp_ = true;
+    }
     return picture;
 }
 

@@ -23,6 +23,12 @@ PictureView ViewOfStage(const SwfRect& stage, double scale);
 /// A picture of that many pixels, with the stage in its middle as large as it fits.
 PictureView ViewOfSize(const SwfRect& stage, Long width, Long height);
 
+/// The state in which a movie's own timeline is drawn; `frame` from 1.
+PaintState StateOfStage(const PictureMovie& movie, Long frame, const PictureView& view);
+/// Fills a box of whole pixels with the colour behind the movie, or with nothing.
+void ClearStage(const PictureMovie& movie, const PictureView& view, const PaintBox& box,
+                Raster& picture);
+
 /// Pictures of a movie's frames.
 class MoviePicture {
 public:
@@ -31,8 +37,11 @@ public:
     const PictureMovie& Movie() const { return *movie_; }
     /// `frame` from 1; behind the last one the timeline begins anew, and sprites go on.
     Raster Draw(Long frame, const PictureView& view);
+    /// The last picture came to its deadline and is not complete.
+    bool GivenUp() const { return blGivenUp_; }
 
 private:
+    bool blGivenUp_ = false;
     std::shared_ptr<const PictureMovie> movie_;
     PaintCache cache_;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <map>
 
 #include "canvas/picture/Character.h"
@@ -13,9 +14,16 @@ struct PaintOptions {
     double Scale = 1;
     /// Sprites go on with the timeline; else they stand on their first frame.
     bool blAnimate = false;
+    /// Lines are drawn with coarser edges, in half of the time.
+    bool blQuick = false;
     /// Texts of fields by the names of their variables.
     std::map<String, String> Texts{};
+    /// When a picture that is still not done is given up.
+    std::chrono::steady_clock::time_point Deadline = std::chrono::steady_clock::time_point::max();
 };
+
+/// Thrown out of the drawing of a picture that takes too long.
+struct PictureGivenUp {};
 
 /// Where and how a character is drawn.
 struct PaintState {
@@ -24,6 +32,9 @@ struct PaintState {
     SwfColorTransform Colors{};
     /// Frames since the character came.
     Long Frame = 0;
+    /// How much the placement itself stretches the character.
+    double OwnScaleX = 1;
+    double OwnScaleY = 1;
     /// Of a morph shape.
     Long Ratio = 0;
     /// Only what is covered counts; all is painted opaque.

@@ -75,6 +75,12 @@ double Stretch(double x, double y) {
     return std::hypot(x, y);
 }
 
+/// How far a curve may lie from the lines that stand for it, pixels.
+constexpr double Tolerance = 0.2;
+
+/// Pixels that filters work on; more are drawn smaller.
+constexpr double MostFilteredPixels = 1 << 22;
+
 /// Modes that blend the opacity of the layer around them; where there is none nothing is seen.
 bool NeedsLayer(BlendMode mode) {
     return mode == BlendMode::Alpha || mode == BlendMode::Erase;
@@ -93,20 +99,24 @@ Painter::Painter(Raster& target, PaintBox clip, PaintCache& cache, Ground ground
     cairo_rectangle(context_, clip_.Left, clip_.Top, clip_.Right - clip_.Left,
                     clip_.Bottom - clip_.Top);
     cairo_clip(context_);
+    cairo_set_tolerance(context_, Tolerance);
 }
 
 Painter::~Painter() {
     cairo_destroy(context_);
 }
 
-Painter::Clipping::Clipping(Painter& painter, const PicturePath& path, const PaintState& state)
+Painter::Clipping::Clipping(Painter& painter, const PicturePath& path, const PaintState& state,
+                            bool hard)
     : context_(painter.context_) {
     cairo_save(context_);
     if (!CanDraw(state.Matrix)) return;
     cairo_set_matrix(context_, &state.Matrix);
     cairo_new_path(context_);
     path.AppendTo(context_);
+    if (hard) cairo_set_antialias(context_, CAIRO_ANTIALIAS_NONE);
     cairo_clip(context_);
+    cairo_set_antialias(context_, CAIRO_ANTIALIAS_DEFAULT);
 }
 
 Painter::Clipping::~Clipping() {
@@ -174,29 +184,66 @@ void Painter::DrawGroup(const Placement& placement, const PaintState& state) {
     cairo_surface_mark_dirty(surface_.get());
 }
 
+/// The pixels around a placement that its filters need for what is seen of it.
+PaintBox Painter::FilterSource(const Placement& placement, const PaintState& state) const {
+    const FilterMargin margin = MarginOf(placement.Filters, state.Options->Scale);
+    PaintBox needed = clip_;
+    needed.Grow(std::max({margin.Left, margin.Top, margin.Right, margin.Bottom}));
+    return placement.Shown->Bounds(state).Outwards().Cut(needed.Outwards());
+}
+
+FilteredRaster Painter::DrawApart(const Placement& placement, const PaintState& state,
+                                  const PaintBox& box) const {
+    FilteredRaster drawn{RasterOf(box), static_cast<Long>(box.Left), static_cast<Long>(box.Top)};
+    if (drawn.Pixels.IsEmpty()) return drawn;
+    Painter inner(drawn.Pixels, WholeOf(drawn.Pixels), cache_, Ground::Layer);
+    placement.Shown->Draw(inner, MovedBy(state, -box.Left, -box.Top));
+    return drawn;
+}
+
 /// Filters work on the colours as they are, those of the placement change behind them.
 FilteredRaster Painter::Filtered(const Placement& placement, const PaintState& state) const {
+    if (placement.Filters.empty())
+        return DrawApart(placement, state, FilterSource(placement, state));
     PaintState plain = state;
-    if (!placement.Filters.empty()) plain.Colors = {};
-    const PaintBox whole = placement.Shown->Bounds(plain).Outwards();
-    PaintBox needed = clip_;
-    const FilterMargin margin = MarginOf(placement.Filters, state.Options->Scale);
-    needed.Grow(std::max({margin.Left, margin.Top, margin.Right, margin.Bottom}));
-    const PaintBox box = whole.Cut(needed.Outwards());
-    FilteredRaster drawn;
-    if (box.IsEmpty()) return drawn;
-    drawn.Pixels = RasterOf(box);
-    if (drawn.Pixels.IsEmpty()) return drawn;
-    {
-        Painter inner(drawn.Pixels, WholeOf(drawn.Pixels), cache_, Ground::Layer);
-        placement.Shown->Draw(inner, MovedBy(plain, -box.Left, -box.Top));
-    }
-    if (!placement.Filters.empty()) {
-        drawn = ApplyFilters(drawn.Pixels, placement.Filters, state.Options->Scale);
-        ApplyColors(drawn.Pixels, state.Colors);
-    }
-    drawn.Left += static_cast<Long>(box.Left);
-    drawn.Top += static_cast<Long>(box.Top);
+    plain.Colors = {};
+    const PaintBox box = FilterSource(placement, plain);
+    if (box.IsEmpty()) return {};
+    const double area = (box.Right - box.Left) * (box.Bottom - box.Top);
+    if (area > MostFilteredPixels)
+        return FilteredSmall(placement, state, std::sqrt(MostFilteredPixels / area));
+    FilteredRaster drawn = DrawApart(placement, plain, box);
+    FilteredRaster made = ApplyFilters(drawn.Pixels, placement.Filters, state.Options->Scale);
+    made.Left += drawn.Left;
+    made.Top += drawn.Top;
+    ApplyColors(made.Pixels, state.Colors);
+    return made;
+}
+
+/// As `Filtered`, but drawn smaller and stretched: what is blurred so far has no fine parts.
+FilteredRaster Painter::FilteredSmall(const Placement& placement, const PaintState& state,
+                                      double factor) const {
+    PaintOptions options = *state.Options;
+    options.Scale *= factor;
+    PaintState small = state;
+    small.Options = &options;
+    const cairo_matrix_t shrink{factor, 0, 0, factor, 0, 0};
+    cairo_matrix_multiply(&small.Matrix, &state.Matrix, &shrink);
+    const PaintBox seen = clip_.Under(shrink).Outwards();
+    Raster room = RasterOf({0, 0, seen.Right, seen.Bottom});
+    const FilteredRaster made =
+        Painter(room, seen, cache_, Ground::Layer).Filtered(placement, small);
+    FilteredRaster drawn{RasterOf(clip_), static_cast<Long>(clip_.Left),
+                         static_cast<Long>(clip_.Top)};
+    if (made.Pixels.IsEmpty()) return drawn;
+    const RasterSurface from(made.Pixels);
+    const RasterSurface to(drawn.Pixels);
+    cairo_t* context = cairo_create(to.get());
+    cairo_translate(context, -clip_.Left, -clip_.Top);
+    cairo_scale(context, 1 / factor, 1 / factor);
+    cairo_set_source_surface(context, from.get(), made.Left, made.Top);
+    cairo_paint(context);
+    cairo_destroy(context);
     return drawn;
 }
 
@@ -230,7 +277,9 @@ void Painter::Stroke(const PicturePath& path, const PictureLine& line, const Pai
     cairo_set_line_cap(context_, line.Cap);
     cairo_set_line_join(context_, line.Join);
     cairo_set_miter_limit(context_, line.MiterLimit);
+    if (state.Options->blQuick) cairo_set_antialias(context_, CAIRO_ANTIALIAS_FAST);
     cairo_stroke(context_);
+    cairo_set_antialias(context_, CAIRO_ANTIALIAS_DEFAULT);
 }
 
 void Painter::DrawBox(const PaintBox& box, const PaintState& state) {

@@ -23,10 +23,12 @@ public:
     Painter(const Painter&) = delete;
     Painter& operator=(const Painter&) = delete;
 
-    /// Within its life only what lies within an outline is drawn.
+    /// Within its life only what lies within an outline is drawn; with `hard` each pixel wholly or
+    /// not at all, so that neighbouring outlines leave no seam.
     class Clipping {
     public:
-        Clipping(Painter& painter, const PicturePath& path, const PaintState& state);
+        Clipping(Painter& painter, const PicturePath& path, const PaintState& state,
+                 bool hard = false);
         ~Clipping();
         Clipping(const Clipping&) = delete;
         Clipping& operator=(const Clipping&) = delete;
@@ -53,7 +55,12 @@ private:
     void DrawPlacement(const Placement& placement, const PaintState& state);
     /// Draws a placement apart and then, with its filters, into the picture.
     void DrawGroup(const Placement& placement, const PaintState& state);
+    PaintBox FilterSource(const Placement& placement, const PaintState& state) const;
+    FilteredRaster DrawApart(const Placement& placement, const PaintState& state,
+                             const PaintBox& box) const;
     FilteredRaster Filtered(const Placement& placement, const PaintState& state) const;
+    FilteredRaster FilteredSmall(const Placement& placement, const PaintState& state,
+                                 double factor) const;
     void SetColor(PictureColor color);
     bool SetSource(const PictureFill& fill, const PaintState& state);
     bool SetBitmapSource(const PictureFill& fill, const PaintState& state);

@@ -1,6 +1,7 @@
 #include "canvas/picture/PictureMovie.h"
 
 #include <unordered_map>
+#include <utility>
 
 #include "canvas/picture/BitmapReader.h"
 #include "canvas/picture/ButtonReader.h"
@@ -17,10 +18,12 @@ namespace tamber {
 namespace {
 
 constexpr double RateUnit = 256;
+/// Sprites within each other; far more than any real movie has.
+constexpr Long DeepestNesting = 100;
 
 class PictureMovieReader {
 public:
-    explicit PictureMovieReader(Long version) : version_(version) {}
+    PictureMovieReader(Long version, CharacterCache& cache) : version_(version), cache_(cache) {}
 
     std::shared_ptr<const PictureMovie> Read(SwfBits tags) {
         movie_->Stage = tags.GetRect();
@@ -32,10 +35,16 @@ public:
 
 private:
     template <class T>
-    std::shared_ptr<const T> Find(Long id) const {
+    std::shared_ptr<T> Find(Long id) const {
         const auto found = characters_.find(id);
-        return found == characters_.end() ? nullptr
-                                          : std::dynamic_pointer_cast<const T>(found->second);
+        const auto character = found == characters_.end() ? nullptr : found->second;
+        references_.emplace_back(id, character);
+        return std::dynamic_pointer_cast<T>(character);
+    }
+
+    std::shared_ptr<const Character> FindPlaceable(Long id) const {
+        const auto found = Find<Character>(id);
+        return found && found->Nesting() < DeepestNesting ? found : nullptr;
     }
 
     void ReadTags(SwfBits tags, Timeline& timeline) {
@@ -67,7 +76,7 @@ private:
                 default:
                     break;
             }
-            const auto find = [this](Long id) { return Find<Character>(id); };
+            const auto find = [this](Long id) { return FindPlaceable(id); };
             if (auto step = ReadTimelineStep(tag, version_, find))
                 timeline.Add(std::move(*step));
             else
@@ -83,16 +92,46 @@ private:
         movie_->Background.B = static_cast<Byte>(bits.GetUI(1));
     }
 
+    static std::shared_ptr<SpriteCharacter> WithGrid(const SpriteCharacter& sprite, SwfBits bits) {
+        const SwfRect rect = bits.GetRect();
+        auto scaled = std::make_shared<SpriteCharacter>(sprite);
+        scaled->ScalingGrid(
+            {double(rect.xMin), double(rect.yMin), double(rect.xMax), double(rect.yMax)});
+        return scaled;
+    }
+
     void Define(const MovieTag& tag) {
         if (tag.Body.size() < 2) return;
         SwfBits bits(tag.Body);
         const auto id = static_cast<Long>(bits.GetUI(2));
+        if (tag.Code == TagCode::DefineScalingGrid) {
+            if (const auto sprite = Find<SpriteCharacter>(id))
+                characters_[id] = WithGrid(*sprite, bits);
+            return;
+        }
         // The first definition of an identifier counts.
         if (characters_.contains(id)) return;
-        if (auto character = ReadCharacter(tag.Code, bits)) characters_[id] = std::move(character);
+        if (auto character = KnownOrRead(tag.Code, bits)) characters_[id] = std::move(character);
     }
 
-    std::shared_ptr<const Character> ReadCharacter(Long code, const SwfBits& bits) {
+    std::shared_ptr<Character> KnownOrRead(Long code, const SwfBits& bits) {
+        // Its bytes are not all that makes it.
+        if (code == TagCode::DefineBits) return ReadCharacter(code, bits);
+        const CharacterCache::Key key = CharacterCache::KeyOf(code, bits.Rest());
+        const auto find = [this](Long id) -> std::shared_ptr<const Character> {
+            const auto found = characters_.find(id);
+            return found == characters_.end() ? nullptr : found->second;
+        };
+        if (auto known = cache_.Known(key, find)) return known;
+        std::vector<CharacterCache::Reference> outer = std::exchange(references_, {});
+        auto character = ReadCharacter(code, bits);
+        std::vector<CharacterCache::Reference> own = std::exchange(references_, std::move(outer));
+        references_.insert(references_.end(), own.begin(), own.end());
+        if (character) cache_.Keep(key, std::move(own), character);
+        return character;
+    }
+
+    std::shared_ptr<Character> ReadCharacter(Long code, const SwfBits& bits) {
         const auto findFont = [this](Long id) { return Find<FontCharacter>(id); };
         const auto findBitmap = [this](Long id) { return Find<BitmapCharacter>(id); };
         switch (code) {
@@ -132,7 +171,7 @@ private:
         }
     }
 
-    std::shared_ptr<const Character> ReadSprite(SwfBits bits) {
+    std::shared_ptr<Character> ReadSprite(SwfBits bits) {
         bits.GetUI(2);
         Timeline timeline;
         ReadTags(bits, timeline);
@@ -141,17 +180,27 @@ private:
 
     Long version_;
     std::shared_ptr<PictureMovie> movie_ = std::make_shared<PictureMovie>();
-    std::unordered_map<Long, std::shared_ptr<const Character>> characters_;
+    std::unordered_map<Long, std::shared_ptr<Character>> characters_;
     ByteView jpegTables_;
+    CharacterCache& cache_;
+    /// What the definition that is read asked for.
+    mutable std::vector<CharacterCache::Reference> references_;
 };
 
 }  // namespace
 
 std::shared_ptr<const PictureMovie> ReadPictureMovie(ByteView file) {
+    CharacterCache cache;
+    return ReadPictureMovie(file, cache);
+}
+
+std::shared_ptr<const PictureMovie> ReadPictureMovie(ByteView file, CharacterCache& cache) {
     const MovieFile movie(file);
     if (!movie.Body()) return nullptr;
     try {
-        return PictureMovieReader(movie.Version()).Read(SwfBits(*movie.Body()));
+        auto read = PictureMovieReader(movie.Version(), cache).Read(SwfBits(*movie.Body()));
+        cache.Sweep();
+        return read;
     } catch (const RuntimeError&) {
         return nullptr;
     }

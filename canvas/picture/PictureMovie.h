@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "canvas/picture/CharacterCache.h"
 #include "canvas/picture/PictureFill.h"
 #include "canvas/picture/Timeline.h"
 #include "swf/SwfTypes.h"
@@ -23,5 +24,7 @@ struct PictureMovie {
 /// Reads a movie. What is damaged in it is left out, and what comes behind a tag that is longer
 /// than the file. Nothing for a file that is no movie.
 std::shared_ptr<const PictureMovie> ReadPictureMovie(ByteView file);
+/// As above; what the cache knows from the movie before is not read again.
+std::shared_ptr<const PictureMovie> ReadPictureMovie(ByteView file, CharacterCache& cache);
 
 }  // namespace tamber

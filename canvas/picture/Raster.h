@@ -28,6 +28,8 @@ public:
     }
     std::vector<std::uint32_t>& Pixels() { return pixels_; }
     const std::vector<std::uint32_t>& Pixels() const { return pixels_; }
+    /// All pixels are.
+    bool IsOpaque() const;
 
 private:
     Long width_ = 0;
@@ -39,7 +41,9 @@ private:
 /// in the pixels once the surface is gone or flushed.
 class RasterSurface {
 public:
-    explicit RasterSurface(const Raster& raster);
+    explicit RasterSurface(const Raster& raster) : RasterSurface(raster, false) {}
+    /// `opaque`: all pixels are, which is drawn faster.
+    RasterSurface(const Raster& raster, bool opaque);
 
     _cairo_surface* get() const { return surface_.get(); }
 

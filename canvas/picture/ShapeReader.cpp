@@ -177,6 +177,7 @@ void ShapeReader::ReadRecords(std::vector<ShapeLayer>& layers) {
     for (;;) {
         const bool isEdge = Bits(1) != 0;
         const Long flags = Bits(5);
+        if (isEdge && --budget_ < 0) throw RuntimeError(ErrorOutOfRange, u"ShapeReader", u"");
         if (isEdge)
             layers.back().Steps.push_back(ReadEdge(flags));
         else if (flags == 0)

@@ -49,6 +49,8 @@ private:
     FindBitmap findBitmap_;
     Long fillBits_ = 0;
     Long lineBits_ = 0;
+    /// Edges that may still come; drawings have some ten thousand.
+    Long budget_ = 1 << 18;
     /// Where the pen stands, and between what it draws.
     SwfPoint pen_;
     OutlineStep styles_;

@@ -18,6 +18,13 @@ void Change(Placement& placement, const TimelineStep& step) {
 
 }  // namespace
 
+Long Timeline::Nesting() const {
+    Long nesting = 0;
+    for (const TimelineStep& step : steps_)
+        if (step.Shown) nesting = std::max(nesting, step.Shown->Nesting());
+    return nesting;
+}
+
 void Timeline::Do(const TimelineStep& step) const {
     using Kind = TimelineStep::Kind;
     const auto found = stage_.find(step.Depth);

@@ -39,6 +39,8 @@ public:
     void Add(TimelineStep step) { steps_.push_back(std::move(step)); }
     void EndFrame() { ends_.push_back(steps_.size()); }
 
+    /// Of what is placed most deeply.
+    Long Nesting() const;
     /// At least 1.
     Long FrameCount() const { return ends_.empty() ? 1 : static_cast<Long>(ends_.size()); }
     /// What stands on a frame, from 0; beyond the last one that is shown.

@@ -1,5 +1,7 @@
 #include "canvas/picture/TimelineDrawing.h"
 
+#include <cmath>
+
 namespace tamber {
 
 namespace {
@@ -26,7 +28,10 @@ SwfColorTransform Concat(const SwfColorTransform& outer, const SwfColorTransform
 }
 
 PaintState StateOf(const Placement& placement, const Timeline& timeline, const PaintState& parent) {
+    if (std::chrono::steady_clock::now() > parent.Options->Deadline) throw PictureGivenUp();
     PaintState state = parent;
+    state.OwnScaleX = std::hypot(placement.Matrix.xx, placement.Matrix.yx);
+    state.OwnScaleY = std::hypot(placement.Matrix.xy, placement.Matrix.yy);
     cairo_matrix_multiply(&state.Matrix, &placement.Matrix, &parent.Matrix);
     state.Colors = Concat(parent.Colors, placement.Colors);
     state.Ratio = placement.Ratio;

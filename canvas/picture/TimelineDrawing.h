@@ -7,7 +7,8 @@
 
 namespace tamber {
 
-/// The state in which a placement is drawn on a timeline that is drawn in `parent`.
+/// The state in which a placement is drawn on a timeline that is drawn in `parent`. Throws
+/// `PictureGivenUp` behind the deadline.
 PaintState StateOf(const Placement& placement, const Timeline& timeline, const PaintState& parent);
 
 /// What a placement touches with its filters, pixels; `state` is its own.
