@@ -30,9 +30,10 @@ std::shared_ptr<const PictureMovie> PictureOperations::SymbolMovie(Long id) cons
     const auto found = std::find_if(library.begin(), library.end(),
                                     [id](const auto& symbol) { return symbol->ID == id; });
     const Long version = session_.inProject.SWFVersion;
-    auto movie = found == library.end()
-                     ? nullptr
-                     : tamber::SymbolMovie(*found, version, RefreshFontAdmin(library, version));
+    std::shared_ptr<const PictureMovie> movie;
+    if (found != library.end())
+        movie =
+            ReadSymbolMovie(SymbolMovieFile(*found, version, RefreshFontAdmin(library, version)));
     if (!movie) ShowMessage(u"シンボルが見つかりません。\r\n\r\nID：" + ToText(id));
     return movie;
 }

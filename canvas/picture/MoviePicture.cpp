@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "canvas/picture/Painter.h"
+#include "canvas/picture/TimelineDrawing.h"
 #include "platform/twips.h"
 
 namespace tamber {
@@ -65,6 +66,18 @@ void ClearStage(const PictureMovie& movie, const PictureView& view, const PaintB
     for (auto y = static_cast<Long>(box.Top); y < static_cast<Long>(box.Bottom); ++y)
         std::fill(picture.Row(y) + static_cast<Long>(box.Left),
                   picture.Row(y) + static_cast<Long>(box.Right), ground);
+}
+
+PaintBox ContentOf(const PictureMovie& movie) {
+    const PaintOptions options{.Scale = TwipsPerPixel};
+    PaintState state;
+    state.Options = &options;
+    PaintBox box;
+    for (const auto& placement : ShownOf(movie.Main, state))
+        box.Add(BoundsOf(*placement, StateOf(*placement, movie.Main, state)));
+    // Beyond what any picture could show.
+    constexpr double Far = 1 << 24;
+    return box.IsEmpty() ? box : box.Cut({-Far, -Far, Far, Far});
 }
 
 Raster MoviePicture::Draw(Long frame, const PictureView& view) {

@@ -29,6 +29,9 @@ PaintState StateOfStage(const PictureMovie& movie, Long frame, const PictureView
 void ClearStage(const PictureMovie& movie, const PictureView& view, const PaintBox& box,
                 Raster& picture);
 
+/// What the first frame of a movie covers, twips; empty where nothing is seen.
+PaintBox ContentOf(const PictureMovie& movie);
+
 /// Pictures of a movie's frames.
 class MoviePicture {
 public:

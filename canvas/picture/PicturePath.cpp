@@ -1,5 +1,7 @@
 #include "canvas/picture/PicturePath.h"
 
+#include <algorithm>
+
 namespace tamber {
 
 PicturePath PicturePath::OfBox(double left, double top, double right, double bottom) {
@@ -49,6 +51,23 @@ void PicturePath::CurveTo(double controlX, double controlY, double x, double y) 
 
 void PicturePath::Close() {
     Put(CAIRO_PATH_CLOSE_PATH, 1);
+}
+
+bool PicturePath::Reach(double& left, double& top, double& right, double& bottom) const {
+    bool any = false;
+    for (std::size_t i = 0; i < data_.size();) {
+        const auto length = static_cast<std::size_t>(data_[i].header.length);
+        for (std::size_t k = 1; k < length; ++k) {
+            const auto [x, y] = data_[i + k].point;
+            left = any ? std::min(left, x) : x;
+            right = any ? std::max(right, x) : x;
+            top = any ? std::min(top, y) : y;
+            bottom = any ? std::max(bottom, y) : y;
+            any = true;
+        }
+        i += length;
+    }
+    return any;
 }
 
 void PicturePath::AppendTo(cairo_t* context) const {

@@ -18,6 +18,8 @@ public:
     /// A quadratic curve from where the pen stands.
     void CurveTo(double controlX, double controlY, double x, double y);
     void Close();
+    /// The box around all points, those that curves only bend towards as well; false for none.
+    bool Reach(double& left, double& top, double& right, double& bottom) const;
     /// Appends the outline to the current path of a context, under its matrix.
     void AppendTo(cairo_t* context) const;
 

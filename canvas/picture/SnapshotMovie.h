@@ -13,9 +13,12 @@ std::shared_ptr<const PictureMovie> SnapshotMovie(clsSWFAdmin& admin,
                                                   const SnapshotRequest& snapshot, Long backColor,
                                                   PlacedTags& placed);
 
-/// A movie of a symbol alone, of a version and with the fonts of its library. Null for a kind that
-/// cannot be placed.
-std::shared_ptr<const PictureMovie> SymbolMovie(const std::shared_ptr<clsSymbolData>& symbol,
-                                                Long version, std::shared_ptr<clsFontAdmin> fonts);
+/// The file of a movie of a symbol alone, of a version and with the fonts of its library. Empty for
+/// a kind that cannot be placed.
+Bytes SymbolMovieFile(const std::shared_ptr<clsSymbolData>& symbol, Long version,
+                      std::shared_ptr<clsFontAdmin> fonts);
+
+/// Reads such a file; the stage is what the symbol covers. Null where nothing is to be seen.
+std::shared_ptr<const PictureMovie> ReadSymbolMovie(ByteView file);
 
 }  // namespace tamber

@@ -18,19 +18,25 @@ void TextCharacter::Draw(Painter& painter, const PaintState& state) const {
     }
 }
 
-/// The box of the tag is that of the text as it was set, beyond which outlines may reach a little.
+PaintBox TextCharacter::BoxOfGlyphs() const {
+    PaintBox box;
+    for (const PlacedGlyph& glyph : glyphs_) {
+        const double scale = glyph.Size / glyph.Font->Unit();
+        PaintBox reach;
+        if (!glyph.Font->Outline(glyph.Number)
+                 .Reach(reach.Left, reach.Top, reach.Right, reach.Bottom))
+            continue;
+        box.Add(reach.Under({scale, 0, 0, scale, glyph.X, glyph.Y}));
+    }
+    return box;
+}
+
 PaintBox TextCharacter::Bounds(const PaintState& state) const {
-    PaintBox box = bounds_;
+    if (!box_) box_ = BoxOfGlyphs();
     cairo_matrix_t text;
     cairo_matrix_multiply(&text, &matrix_, &state.Matrix);
-    double largest = 0;
-    for (const PlacedGlyph& glyph : glyphs_) largest = std::max(largest, glyph.Size);
-    box.Grow(largest / 2);
-    PaintBox drawn = box.Under(state.Matrix);
-    for (const PlacedGlyph& glyph : glyphs_)
-        drawn.Add(
-            PaintBox{glyph.X, glyph.Y - glyph.Size, glyph.X + glyph.Size, glyph.Y + glyph.Size}
-                .Under(text));
+    PaintBox drawn = box_->Under(text);
+    drawn.Grow(1);
     return drawn;
 }
 

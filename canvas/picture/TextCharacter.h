@@ -20,16 +20,19 @@ public:
         double Size = 0;
     };
 
-    TextCharacter(PaintBox bounds, cairo_matrix_t matrix, std::vector<PlacedGlyph> glyphs)
-        : bounds_(bounds), matrix_(matrix), glyphs_(std::move(glyphs)) {}
+    TextCharacter(cairo_matrix_t matrix, std::vector<PlacedGlyph> glyphs)
+        : matrix_(matrix), glyphs_(std::move(glyphs)) {}
 
     void Draw(Painter& painter, const PaintState& state) const override;
     PaintBox Bounds(const PaintState& state) const override;
 
 private:
-    PaintBox bounds_;
+    PaintBox BoxOfGlyphs() const;
+
     cairo_matrix_t matrix_;
     std::vector<PlacedGlyph> glyphs_;
+    /// Around the glyphs, once it was asked for.
+    mutable std::optional<PaintBox> box_;
 };
 
 }  // namespace tamber

@@ -45,7 +45,7 @@ double ReadSigned(SwfBits& bits) {
 }  // namespace
 
 std::shared_ptr<TextCharacter> ReadText(SwfBits bits, bool hasAlpha, const FindFont& find) {
-    const PaintBox bounds = ToBox(bits.GetRect());
+    bits.GetRect();
     const cairo_matrix_t matrix = ToCairo(bits.GetMatrix());
     const auto glyphBits = static_cast<Long>(bits.GetUI(1));
     const auto advanceBits = static_cast<Long>(bits.GetUI(1));
@@ -64,7 +64,7 @@ std::shared_ptr<TextCharacter> ReadText(SwfBits bits, bool hasAlpha, const FindF
             pen.X += advance;
         }
     }
-    return std::make_shared<TextCharacter>(bounds, matrix, std::move(glyphs));
+    return std::make_shared<TextCharacter>(matrix, std::move(glyphs));
 }
 
 std::shared_ptr<EditTextCharacter> ReadEditText(SwfBits bits, Long version, const FindFont& find) {
