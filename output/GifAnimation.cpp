@@ -51,12 +51,36 @@ struct IndexedPicture {
                               planes[1].data(), planes[2].data(), Indexes.data(),
                               Map->Colors) != GIF_OK)
             return false;
+        Refine(picture);
         if (!transparent) return true;
         Transparent = Colors - 1;
         for (std::size_t i = 0; i < count; ++i)
             if (picture.Pixels()[i] >> 24 < HalfOpaque)
                 Indexes[i] = static_cast<GifByteType>(Transparent);
         return true;
+    }
+
+    /// The library works on five bits of a colour; each entry becomes the mean of what it stands
+    /// for.
+    void Refine(const Raster& picture) const {
+        struct Sum {
+            std::uint64_t Parts[3] = {};
+            std::uint64_t Count = 0;
+        };
+        std::vector<Sum> sums(Colors);
+        for (std::size_t i = 0; i < Indexes.size(); ++i) {
+            Sum& sum = sums[Indexes[i]];
+            ++sum.Count;
+            for (int channel = 0; channel < 3; ++channel)
+                sum.Parts[channel] += Plain(picture.Pixels()[i], 16 - 8 * channel);
+        }
+        for (std::size_t i = 0; i < sums.size(); ++i) {
+            const Sum& sum = sums[i];
+            const auto mean = [&sum](int channel) {
+                return static_cast<GifByteType>((sum.Parts[channel] + sum.Count / 2) / sum.Count);
+            };
+            if (sum.Count > 0) Map->Colors[i] = {mean(0), mean(1), mean(2)};
+        }
     }
 
     static std::uint32_t Plain(std::uint32_t pixel, int shift) {

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 #include <nlohmann/json.hpp>
+#include <regex>
 #include <sstream>
 
 namespace {
@@ -197,6 +198,28 @@ TEST_F(CommandLineTest, disassemble_lists_a_movie_and_refuses_what_is_none) {
     EXPECT_EQ(refused.Code, 1);
     EXPECT_NE(refused.Errors.find("SWFファイルではありません。"), std::string::npos);
     EXPECT_EQ(Tamber("disassemble").Code, 2);
+}
+
+TEST_F(CommandLineTest, draws_pictures_and_animations) {
+    EXPECT_EQ(Tamber("picture " + hello + " --size 64x48 -o a.png").Code, 0);
+    EXPECT_EQ(Tamber("picture " + hello + " --frames 9-11 --scale 0.5 -o f_%03d.png").Code, 0);
+    EXPECT_EQ(Tamber("picture " + hello + " --symbol 2 --transparent -o s.png").Code, 0);
+    EXPECT_EQ(Tamber("export " + hello + " --frames 1-3 -o a.gif").Code, 0);
+    const auto sizeOf = [this](const char* name) { return TextOf(folder / name).substr(16, 8); };
+    EXPECT_EQ(sizeOf("a.png"), std::string("\0\0\0\x40\0\0\0\x30", 8));
+    EXPECT_EQ(sizeOf("f_009.png"), std::string("\0\0\0\xA0\0\0\0\x78", 8));
+    EXPECT_TRUE(fs::exists(folder / "f_011.png"));
+    EXPECT_EQ(TextOf(folder / "a.gif").substr(0, 6), "GIF89a");
+    for (const char* wrong :
+         {"picture HELLO", "picture HELLO --frames 1-2 -o a.png",
+          "picture HELLO --frame 0 -o b.png", "picture HELLO --size 0x9 -o b.png",
+          "picture HELLO --scale -1 -o b.png", "picture HELLO --symbol x -o b.png",
+          "export HELLO -o b.bmp", "export -o b.gif"})
+        EXPECT_EQ(Tamber(std::regex_replace(wrong, std::regex("HELLO"), hello)).Code, 2) << wrong;
+    EXPECT_EQ(Tamber("picture " + hello + " --frame 98 -o b.png").Code, 1);
+    EXPECT_EQ(Tamber("picture " + hello + " --symbol 99 -o b.png").Code, 1);
+    EXPECT_EQ(Tamber("picture " + hello + " --scale 100 -o b.png").Code, 1);
+    EXPECT_FALSE(fs::exists(folder / "b.png"));
 }
 
 TEST_F(CommandLineTest, info_names_references_filters_and_values) {

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "canvas/timeline/LayerClipboard.h"
-#include "canvas/timeline/SymbolRows.h"
 #include "canvas/timeline/RowRange.h"
+#include "canvas/timeline/SymbolRows.h"
 #include "document/Project.h"
 #include "document/records/clsPropertySymbolFolder.h"
 #include "tests/support/TimelineText.h"
