@@ -106,6 +106,8 @@ const Raster& FramePicture::Show(const std::shared_ptr<const PictureMovie>& movi
         MoveBy(static_cast<Long>(view.Left - view_.Left), static_cast<Long>(view.Top - view_.Top));
     } else {
         picture_ = Raster(view.Width, view.Height);
+        // What filters made of a field may hold its former text.
+        if (view.Options.Texts != view_.Options.Texts) cache_ = PaintCache();
         elements_.clear();
         drawn_.push_back(whole);
     }

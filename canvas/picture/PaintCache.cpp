@@ -23,6 +23,25 @@ std::shared_ptr<const BitmapCharacter> PaintCache::Tinted(
     return tinted_.front().Bitmap;
 }
 
+bool PaintCache::FilterKey::operator==(const FilterKey& other) const {
+    const cairo_matrix_t& a = Matrix;
+    const cairo_matrix_t& b = other.Matrix;
+    return Shown == other.Shown && a.xx == b.xx && a.yx == b.yx && a.xy == b.xy && a.yy == b.yy &&
+           a.x0 == b.x0 && a.y0 == b.y0 && Colors == other.Colors && Ratio == other.Ratio &&
+           Frame == other.Frame && Scale == other.Scale && Filters == other.Filters;
+}
+
+void PaintCache::DropFiltered() {
+    std::size_t pixels = 0;
+    std::size_t count = 0;
+    auto known = filtered_.begin();
+    for (; known != filtered_.end(); ++known) {
+        pixels += known->Raster->Pixels.Pixels().size();
+        if (++count > MaxFiltered || (pixels > MaxFilteredPixels && count > 1)) break;
+    }
+    filtered_.erase(known, filtered_.end());
+}
+
 void PaintCache::DropTinted() {
     std::size_t pixels = 0;
     auto tinted = tinted_.begin();

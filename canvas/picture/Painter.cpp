@@ -40,6 +40,10 @@ Raster RasterOf(const PaintBox& box) {
     return Raster(static_cast<Long>(box.Right - box.Left), static_cast<Long>(box.Bottom - box.Top));
 }
 
+double AreaOf(const PaintBox& box) {
+    return box.IsEmpty() ? 0 : (box.Right - box.Left) * (box.Bottom - box.Top);
+}
+
 PaintBox WholeOf(const Raster& raster) {
     return {0, 0, double(raster.Width()), double(raster.Height())};
 }
@@ -80,6 +84,8 @@ constexpr double Tolerance = 0.2;
 
 /// Pixels that filters work on; more are drawn smaller.
 constexpr double MostFilteredPixels = 1 << 22;
+/// Pixels of a filtered object that is kept for the next picture.
+constexpr double MostKeptPixels = 1 << 20;
 
 /// Modes that blend the opacity of the layer around them; where there is none nothing is seen.
 bool NeedsLayer(BlendMode mode) {
@@ -177,10 +183,32 @@ void Painter::DrawPlacement(const Placement& placement, const PaintState& state)
 
 void Painter::DrawGroup(const Placement& placement, const PaintState& state) {
     if (NeedsLayer(placement.Blend) && ground_ == Ground::Stage) return;
-    const FilteredRaster drawn = Filtered(placement, state);
-    if (drawn.Pixels.IsEmpty()) return;
+    if (placement.Filters.empty())
+        return BlendGroup(DrawApart(placement, state, FilterSource(placement, state)), 0, 0,
+                          placement.Blend);
+    const double area = AreaOf(FilterSource(placement, state));
+    if (area > MostFilteredPixels)
+        return BlendGroup(FilteredSmall(placement, state, std::sqrt(MostFilteredPixels / area)), 0,
+                          0, placement.Blend);
+    if (AreaOf(BoundsOf(placement, state)) > MostKeptPixels || state.blMask)
+        return BlendGroup(Filtered(placement, state), 0, 0, placement.Blend);
+    // Whatever is seen of it now, the whole of it serves the next picture, too.
+    const double left = std::floor(state.Matrix.x0);
+    const double top = std::floor(state.Matrix.y0);
+    PaintState atOrigin = MovedBy(state, -left, -top);
+    const PaintCache::FilterKey key{placement.Shown,     atOrigin.Matrix, state.Colors,
+                                    placement.Filters,   state.Ratio,     state.Frame,
+                                    state.Options->Scale};
+    const auto kept = cache_.Filtered(key, [&] {
+        return FilteredWithin(placement, atOrigin, placement.Shown->Bounds(atOrigin).Outwards());
+    });
+    BlendGroup(*kept, static_cast<Long>(left), static_cast<Long>(top), placement.Blend);
+}
+
+void Painter::BlendGroup(const FilteredRaster& group, Long x, Long y, BlendMode mode) {
+    if (group.Pixels.IsEmpty()) return;
     cairo_surface_flush(surface_.get());
-    Blend(target_, drawn.Pixels, drawn.Left, drawn.Top, placement.Blend, clip_);
+    Blend(target_, group.Pixels, group.Left + x, group.Top + y, mode, clip_);
     cairo_surface_mark_dirty(surface_.get());
 }
 
@@ -201,18 +229,17 @@ FilteredRaster Painter::DrawApart(const Placement& placement, const PaintState& 
     return drawn;
 }
 
-/// Filters work on the colours as they are, those of the placement change behind them.
 FilteredRaster Painter::Filtered(const Placement& placement, const PaintState& state) const {
-    if (placement.Filters.empty())
-        return DrawApart(placement, state, FilterSource(placement, state));
+    return FilteredWithin(placement, state, FilterSource(placement, state));
+}
+
+/// Filters work on the colours as they are, those of the placement change behind them.
+FilteredRaster Painter::FilteredWithin(const Placement& placement, const PaintState& state,
+                                       const PaintBox& box) const {
+    if (box.IsEmpty()) return {};
     PaintState plain = state;
     plain.Colors = {};
-    const PaintBox box = FilterSource(placement, plain);
-    if (box.IsEmpty()) return {};
-    const double area = (box.Right - box.Left) * (box.Bottom - box.Top);
-    if (area > MostFilteredPixels)
-        return FilteredSmall(placement, state, std::sqrt(MostFilteredPixels / area));
-    FilteredRaster drawn = DrawApart(placement, plain, box);
+    const FilteredRaster drawn = DrawApart(placement, plain, box);
     FilteredRaster made = ApplyFilters(drawn.Pixels, placement.Filters, state.Options->Scale);
     made.Left += drawn.Left;
     made.Top += drawn.Top;

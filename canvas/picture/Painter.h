@@ -55,10 +55,13 @@ private:
     void DrawPlacement(const Placement& placement, const PaintState& state);
     /// Draws a placement apart and then, with its filters, into the picture.
     void DrawGroup(const Placement& placement, const PaintState& state);
+    void BlendGroup(const FilteredRaster& group, Long x, Long y, BlendMode mode);
     PaintBox FilterSource(const Placement& placement, const PaintState& state) const;
     FilteredRaster DrawApart(const Placement& placement, const PaintState& state,
                              const PaintBox& box) const;
     FilteredRaster Filtered(const Placement& placement, const PaintState& state) const;
+    FilteredRaster FilteredWithin(const Placement& placement, const PaintState& state,
+                                  const PaintBox& box) const;
     FilteredRaster FilteredSmall(const Placement& placement, const PaintState& state,
                                  double factor) const;
     void SetColor(PictureColor color);
