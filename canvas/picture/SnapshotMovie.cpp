@@ -33,10 +33,10 @@ bool TakeSnapshot(clsSWFAdmin& admin, const SnapshotRequest& snapshot, Long back
 
 std::shared_ptr<const PictureMovie> SnapshotMovie(clsSWFAdmin& admin,
                                                   const SnapshotRequest& snapshot, Long backColor,
-                                                  PlacedTags& placed) {
+                                                  PlacedTags& placed, CharacterCache& cache) {
     std::shared_ptr<const PictureMovie> movie;
-    const auto read = [&movie](ByteView file) {
-        movie = ReadPictureMovie(file);
+    const auto read = [&](ByteView file) {
+        movie = ReadPictureMovie(file, cache);
         return movie != nullptr;
     };
     TakeSnapshot(admin, snapshot, backColor, read, placed);

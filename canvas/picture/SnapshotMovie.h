@@ -8,10 +8,11 @@ namespace tamber {
 
 /// A movie of one frame of a timeline, never written to a file. `admin` has its dimension, version
 /// and fonts, and is empty again behind it; `backColor` has red in the low byte. `placed` gets the
-/// placements. Null for one that no movie can hold.
+/// placements. What `cache` knows from the snapshot before is not read again. Null for one that no
+/// movie can hold.
 std::shared_ptr<const PictureMovie> SnapshotMovie(clsSWFAdmin& admin,
                                                   const SnapshotRequest& snapshot, Long backColor,
-                                                  PlacedTags& placed);
+                                                  PlacedTags& placed, CharacterCache& cache);
 
 /// The file of a movie of a symbol alone, of a version and with the fonts of its library. Empty for
 /// a kind that cannot be placed.

@@ -6,7 +6,6 @@
 #include <filesystem>
 #include <fstream>
 #include <nlohmann/json.hpp>
-#include <regex>
 #include <sstream>
 
 namespace {
@@ -211,11 +210,10 @@ TEST_F(CommandLineTest, draws_pictures_and_animations) {
     EXPECT_TRUE(fs::exists(folder / "f_011.png"));
     EXPECT_EQ(TextOf(folder / "a.gif").substr(0, 6), "GIF89a");
     for (const char* wrong :
-         {"picture HELLO", "picture HELLO --frames 1-2 -o a.png",
-          "picture HELLO --frame 0 -o b.png", "picture HELLO --size 0x9 -o b.png",
-          "picture HELLO --scale -1 -o b.png", "picture HELLO --symbol x -o b.png",
-          "export HELLO -o b.bmp", "export -o b.gif"})
-        EXPECT_EQ(Tamber(std::regex_replace(wrong, std::regex("HELLO"), hello)).Code, 2) << wrong;
+         {"", "--frames 1-2 -o a.png", "--frame 0 -o b.png", "--size 0x9 -o b.png",
+          "--scale -1 -o b.png", "--symbol x -o b.png", "more -o b.png"})
+        EXPECT_EQ(Tamber("picture " + hello + " " + wrong).Code, 2) << wrong;
+    EXPECT_EQ(Tamber("export " + hello + " -o b.bmp").Code, 2);
     EXPECT_EQ(Tamber("picture " + hello + " --frame 98 -o b.png").Code, 1);
     EXPECT_EQ(Tamber("picture " + hello + " --symbol 99 -o b.png").Code, 1);
     EXPECT_EQ(Tamber("picture " + hello + " --scale 100 -o b.png").Code, 1);

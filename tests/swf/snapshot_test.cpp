@@ -1,6 +1,8 @@
 #include <random>
 
 #include "canvas/EditSnapshot.h"
+#include "canvas/picture/MoviePicture.h"
+#include "canvas/picture/SnapshotMovie.h"
 #include "document/elements/clsObjFrameAction.h"
 #include "document/records/clsPropertyButton.h"
 #include "document/records/clsPropertyKoma.h"
@@ -205,6 +207,38 @@ TEST_F(SnapshotTest, of_too_many_rows_those_that_fit_are_shown) {
         ASSERT_EQ(places.size(), 16383u);
         EXPECT_EQ(places.front().Depth, order ? 16383 : 257);
         EXPECT_EQ(places.back().Depth, order ? 1 : 257 + 16382);
+    }
+}
+
+TEST_F(SnapshotTest, draws_the_frame_of_the_movie_and_reads_no_picture_twice) {
+    const auto first = AddLayer(AddBitmap(30, 20));
+    AddKeyFrame(*first, 1, 5, 10, 10).blTween = true;
+    AddKeyFrame(*first, 6, 1, 200, 100);
+    AddKeyFrame(*AddLayer(AddBitmap(50, 50)), 1, 6, 40, 30);
+    Bytes file;
+    MovieRequest request = Request(8);
+    request.Movie = &file;
+    ASSERT_TRUE(mdlSWFAuthoring::BuildMovie(request).Written);
+    MoviePicture whole(ReadPictureMovie(file));
+    const PictureView view = ViewOfStage(whole.Movie().Stage, 1);
+    clsSWFAdmin admin;
+    admin.Ver = 8;
+    admin.SetDimension(0, 6400, 0, 4800, 0);
+    CharacterCache cache;
+    std::shared_ptr<const Character> shown;
+    for (Long frame = 1; frame <= 6; ++frame) {
+        SnapshotRequest snapshot;
+        snapshot.Layers = &layers;
+        snapshot.LastRow = 2;
+        snapshot.Frame = frame;
+        const auto movie = SnapshotMovie(admin, snapshot, 0xFFFFFF, placed, cache);
+        ASSERT_TRUE(movie);
+        EXPECT_EQ(placed.size(), 2u);
+        EXPECT_EQ(MoviePicture(movie).Draw(1, view).Pixels(), whole.Draw(frame, view).Pixels())
+            << frame;
+        const auto& back = movie->Main.At(0).at(0)->Shown;
+        EXPECT_EQ(back, shown ? shown : back);
+        shown = back;
     }
 }
 
