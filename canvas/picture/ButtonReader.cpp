@@ -1,6 +1,6 @@
 #include "canvas/picture/ButtonReader.h"
 
-#include "canvas/picture/ShapeCharacter.h"
+#include "canvas/picture/MovieValues.h"
 #include "swf/tags/TagCodes.h"
 
 namespace tamber {

@@ -5,6 +5,7 @@
 
 #include "canvas/picture/BitmapReader.h"
 #include "canvas/picture/ButtonReader.h"
+#include "canvas/picture/MovieValues.h"
 #include "canvas/picture/PlacementReader.h"
 #include "canvas/picture/ShapeReader.h"
 #include "canvas/picture/TextReader.h"
@@ -64,8 +65,11 @@ private:
             switch (tag.Code) {
                 case TagCode::ShowFrame:
                     return timeline.EndFrame();
-                case TagCode::SetBackgroundColor:
-                    return ReadBackground(SwfBits(tag.Body));
+                case TagCode::SetBackgroundColor: {
+                    SwfBits bits(tag.Body);
+                    movie_->Background = ReadColor(bits, false);
+                    return;
+                }
                 case TagCode::JPEGTables:
                     jpegTables_ = tag.Body;
                     return;
@@ -86,17 +90,9 @@ private:
         }
     }
 
-    void ReadBackground(SwfBits bits) {
-        movie_->Background.R = static_cast<Byte>(bits.GetUI(1));
-        movie_->Background.G = static_cast<Byte>(bits.GetUI(1));
-        movie_->Background.B = static_cast<Byte>(bits.GetUI(1));
-    }
-
     static std::shared_ptr<SpriteCharacter> WithGrid(const SpriteCharacter& sprite, SwfBits bits) {
-        const SwfRect rect = bits.GetRect();
         auto scaled = std::make_shared<SpriteCharacter>(sprite);
-        scaled->ScalingGrid(
-            {double(rect.xMin), double(rect.yMin), double(rect.xMax), double(rect.yMax)});
+        scaled->ScalingGrid(ToBox(bits.GetRect()));
         return scaled;
     }
 

@@ -4,6 +4,7 @@
 #include <bit>
 #include <cmath>
 
+#include "canvas/picture/MovieValues.h"
 #include "platform/RuntimeError.h"
 
 namespace tamber {
@@ -45,13 +46,6 @@ double ReadFloat(SwfBits& bits) {
     return std::isfinite(value) ? double(value) : 0;
 }
 
-PictureColor ReadColor(SwfBits& bits) {
-    PictureColor color;
-    for (Byte* part : {&color.R, &color.G, &color.B, &color.A})
-        *part = static_cast<Byte>(bits.GetUI(1));
-    return color;
-}
-
 BlurFilter ReadBlurSize(SwfBits& bits) {
     constexpr double Largest = 255;
     BlurFilter blur;
@@ -82,7 +76,7 @@ std::uint32_t ReadCommon(SwfBits& bits, Filter& filter, bool hasPlace) {
 
 GlowFilter ReadGlow(SwfBits& bits, bool isShadow) {
     GlowFilter glow;
-    glow.Color = ReadColor(bits);
+    glow.Color = ReadColor(bits, true);
     const std::uint32_t flags = ReadCommon(bits, glow, isShadow);
     glow.blCompositeSource = (flags & CompositeSource) != 0;
     glow.Blur.Passes = static_cast<Long>(flags & ShadowPasses);
@@ -92,8 +86,8 @@ GlowFilter ReadGlow(SwfBits& bits, bool isShadow) {
 BevelFilter ReadBevel(SwfBits& bits) {
     BevelFilter bevel;
     // As players read it; the published form of the file has the two the other way round.
-    bevel.Highlight = ReadColor(bits);
-    bevel.Shadow = ReadColor(bits);
+    bevel.Highlight = ReadColor(bits, true);
+    bevel.Shadow = ReadColor(bits, true);
     const std::uint32_t flags = ReadCommon(bits, bevel, true);
     bevel.blOnTop = (flags & OnTop) != 0;
     bevel.Blur.Passes = static_cast<Long>(flags & BevelPasses);
@@ -108,7 +102,7 @@ ConvolutionFilter ReadConvolution(SwfBits& bits) {
     filter.Bias = ReadFloat(bits);
     for (Long i = filter.Columns * filter.Rows; i > 0; --i)
         filter.Matrix.push_back(ReadFloat(bits));
-    filter.Default = ReadColor(bits);
+    filter.Default = ReadColor(bits, true);
     const std::uint32_t flags = bits.GetUI(1);
     filter.blClamp = (flags & ConvolutionClamp) != 0;
     filter.blPreserveAlpha = (flags & ConvolutionPreserves) != 0;

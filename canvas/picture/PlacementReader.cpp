@@ -1,6 +1,6 @@
 #include "canvas/picture/PlacementReader.h"
 
-#include "canvas/picture/ShapeCharacter.h"
+#include "canvas/picture/MovieValues.h"
 #include "swf/tags/TagCodes.h"
 
 namespace tamber {

@@ -43,12 +43,6 @@ PaintBox DrawnBox(const PaintBox& box, const PaintState& state) {
 
 }  // namespace
 
-cairo_matrix_t ToCairo(const SwfMatrix& matrix) {
-    constexpr double One = 65536;
-    return {matrix.ScaleX / One, matrix.RotateSkew0 / One,  matrix.RotateSkew1 / One,
-            matrix.ScaleY / One, double(matrix.TranslateX), double(matrix.TranslateY)};
-}
-
 ShapeDrawing::ShapeDrawing(const std::vector<ShapeLayer>& layers, cairo_fill_rule_t rule)
     : rule_(rule) {
     for (const ShapeLayer& layer : layers) {

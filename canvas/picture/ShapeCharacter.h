@@ -10,8 +10,6 @@
 
 namespace tamber {
 
-cairo_matrix_t ToCairo(const SwfMatrix& matrix);
-
 /// A set of styles of a shape, and the edges drawn with them.
 struct ShapeLayer {
     std::vector<PictureFill> Fills;

@@ -31,10 +31,6 @@ constexpr Long EdgeBits = 15;
 constexpr Long UsesWindingRule = 4;
 constexpr Long JoinMiter = 2;
 
-PaintBox ToBox(const SwfRect& rect) {
-    return {double(rect.xMin), double(rect.yMin), double(rect.xMax), double(rect.yMax)};
-}
-
 Long Sum(Long a, Long b) {
     return static_cast<Long>(std::clamp<std::int64_t>(std::int64_t{a} + b,
                                                       std::numeric_limits<Long>::min() / 2,
@@ -64,15 +60,6 @@ Long ShapeReader::ReadCount(bool isFill) {
     const Long count = UI(1);
     const bool extends = !isFill || tag_ != TagCode::DefineShape;
     return count == ExtendedCount && extends ? UI(2) : count;
-}
-
-PictureColor ShapeReader::ReadColor() {
-    PictureColor color;
-    color.R = static_cast<Byte>(UI(1));
-    color.G = static_cast<Byte>(UI(1));
-    color.B = static_cast<Byte>(UI(1));
-    if (HasAlpha()) color.A = static_cast<Byte>(UI(1));
-    return color;
 }
 
 void ShapeReader::ReadStyles(ShapeLayer& layer, ShapeLayer* end) {

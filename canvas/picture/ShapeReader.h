@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "canvas/picture/MovieValues.h"
 #include "canvas/picture/ShapeCharacter.h"
 #include "swf/SwfBits.h"
 
@@ -29,7 +30,7 @@ private:
     bool IsMorph() const;
     bool HasAlpha() const;
     Long ReadCount(bool isFill);
-    PictureColor ReadColor();
+    PictureColor ReadColor() { return tamber::ReadColor(bits_, HasAlpha()); }
     cairo_matrix_t ReadMatrix() { return ToCairo(bits_.GetMatrix()); }
 
     void ReadStyles(ShapeLayer& layer, ShapeLayer* end);

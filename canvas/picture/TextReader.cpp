@@ -1,6 +1,6 @@
 #include "canvas/picture/TextReader.h"
 
-#include "canvas/picture/ShapeCharacter.h"
+#include "canvas/picture/MovieValues.h"
 
 namespace tamber {
 
@@ -24,19 +24,6 @@ enum FieldFlag : std::uint32_t {
     Html = 0x0002,
     UseOutlines = 0x0001,
 };
-
-PaintBox ToBox(const SwfRect& rect) {
-    return {double(rect.xMin), double(rect.yMin), double(rect.xMax), double(rect.yMax)};
-}
-
-PictureColor ReadColor(SwfBits& bits, bool hasAlpha) {
-    PictureColor color;
-    color.R = static_cast<Byte>(bits.GetUI(1));
-    color.G = static_cast<Byte>(bits.GetUI(1));
-    color.B = static_cast<Byte>(bits.GetUI(1));
-    if (hasAlpha) color.A = static_cast<Byte>(bits.GetUI(1));
-    return color;
-}
 
 double ReadSigned(SwfBits& bits) {
     return static_cast<std::int16_t>(bits.GetUI(2));
