@@ -113,6 +113,7 @@ const Raster& FramePicture::Show(const std::shared_ptr<const PictureMovie>& movi
     }
     movie_ = movie;
     view_ = view;
+    if (picture_.IsEmpty()) return picture_;
     const PaintState state = StateOfStage(*movie_, frame, view_);
     std::vector<Element> elements;
     try {

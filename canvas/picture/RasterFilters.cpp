@@ -10,6 +10,9 @@ namespace tamber {
 
 namespace {
 
+/// Of a convolution; those that the program writes, of 5 by 5, stay far below on any stage.
+constexpr std::size_t MostProducts = std::size_t{1} << 27;
+
 /// A byte a pixel.
 class AlphaPlane {
 public:
@@ -131,7 +134,9 @@ public:
     }
 
     void operator()(const ConvolutionFilter& filter) const {
-        if (filter.Matrix.empty() || filter.Divisor == 0) return;
+        if (filter.Matrix.empty() || filter.Divisor == 0 ||
+            filter.Matrix.size() * raster_.Pixels().size() > MostProducts)
+            return;
         const Raster source = raster_;
         for (Long y = 0; y < raster_.Height(); ++y)
             for (Long x = 0; x < raster_.Width(); ++x)
