@@ -342,9 +342,10 @@ struct FromVersion : AlwaysWritten {
 /// The fields belong to a record that has a switch on, which stands in front of them.
 template <class Owner>
 struct IfOn {
-    bool Owner::*Switch;
+    constexpr explicit IfOn(bool Owner::*on) : Switch(on) {}
     bool Reads(const Owner& owner, const clsCSV&) const { return owner.*Switch; }
     bool Writes(const Owner& owner) const { return owner.*Switch; }
+    bool Owner::*Switch;
 };
 
 template <class Owner, class T>
