@@ -16,6 +16,10 @@ constexpr double SmallUnit = 1024;
 constexpr double FineUnit = 20480;
 const PicturePath NoOutline;
 
+std::shared_ptr<const BitmapCharacter> NoBitmap(Long) {
+    return nullptr;
+}
+
 /// Bytes of a table from an offset up to another; nothing for offsets that make no sense.
 ByteView Between(ByteView table, std::size_t from, std::size_t to) {
     if (from > table.size()) return {};
@@ -93,7 +97,7 @@ const PicturePath& FontCharacter::Outline(std::size_t glyph) const {
     if (!outline) {
         outline.emplace();
         try {
-            *outline = ShapeReader(SwfBits(shapes_[glyph]), tag_, {}).ReadGlyph();
+            *outline = ShapeReader(SwfBits(shapes_[glyph]), tag_, NoBitmap).ReadGlyph();
         } catch (const RuntimeError&) {
             // It stays empty.
         }
