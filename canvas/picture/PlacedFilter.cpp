@@ -31,6 +31,8 @@ constexpr std::uint32_t ConvolutionClamp = 2;
 constexpr std::uint32_t ConvolutionPreserves = 1;
 /// Of a gradient filter, behind its colours and their places.
 constexpr std::size_t GradientRest = 19;
+/// Pixels of the stage.
+constexpr double FarthestShadow = 512;
 
 double ReadFixed16(SwfBits& bits) {
     return static_cast<std::int32_t>(bits.GetUI(4)) / 65536.0;
@@ -65,7 +67,8 @@ std::uint32_t ReadCommon(SwfBits& bits, Filter& filter, bool hasPlace) {
     filter.Blur = ReadBlurSize(bits);
     if (hasPlace) {
         filter.Angle = ReadFixed16(bits);
-        filter.Distance = ReadFixed16(bits);
+        // No shadow that falls farther is seen beside its object, and room would be made for it.
+        filter.Distance = std::clamp(ReadFixed16(bits), -FarthestShadow, FarthestShadow);
     }
     filter.Strength = ReadFixed8(bits);
     const std::uint32_t flags = bits.GetUI(1);
