@@ -19,7 +19,7 @@ bool SameMatrix(const cairo_matrix_t& a, const cairo_matrix_t& b) {
 bool LookAlike(const Placement& a, const Placement& b) {
     return a.Shown == b.Shown && SameMatrix(a.Matrix, b.Matrix) && a.Colors == b.Colors &&
            a.Ratio == b.Ratio && a.ClipDepth == b.ClipDepth && a.Filters == b.Filters &&
-           a.Blend == b.Blend;
+           a.Blend == b.Blend && a.Name == b.Name;
 }
 
 bool IsWhole(double value) {

@@ -22,6 +22,7 @@ public:
         Long Ratio = 0;
         Long Frame = 0;
         double Scale = 1;
+        String Name{};
         bool operator==(const FilterKey& other) const;
     };
 

@@ -37,6 +37,8 @@ struct PaintState {
     double OwnScaleY = 1;
     /// Of a morph shape.
     Long Ratio = 0;
+    /// That of the placement; null for none.
+    const String* Name = nullptr;
     /// Only what is covered counts; all is painted opaque.
     bool blMask = false;
     const PaintOptions* Options = nullptr;

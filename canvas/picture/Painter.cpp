@@ -198,7 +198,7 @@ void Painter::DrawGroup(const Placement& placement, const PaintState& state) {
     PaintState atOrigin = MovedBy(state, -left, -top);
     const PaintCache::FilterKey key{placement.Shown,     atOrigin.Matrix, state.Colors,
                                     placement.Filters,   state.Ratio,     state.Frame,
-                                    state.Options->Scale};
+                                    state.Options->Scale, placement.Name};
     const auto kept = cache_.Filtered(key, [&] {
         return FilteredWithin(placement, atOrigin, placement.Shown->Bounds(atOrigin).Outwards());
     });

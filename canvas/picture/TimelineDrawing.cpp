@@ -35,6 +35,7 @@ PaintState StateOf(const Placement& placement, const Timeline& timeline, const P
     cairo_matrix_multiply(&state.Matrix, &placement.Matrix, &parent.Matrix);
     state.Colors = Concat(parent.Colors, placement.Colors);
     state.Ratio = placement.Ratio;
+    state.Name = placement.Name.empty() ? nullptr : &placement.Name;
     state.Frame = 0;
     if (parent.Options->blAnimate)
         state.Frame = timeline.Stays(placement)

@@ -1,5 +1,6 @@
 #include "canvas/picture/VideoCharacter.h"
 
+#include "canvas/picture/EditTextCharacter.h"
 #include "canvas/picture/Painter.h"
 #include "platform/twips.h"
 
@@ -10,7 +11,16 @@ PaintBox VideoCharacter::Box() const {
 }
 
 void VideoCharacter::Draw(Painter& painter, const PaintState& state) const {
-    if (!state.blMask) painter.DrawBox(Box(), state);
+    if (state.blMask) return;
+    painter.DrawBox(Box(), state);
+    if (state.Name != nullptr) DrawName(*state.Name, painter, state);
+}
+
+void VideoCharacter::DrawName(const String& name, Painter& painter, const PaintState& state) const {
+    EditTextFormat format;
+    format.Bounds = Box();
+    format.Color = {0, 0, 0, 255};
+    EditTextCharacter(std::move(format), {}, name).Draw(painter, state);
 }
 
 PaintBox VideoCharacter::Bounds(const PaintState& state) const {

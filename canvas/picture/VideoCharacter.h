@@ -7,7 +7,7 @@
 
 namespace tamber {
 
-/// A video, of which the outline is shown.
+/// A video, of which the outline and the name of its instance are shown.
 class VideoCharacter : public Character {
 public:
     /// Pixels.
@@ -19,6 +19,7 @@ public:
 private:
     /// Twips.
     PaintBox Box() const;
+    void DrawName(const String& name, Painter& painter, const PaintState& state) const;
 
     Long width_;
     Long height_;

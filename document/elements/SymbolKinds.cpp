@@ -100,6 +100,7 @@ constexpr std::array Kinds{
                .NewElement = NewEmptyMovie,
                .blTakesDepths = true,
                .blInstance = true,
+               .blPlaced = true,
                .blPicture = true,
                .blLacksExport = true},
     SymbolKind{.Number = KindFrameAction,

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "document/elements/SymbolKinds.h"
 #include "document/records/clsPropertyKoma.h"
 #include "swf/authoring/FramePlacement.h"
 #include "swf/authoring/MovieLimits.h"
@@ -49,6 +50,10 @@ void SnapshotWriter::Place(const Timeline& timeline, Long index, const LayerPlac
     const FramePlacement frame(*timeline.Layers(index), FrameOf(timeline.IsMain()));
     auto tag = frame.Place(timeline.Admin, place, characters);
     tag->LayerIndex = index;
+    // There is nothing else that a video without pictures is known by.
+    const clsLayer& layer = *timeline.Layers(index);
+    if (layer.SymbolData()->eType() == KindMovieEmp)
+        tag->Name = layer.InstanceName.empty() ? layer.SymbolData()->Value() : layer.InstanceName;
     if (timeline.IsMain()) placed_.push_back(std::move(tag));
 }
 

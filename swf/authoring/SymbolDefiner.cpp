@@ -32,6 +32,8 @@ bool SymbolDefiner::HasCharacter(const clsSymbolData& symbol, Long version) {
             return true;
         case KindVector:
             return HasShapes(*symbol.Property<clsPropertyVector>());
+        case KindMovieEmp:
+            return version >= MovieVersion;
         case KindLink:
             return version >= LinkVersion;
         default:
@@ -77,6 +79,8 @@ Long SymbolDefiner::DefineByKind(clsSWFAdmin& admin, const clsSymbolData& symbol
             return DefineVector(admin, symbol, form, frame);
         case KindSprite:
             return DefineSprite(admin, symbol, frame);
+        case KindMovieEmp:
+            return DefineMovieEmp(admin, *symbol.Property<clsPropertyMovieEmp>(), frame);
         case KindButton:
             DefineButtonStates(admin, *symbol.Property<clsPropertyButton>(), frame);
             return 0;
@@ -175,6 +179,14 @@ Long SymbolDefiner::GetNewClass(clsSWFAdmin& admin, const clsPropertyClass& reco
     const auto inner = NewInner(admin, 0, 0, 1);
     build_.Scripts.CompileClass(*inner, record);
     return AddSprite(admin, inner, frame);
+}
+
+Long SymbolDefiner::DefineMovieEmp(clsSWFAdmin& admin, const clsPropertyMovieEmp& record,
+                                   Long frame) {
+    if (build_.Version() < MovieVersion) return 0;
+    const auto tag = admin.GetNewVideoStreamEmp(record.Width, record.height);
+    admin.AddTag(frame, tag, true);
+    return tag->ID;
 }
 
 Long SymbolDefiner::DefineLink(clsSWFAdmin& admin, const clsSymbolData& symbol, Long frame) {

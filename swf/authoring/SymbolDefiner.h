@@ -6,6 +6,7 @@
 
 #include "document/records/clsPropertyButton.h"
 #include "document/records/clsPropertyClass.h"
+#include "document/records/clsPropertyMovieEmp.h"
 #include "swf/authoring/ButtonDefinition.h"
 #include "swf/authoring/LayerCharacters.h"
 #include "swf/authoring/MovieBuild.h"
@@ -50,6 +51,7 @@ private:
     void DefineSpriteChildren(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long frame);
     /// A class is an empty sprite whose init action makes it.
     Long GetNewClass(clsSWFAdmin& admin, const clsPropertyClass& record, Long frame);
+    Long DefineMovieEmp(clsSWFAdmin& admin, const clsPropertyMovieEmp& record, Long frame);
     Long DefineLink(clsSWFAdmin& admin, const clsSymbolData& symbol, Long frame);
     ButtonCharacters DefineButtonStates(clsSWFAdmin& admin, const clsPropertyButton& button,
                                         Long frame);

@@ -251,6 +251,15 @@ std::shared_ptr<clsSWFTagDefineScalingGrid> clsSWFAdmin::GetNewScalingGrid(Long 
     return tag;
 }
 
+std::shared_ptr<clsSWFTagDefineVideoStream> clsSWFAdmin::GetNewVideoStreamEmp(Long width,
+                                                                              Long height) {
+    auto tag = std::make_shared<clsSWFTagDefineVideoStream>();
+    tag->Width = width;
+    tag->height = height;
+    tag->ID = AddDefinition(tag);
+    return tag;
+}
+
 void clsSWFAdmin::FramesSave() {
     if (BackGroundColor >= 0) {
         clsSWFTagSetBackgroundColor background;

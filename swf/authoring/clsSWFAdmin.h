@@ -12,6 +12,7 @@
 #include "swf/tags/clsSWFTagDefineBitsJPEG.h"
 #include "swf/tags/clsSWFTagDefineBitsLossless.h"
 #include "swf/tags/clsSWFTagDefineScalingGrid.h"
+#include "swf/tags/clsSWFTagDefineVideoStream.h"
 #include "swf/tags/clsSWFTagDefineShape.h"
 #include "swf/tags/clsSWFTagImport.h"
 #include "swf/tags/clsSWFTagPlaceObject.h"
@@ -88,6 +89,9 @@ public:
     std::shared_ptr<clsSWFTagImport> GetNewImport(StringView url, StringView name);
     std::shared_ptr<clsSWFTagDefineScalingGrid> GetNewScalingGrid(Long id, Long xMin, Long xMax,
                                                                   Long yMin, Long yMax);
+
+    /// The place of a video that a script attaches; pixels.
+    std::shared_ptr<clsSWFTagDefineVideoStream> GetNewVideoStreamEmp(Long width, Long height);
 
     /// Writes background, fonts, frames and tail into the stream: fonts of frame 1 before it,
     /// others behind it.

@@ -2,8 +2,10 @@
 
 #include "canvas/picture/FramePicture.h"
 #include "canvas/picture/HtmlText.h"
+#include "canvas/picture/PictureHits.h"
 #include "canvas/picture/ShapeCharacter.h"
 #include "canvas/picture/SpriteCharacter.h"
+#include "canvas/picture/VideoCharacter.h"
 #include "platform/twips.h"
 
 namespace tamber {
@@ -107,6 +109,46 @@ std::string DepthsAt(const Timeline& timeline, Long frame) {
     for (const auto& placement : timeline.At(frame))
         text += std::to_string(placement->Depth) + "@" + std::to_string(placement->Since) + " ";
     return text;
+}
+
+TEST(Pictures, tell_what_lies_under_a_place_from_the_top_down) {
+    TimelineStep mask = Place(3, Box(6), 20, 0);
+    mask.ClipDepth = 4;
+    TimelineStep faint = Place(5, Box(10, {0, 0, 255, 255}), 2, 2);
+    faint.Colors = SwfColorTransform{256, 256, 256, 0, 0, 0, 0, 0};
+    const auto movie = MovieOf({Place(1, Box(10), 0, 0),
+                                Place(2, Shape(Around(0, 0, 4, 30, 0, 1)), 6, 0), mask,
+                                Place(4, Box(20), 20, 0), faint});
+    const PictureView view = ViewOfStage(movie->Stage, 2);
+    const auto at = [&](double x, double y) {
+        PictureHits hits(*movie, 1, view, x, y);
+        std::vector<Long> depths;
+        while (const auto depth = hits.Next()) depths.push_back(*depth);
+        return depths;
+    };
+    EXPECT_EQ(at(15, 15), (std::vector<Long>{5, 2, 1}));
+    EXPECT_EQ(at(1, 1), (std::vector<Long>{1}));
+    EXPECT_EQ(at(15, 50), (std::vector<Long>{2}));
+    EXPECT_EQ(at(45, 5), (std::vector<Long>{4}));
+    // The mask hides the rest of it.
+    EXPECT_TRUE(at(70, 5).empty());
+    EXPECT_TRUE(at(110, 70).empty());
+}
+
+TEST(Pictures, show_a_video_as_an_outline_with_its_name) {
+    const auto marks = [](const char16_t* name) {
+        TimelineStep video = Place(1, std::make_shared<VideoCharacter>(50, 30), 4, 4);
+        video.Name = name;
+        const Raster picture = Drawn(MovieOf({video}));
+        EXPECT_NE(picture.Row(20)[4], WhitePixel);
+        EXPECT_NE(picture.Row(20)[54], WhitePixel);
+        Long inside = 0;
+        for (Long y = 6; y < 32; ++y)
+            inside += 47 - std::count(picture.Row(y) + 6, picture.Row(y) + 53, WhitePixel);
+        return inside;
+    };
+    EXPECT_EQ(marks(u""), 0);
+    EXPECT_GT(marks(u"film"), 20);
 }
 
 TEST(Timelines, are_played_forwards_and_begun_anew_for_an_earlier_frame) {

@@ -6,6 +6,7 @@
 #include "document/elements/clsObjFrameAction.h"
 #include "document/records/clsPropertyButton.h"
 #include "document/records/clsPropertyKoma.h"
+#include "document/records/clsPropertyMovieEmp.h"
 #include "document/records/clsPropertySprite.h"
 #include "document/records/clsPropertyText.h"
 #include "tests/swf/DisplayList.h"
@@ -399,8 +400,25 @@ TEST_F(SnapshotTest, a_symbol_that_fits_no_version_is_left_out_without_a_word) {
     AddKeyFrame(*AddLayer(movie), 1, 1);
     AddKeyFrame(*AddLayer(AddBitmap(1, 1)), 1, 1);
     EXPECT_EQ(test::Places(Snapshot(1, 4)).size(), 1u);
-    EXPECT_EQ(test::Places(Snapshot(1, 8)).at(0).Depth, 16382);
     EXPECT_TRUE(interface.Messages.empty());
+}
+
+TEST_F(SnapshotTest, an_empty_movie_is_a_stream_of_its_size_with_a_name_to_be_known_by) {
+    auto movie = std::make_shared<clsSymbolData>(KindMovieEmp);
+    auto& record = *movie->Property<clsPropertyMovieEmp>();
+    record.MovieName = u"film";
+    record.Width = 320;
+    record.height = 240;
+    const auto layer = AddLayer(AddSymbol(std::move(movie)));
+    AddKeyFrame(*layer, 1, 1);
+    const auto nameEnds = [&](const Bytes& name) {
+        const Bytes place = Snapshot(1, 8).Bodies(26).at(0);
+        return place.size() > name.size() && std::equal(name.rbegin(), name.rend(), place.rbegin());
+    };
+    EXPECT_EQ(Snapshot(1, 8).Bodies(60).at(0), (Bytes{1, 0, 0, 0, 0x40, 1, 0xF0, 0, 0, 0}));
+    EXPECT_TRUE(nameEnds({'f', 'i', 'l', 'm', 0}));
+    layer->InstanceName = u"v1";
+    EXPECT_TRUE(nameEnds({'v', '1', 0}));
 }
 
 }  // namespace
