@@ -28,6 +28,7 @@ FLOORS = [
     "effects/templates",
     "canvas/timeline",
     "canvas",
+    "canvas/handles",
     "canvas/picture",
     "output",
     "app/settings",
