@@ -32,6 +32,7 @@ FLOORS = [
     "canvas/picture",
     "output",
     "app/settings",
+    "app/editors",
     "app/tasks",
     "app/session",
     "app/operations",

@@ -46,7 +46,8 @@ TweenLine::TweenLine(const clsLayerObjElement& element, CanvasPoint end, const C
         control_.push_back(control);
     };
     add({element.X(), element.Y()}, false);
-    for (const auto& point : element.colTweenPoint) add({point->X, point->Y}, point->PointType != 0);
+    for (const auto& point : element.colTweenPoint)
+        add({point->X, point->Y}, point->PointType != 0);
     add(end, false);
 }
 
@@ -76,7 +77,8 @@ std::optional<std::size_t> TweenLine::SectionAt(CanvasPoint canvas, double reach
     for (std::size_t i = 0; i + 1 < nodes_.size(); ++i) {
         const CanvasPoint a = nodes_[i];
         const CanvasPoint b = nodes_[i + 1];
-        if (!IsBetween(canvas.X, a.X, b.X, reach) || !IsBetween(canvas.Y, a.Y, b.Y, reach)) continue;
+        if (!IsBetween(canvas.X, a.X, b.X, reach) || !IsBetween(canvas.Y, a.Y, b.Y, reach))
+            continue;
         if (Near(a, canvas, reach) || Turned(canvas - a, b - a) < MostTurned) return i;
     }
     return std::nullopt;

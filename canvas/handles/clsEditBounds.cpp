@@ -116,10 +116,8 @@ std::vector<HandlePicture::Mark> clsEditBounds::Squares(const ElementFrame& fram
     const auto place = [&](Long handle) { return View.ToCanvas(frame.PlaceOf(handle)); };
     for (Long handle = DragHandle::TopLeft; handle <= DragHandle::BottomLeft; ++handle)
         squares.push_back({handle, place(handle)});
-    const double across =
-        Length(place(DragHandle::TopRight) - place(DragHandle::TopLeft));
-    const double upright =
-        Length(place(DragHandle::BottomLeft) - place(DragHandle::TopLeft));
+    const double across = Length(place(DragHandle::TopRight) - place(DragHandle::TopLeft));
+    const double upright = Length(place(DragHandle::BottomLeft) - place(DragHandle::TopLeft));
     for (Long handle = DragHandle::Top; handle <= DragHandle::Left; ++handle) {
         const bool lies = handle == DragHandle::Top || handle == DragHandle::Bottom;
         if ((lies ? across : upright) >= ShortestEdge) squares.push_back({handle, place(handle)});
@@ -212,8 +210,7 @@ void clsEditBounds::MoveTweenPoint(CanvasPoint way) {
     if (!line) return;
     Long number = TweenNum;
     const bool grabbed = line->NodeAt(start_, TweenReach) == static_cast<std::size_t>(number);
-    if (!grabbed || number == 0)
-        number = AddTweenPoint(TweenNum, View.ToStage(start_), true);
+    if (!grabbed || number == 0) number = AddTweenPoint(TweenNum, View.ToStage(start_), true);
     clsTweenPointData& point = *Element->TweenPoint(number);
     const CanvasPoint place = Snapped(CanvasPoint{point.X, point.Y} + way);
     point.X = OneDecimal(static_cast<Single>(place.X));
@@ -296,9 +293,9 @@ void clsEditBounds::AddTweenMarks(HandlePicture& picture) const {
     for (std::size_t i = 0; i < line->Nodes().size(); ++i) {
         const CanvasPoint place = line->Nodes()[i];
         const bool control = line->IsControl(i);
-        picture.TweenPoints.push_back(
-            {place, control, static_cast<std::size_t>(TweenNum) == i && i > 0,
-             control ? String() : LabelOf(View.ToStage(place))});
+        picture.TweenPoints.push_back({place, control,
+                                       static_cast<std::size_t>(TweenNum) == i && i > 0,
+                                       control ? String() : LabelOf(View.ToStage(place))});
     }
 }
 

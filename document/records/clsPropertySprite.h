@@ -19,7 +19,7 @@ public:
     Long height = 0;
     Long baseX = 0;
     Long baseY = 0;
-    /// Nine-slice scaling by the grid, in pixels.
+    /// Nine-slice scaling by the grid, which is told in twips of the sprite's stage.
     bool bl9Scale = false;
     Long GridLeft = 0;
     Long GridTop = 0;

@@ -8,9 +8,8 @@
 #include "canvas/handles/clsEditBounds.h"
 #include "document/records/clsPropertySprite.h"
 #include "document/symbols/clsSymbolData.h"
-#include "swf/mdlSWFTag.h"
-#include "swf/mdlSWFTag.h"
 #include "platform/twips.h"
+#include "swf/mdlSWFTag.h"
 
 namespace tamber {
 namespace {
@@ -51,9 +50,10 @@ protected:
     }
     /// Drags a handle from its place by pixels of the canvas.
     bool Drag(Long handle, CanvasPoint way, Long keys = 0) {
-        const CanvasPoint from = handle == DragHandle::Offset
-                                     ? bounds.View.ToCanvas({bounds.Element->X(), bounds.Element->Y()})
-                                     : PlaceOf(handle);
+        const CanvasPoint from =
+            handle == DragHandle::Offset
+                ? bounds.View.ToCanvas({bounds.Element->X(), bounds.Element->Y()})
+                : PlaceOf(handle);
         bounds.DragStatus = handle;
         bounds.SetDragMovePoint(from);
         return bounds.MoveDragPoint(from + way, keys);
@@ -84,9 +84,8 @@ TEST_F(HandlesTest, the_frame_lies_where_the_movie_puts_the_symbol) {
     const auto tangent = [](double degrees) {
         return static_cast<Single>(std::tan(degrees * 3.14159265358979 / 180));
     };
-    const SwfTransform matrix =
-        mdlSWFTag::ComposeTransform(1.5f, -0.75f, 33, {4000, 2000}, {1000, 500}, tangent(20),
-                                    tangent(-10));
+    const SwfTransform matrix = mdlSWFTag::ComposeTransform(1.5f, -0.75f, 33, {4000, 2000},
+                                                            {1000, 500}, tangent(20), tangent(-10));
     // The sprite's right lower corner, 100 - 7 and 50, through the placement's own matrix.
     const double x = 93;
     const double y = 50;
@@ -163,7 +162,11 @@ TEST_F(HandlesTest, each_handle_scales_moves_or_turns) {
              Case{"over the opposite edge", 9, {150, 0}, 0, false, {275, 100, -0.5f, 1, 50, 25, 0}},
              Case{"corner", 4, {100, 25}, 0, false, {250, 112.5f, 2, 1.5f, 50, 25, 0}},
              Case{"about the offset", 7, {25, 0}, 4, false, {200, 100, 1.5f, 1, 50, 25, 0}},
-             Case{"about the offset, with Ctrl", 2, {-50, -25}, 2, false,
+             Case{"about the offset, with Ctrl",
+                  2,
+                  {-50, -25},
+                  2,
+                  false,
                   {200, 100, 2, 2, 50, 25, 0}},
              // The corner at the lower left stands still.
              Case{"edge, fixed ratio", 6, {0, -50}, 0, true, {250, 75, 2, 2, 50, 25, 0}},

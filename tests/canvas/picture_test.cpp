@@ -116,9 +116,9 @@ TEST(Pictures, tell_what_lies_under_a_place_from_the_top_down) {
     mask.ClipDepth = 4;
     TimelineStep faint = Place(5, Box(10, {0, 0, 255, 255}), 2, 2);
     faint.Colors = SwfColorTransform{256, 256, 256, 0, 0, 0, 0, 0};
-    const auto movie = MovieOf({Place(1, Box(10), 0, 0),
-                                Place(2, Shape(Around(0, 0, 4, 30, 0, 1)), 6, 0), mask,
-                                Place(4, Box(20), 20, 0), faint});
+    const auto movie =
+        MovieOf({Place(1, Box(10), 0, 0), Place(2, Shape(Around(0, 0, 4, 30, 0, 1)), 6, 0), mask,
+                 Place(4, Box(20), 20, 0), faint});
     const PictureView view = ViewOfStage(movie->Stage, 2);
     const auto at = [&](double x, double y) {
         PictureHits hits(*movie, 1, view, x, y);
