@@ -18,6 +18,7 @@ FLOORS = [
     "vector",
     "media",
     "script",
+    "script/editor",
     "effects",
     "document/elements",
     "document/symbols",

@@ -1,6 +1,7 @@
 #include "script/compiler/PlayerClasses.h"
 
 #include <algorithm>
+#include <string>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -202,6 +203,20 @@ bool HasPlayerMember(std::string_view className, std::string_view member) {
     if (found == AllClasses().end()) return false;
     const KnownClass& known = found->second;
     return known.Members.contains(member) || HasPlayerMember(known.Base, member);
+}
+
+void ForEachPlayerClass(
+    const std::function<void(std::string_view name, std::string_view base,
+                             std::string_view members)>& visit) {
+    for (const PlayerClass& one : Classes) visit(one.Name, one.Base, one.Members);
+    for (const std::string_view name : CastClasses)
+        if (!AllClasses().contains(name)) visit(name, {}, {});
+    for (const std::string_view name : OtherClasses) visit(name, {}, {});
+    for (const Package& package : Packages)
+        for (const std::string_view name : package.Classes) {
+            const std::string whole = std::string(package.Name) + '.' + std::string(name);
+            if (!AllClasses().contains(whole)) visit(whole, {}, {});
+        }
 }
 
 bool IsOnStage(std::string_view className) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <span>
 #include <string_view>
 
@@ -18,6 +19,12 @@ bool HasPlayerGlobal(std::string_view name);
 /// instances have beside those that a version 4 property number stands for. Those of Object are not
 /// told for the others.
 bool HasPlayerMember(std::string_view className, std::string_view member);
+
+/// Calls `visit` with each class of the player: its whole name, that of the class it extends or
+/// nothing, and its members with blanks between them, as far as they are told.
+void ForEachPlayerClass(
+    const std::function<void(std::string_view name, std::string_view base,
+                             std::string_view members)>& visit);
 
 /// Whether objects of the class stand on the stage and have the properties with numbers.
 bool IsOnStage(std::string_view className);
