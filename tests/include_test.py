@@ -34,6 +34,7 @@ FLOORS = [
     "output",
     "app/settings",
     "app/editors",
+    "app/shortcuts",
     "app/tasks",
     "app/session",
     "app/operations",

@@ -11,6 +11,11 @@ namespace {
 struct Keyed {
     String Key;
     std::size_t Index;
+
+    bool operator<(const Keyed& other) const {
+        const int order = Key.compare(other.Key);
+        return order != 0 ? order < 0 : Index < other.Index;
+    }
 };
 
 }  // namespace
@@ -20,9 +25,10 @@ CandidateList::CandidateList(std::vector<Candidate> candidates) {
     order.reserve(candidates.size());
     for (std::size_t i = 0; i < candidates.size(); ++i)
         order.push_back({FoldCase(candidates[i].Text), i});
-    std::sort(order.begin(), order.end(), [](const Keyed& a, const Keyed& b) {
-        return a.Key != b.Key ? a.Key < b.Key : a.Index < b.Index;
-    });
+    // The names of a script come in their order already, and are most of them.
+    const auto rest = std::is_sorted_until(order.begin(), order.end());
+    std::sort(rest, order.end());
+    std::inplace_merge(order.begin(), rest, order.end());
     for (const Keyed& keyed : order) {
         Candidate& candidate = candidates[keyed.Index];
         if (candidates_.empty() || candidates_.back().Text != candidate.Text)
