@@ -18,6 +18,13 @@ public:
     };
     static const std::array<Entry, 7>& Entries();
 
+    /// What the boxes of a form take.
+    static constexpr Within ColorMultiplier{-200, 200};
+    static constexpr Within ColorAddend{-255, 255};
+    static constexpr Within Alpha{0, 100};
+    /// More would reach into the flags that stand beside the count in the movie.
+    static constexpr Within PassCount{1, 15};
+
     explicit FilterEditor(const clsFilterData& filters) : before_(filters), filters_(filters) {}
 
     /// The copy, whose fields a form changes.

@@ -66,7 +66,7 @@ void ScriptNames::Changed(const ScriptText& text, const ScriptText::Change& chan
 void ScriptNames::Count(const std::vector<ScriptName>& names, Long by) {
     for (const ScriptName& name : names) {
         const auto [found, isNew] = entries_.try_emplace(name.Name);
-        if (isNew) order_.insert(OrderOf(name.Name));
+        if (isNew) order_.emplace(OrderOf(name.Name), &*found);
         Entry& entry = found->second;
         entry.Count += by;
         if (name.blMember) entry.Members += by;
@@ -88,11 +88,9 @@ void ScriptNames::ForEach(
     StringView prefix,
     const std::function<void(const String& name, const Entry& entry)>& visit) const {
     const String folded = FoldCase(prefix);
-    for (auto at = order_.lower_bound(folded); at != order_.end() && at->starts_with(folded);
-         ++at) {
-        const String name = at->substr(at->find(u'\0') + 1);
-        visit(name, entries_.at(name));
-    }
+    for (auto at = order_.lower_bound(folded); at != order_.end() && at->first.starts_with(folded);
+         ++at)
+        visit(at->second->first, at->second->second);
 }
 
 }  // namespace tamber

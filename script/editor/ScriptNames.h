@@ -1,7 +1,7 @@
 #pragma once
 
 #include <functional>
-#include <set>
+#include <map>
 #include <unordered_map>
 #include <vector>
 
@@ -46,9 +46,11 @@ public:
 private:
     void Count(const std::vector<ScriptName>& names, Long by);
 
-    std::unordered_map<String, Entry> entries_;
-    /// Each name in lower case, a NUL, and the name itself.
-    std::set<String> order_;
+    using Entries = std::unordered_map<String, Entry>;
+
+    Entries entries_;
+    /// The entries by the name in lower case, a NUL, and the name itself.
+    std::map<String, const Entries::value_type*> order_;
     /// The state that each piece was read in.
     std::vector<ScriptState> states_;
 };
