@@ -13,6 +13,8 @@ public:
 
     const Raster& Pixels() const { return pixels_; }
     cairo_surface_t* Surface() const { return surface_.get(); }
+    /// The picture at half its size, each pixel the mean of four; made when it is first asked for.
+    const std::shared_ptr<const BitmapCharacter>& Halved() const;
     void Draw(Painter& painter, const PaintState& state) const override;
     PaintBox Bounds(const PaintState& state) const override;
 
@@ -22,6 +24,7 @@ private:
 
     Raster pixels_;
     RasterSurface surface_;
+    mutable std::shared_ptr<const BitmapCharacter> halved_;
 };
 
 }  // namespace tamber

@@ -14,7 +14,8 @@ struct PaintOptions {
     double Scale = 1;
     /// Sprites go on with the timeline; else they stand on their first frame.
     bool blAnimate = false;
-    /// Lines are drawn with coarser edges, in half of the time.
+    /// Lines are drawn with coarser edges, in half of the time, and small pictures from smaller
+    /// copies of themselves.
     bool blQuick = false;
     /// Texts of fields by the names of their variables.
     std::map<String, String> Texts{};

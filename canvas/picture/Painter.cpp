@@ -87,6 +87,21 @@ constexpr double MostFilteredPixels = 1 << 22;
 /// Pixels of a filtered object that is kept for the next picture.
 constexpr double MostKeptPixels = 1 << 20;
 
+/// A picture that is shown at half its size or less, halved as often as it still has all the pixels
+/// that are seen; `matrix` from its pixels to twips follows. Far fewer of them are looked at.
+std::shared_ptr<const BitmapCharacter> SmallEnough(std::shared_ptr<const BitmapCharacter> bitmap,
+                                                   const PaintState& state,
+                                                   cairo_matrix_t& matrix) {
+    cairo_matrix_t shown;
+    cairo_matrix_multiply(&shown, &matrix, &state.Matrix);
+    double scale = std::max(Stretch(shown.xx, shown.yx), Stretch(shown.xy, shown.yy));
+    for (; scale > 0 && scale <= 0.5 && bitmap->Pixels().Pixels().size() > 1; scale *= 2) {
+        bitmap = bitmap->Halved();
+        cairo_matrix_scale(&matrix, 2, 2);
+    }
+    return bitmap;
+}
+
 /// Modes that blend the opacity of the layer around them; where there is none nothing is seen.
 bool NeedsLayer(BlendMode mode) {
     return mode == BlendMode::Alpha || mode == BlendMode::Erase;
@@ -196,8 +211,8 @@ void Painter::DrawGroup(const Placement& placement, const PaintState& state) {
     const double left = std::floor(state.Matrix.x0);
     const double top = std::floor(state.Matrix.y0);
     PaintState atOrigin = MovedBy(state, -left, -top);
-    const PaintCache::FilterKey key{placement.Shown,     atOrigin.Matrix, state.Colors,
-                                    placement.Filters,   state.Ratio,     state.Frame,
+    const PaintCache::FilterKey key{placement.Shown,      atOrigin.Matrix, state.Colors,
+                                    placement.Filters,    state.Ratio,     state.Frame,
                                     state.Options->Scale, placement.Name};
     const auto kept = cache_.Filtered(key, [&] {
         return FilteredWithin(placement, atOrigin, placement.Shown->Bounds(atOrigin).Outwards());
@@ -343,9 +358,11 @@ bool Painter::SetSource(const PictureFill& fill, const PaintState& state) {
 }
 
 bool Painter::SetBitmapSource(const PictureFill& fill, const PaintState& state) {
+    if (!fill.Bitmap) return false;
     cairo_matrix_t matrix = fill.Matrix;
-    if (!fill.Bitmap || !Inverted(matrix)) return false;
-    const auto bitmap = cache_.Tinted(fill.Bitmap, state.Colors);
+    auto bitmap = cache_.Tinted(fill.Bitmap, state.Colors);
+    if (state.Options->blQuick && fill.blSmooth) bitmap = SmallEnough(bitmap, state, matrix);
+    if (!Inverted(matrix)) return false;
     const PatternPointer pattern(cairo_pattern_create_for_surface(bitmap->Surface()));
     cairo_pattern_set_matrix(pattern.get(), &matrix);
     cairo_pattern_set_extend(pattern.get(), fill.Spread);

@@ -52,7 +52,8 @@ void SnapshotWriter::Place(const Timeline& timeline, Long index, const LayerPlac
     tag->LayerIndex = index;
     // There is nothing else that a video without pictures is known by.
     const clsLayer& layer = *timeline.Layers(index);
-    if (layer.SymbolData()->eType() == KindMovieEmp)
+    const Long kind = layer.SymbolData()->eType();
+    if (kind == KindMovie || kind == KindMovieEmp)
         tag->Name = layer.InstanceName.empty() ? layer.SymbolData()->Value() : layer.InstanceName;
     if (timeline.IsMain()) placed_.push_back(std::move(tag));
 }

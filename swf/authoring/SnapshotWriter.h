@@ -25,6 +25,10 @@ public:
     bool HasScripts() const override { return false; }
 
 protected:
+    /// Of a video the place is shown.
+    bool CanPlace(Long kind) const override {
+        return kind == KindMovie || TimelineWalk::CanPlace(kind);
+    }
     bool IsWalked(const Timeline& timeline, Long index, Long depth, Long depths) const override;
     void Place(const Timeline& timeline, Long index, const LayerPlace& place,
                LayerCharacters& characters) override;

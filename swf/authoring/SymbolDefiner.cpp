@@ -21,6 +21,10 @@ namespace {
 /// Version of the movie from which a picture itself is exported, and not the shape that shows it.
 constexpr Long BitmapExportVersion = 8;
 
+/// Pixels of a video whose file tells none.
+constexpr Long UsualVideoWidth = 320;
+constexpr Long UsualVideoHeight = 240;
+
 }  // namespace
 
 bool SymbolDefiner::HasCharacter(const clsSymbolData& symbol, Long version) {
@@ -79,8 +83,10 @@ Long SymbolDefiner::DefineByKind(clsSWFAdmin& admin, const clsSymbolData& symbol
             return DefineVector(admin, symbol, form, frame);
         case KindSprite:
             return DefineSprite(admin, symbol, frame);
+        case KindMovie:
+            return writer_.HasScripts() ? 0 : DefineVideoPlace(admin, symbol, frame);
         case KindMovieEmp:
-            return DefineMovieEmp(admin, *symbol.Property<clsPropertyMovieEmp>(), frame);
+            return DefineVideoPlace(admin, symbol, frame);
         case KindButton:
             DefineButtonStates(admin, *symbol.Property<clsPropertyButton>(), frame);
             return 0;
@@ -181,10 +187,12 @@ Long SymbolDefiner::GetNewClass(clsSWFAdmin& admin, const clsPropertyClass& reco
     return AddSprite(admin, inner, frame);
 }
 
-Long SymbolDefiner::DefineMovieEmp(clsSWFAdmin& admin, const clsPropertyMovieEmp& record,
-                                   Long frame) {
+Long SymbolDefiner::DefineVideoPlace(clsSWFAdmin& admin, const clsSymbolData& symbol, Long frame) {
     if (build_.Version() < MovieVersion) return 0;
-    const auto tag = admin.GetNewVideoStreamEmp(record.Width, record.height);
+    const bool isSized = symbol.PixelWidth() > 0 && symbol.PixelHeight() > 0;
+    const auto tag = isSized || symbol.eType() == KindMovieEmp
+                         ? admin.GetNewVideoStreamEmp(symbol.PixelWidth(), symbol.PixelHeight())
+                         : admin.GetNewVideoStreamEmp(UsualVideoWidth, UsualVideoHeight);
     admin.AddTag(frame, tag, true);
     return tag->ID;
 }

@@ -6,7 +6,6 @@
 
 #include "document/records/clsPropertyButton.h"
 #include "document/records/clsPropertyClass.h"
-#include "document/records/clsPropertyMovieEmp.h"
 #include "swf/authoring/ButtonDefinition.h"
 #include "swf/authoring/LayerCharacters.h"
 #include "swf/authoring/MovieBuild.h"
@@ -51,7 +50,8 @@ private:
     void DefineSpriteChildren(clsSWFAdmin& admin, const clsPropertySprite& sprite, Long frame);
     /// A class is an empty sprite whose init action makes it.
     Long GetNewClass(clsSWFAdmin& admin, const clsPropertyClass& record, Long frame);
-    Long DefineMovieEmp(clsSWFAdmin& admin, const clsPropertyMovieEmp& record, Long frame);
+    /// The place of a video, without pictures.
+    Long DefineVideoPlace(clsSWFAdmin& admin, const clsSymbolData& symbol, Long frame);
     Long DefineLink(clsSWFAdmin& admin, const clsSymbolData& symbol, Long frame);
     ButtonCharacters DefineButtonStates(clsSWFAdmin& admin, const clsPropertyButton& button,
                                         Long frame);

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "document/elements/SymbolKinds.h"
 #include "swf/authoring/TimelineRows.h"
 #include "swf/authoring/mdlSWFAuthoring.h"
 
@@ -56,7 +55,7 @@ void TimelineWalk::WriteLayer(const Timeline& timeline, Long index, Long& depth)
     const Long depths = KindOf(kind).blTakesDepths ? layer.DepthCnt(true) : 0;
     if (depths == 0) return;
     if (topToBottom_) depth -= depths - 1;
-    if (!KindOf(kind).blPlaced)
+    if (!CanPlace(kind))
         build_.Left.LeaveOut(layer);
     else if (IsWalked(timeline, index, depth, depths))
         PlaceLayer(timeline, index, depth);

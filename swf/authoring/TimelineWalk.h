@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/elements/SymbolKinds.h"
 #include "swf/authoring/LayerCharacters.h"
 #include "swf/authoring/LayerPlace.h"
 #include "swf/authoring/SymbolDefiner.h"
@@ -23,6 +24,8 @@ protected:
 
     /// A row with so many depths from `depth` on has something for the walk.
     virtual bool IsWalked(const Timeline& timeline, Long index, Long depth, Long depths) const = 0;
+    /// Rows of the kind have something to place; others are told to be left out.
+    virtual bool CanPlace(Long kind) const { return KindOf(kind).blPlaced; }
     /// Writes what of a row takes no depth.
     virtual void WriteUnplaced(const Timeline& /*timeline*/, const clsLayer& /*layer*/) {}
     virtual void Place(const Timeline& timeline, Long index, const LayerPlace& place,

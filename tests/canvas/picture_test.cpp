@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "canvas/picture/BitmapCharacter.h"
 #include "canvas/picture/FramePicture.h"
 #include "canvas/picture/HtmlText.h"
 #include "canvas/picture/PictureHits.h"
@@ -133,6 +134,20 @@ TEST(Pictures, tell_what_lies_under_a_place_from_the_top_down) {
     // The mask hides the rest of it.
     EXPECT_TRUE(at(70, 5).empty());
     EXPECT_TRUE(at(110, 70).empty());
+}
+
+TEST(Pictures, drawn_quickly_show_small_bitmaps_from_smaller_copies) {
+    Raster checks(65, 64);
+    for (Long y = 0; y < 64; ++y)
+        for (Long x = 0; x < 65; ++x) checks.Row(y)[x] = (x + y) % 2 == 0 ? 0xFFFFFFFF : 0xFF000000;
+    TimelineStep step = Place(1, std::make_shared<BitmapCharacter>(std::move(checks)), 0, 0);
+    step.Matrix = cairo_matrix_t{0.25, 0, 0, 0.25, 0, 0};
+    const auto movie = MovieOf({step});
+    PictureView view = ViewOfStage(movie->Stage, 1);
+    view.Options.blQuick = true;
+    const Raster picture = MoviePicture(movie).Draw(1, view);
+    for (Long x = 1; x < 15; ++x) EXPECT_NEAR(picture.Row(8)[x] & 0xFF, 127, 2) << x;
+    EXPECT_EQ(picture.Row(8)[17], WhitePixel);
 }
 
 TEST(Pictures, show_a_video_as_an_outline_with_its_name) {

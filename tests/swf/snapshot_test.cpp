@@ -419,6 +419,10 @@ TEST_F(SnapshotTest, an_empty_movie_is_a_stream_of_its_size_with_a_name_to_be_kn
     EXPECT_TRUE(nameEnds({'f', 'i', 'l', 'm', 0}));
     layer->InstanceName = u"v1";
     EXPECT_TRUE(nameEnds({'v', '1', 0}));
+    // A video shows its place, too, in pictures only: of 320 by 240 as long as nothing is known.
+    auto video = std::make_shared<clsSymbolData>(KindMovie);
+    layer->SymbolData(AddSymbol(video));
+    EXPECT_EQ(Snapshot(1, 8).Bodies(60).at(0), (Bytes{1, 0, 0, 0, 0x40, 1, 0xF0, 0, 0, 0}));
 }
 
 }  // namespace
